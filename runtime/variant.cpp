@@ -78,3 +78,10 @@ QVariant longVariant(qint32 v) { return QVariant::fromValue<int>(v); }
 QVariant doubleVariant(double v) { return QVariant::fromValue<double>(v); }
 
 } // namespace qor
+
+namespace qor {
+
+QVariant missingVariant() { return QVariant::fromValue(MissingArgument()); }
+bool isMissing(const QVariant &v) { return v.metaType() == QMetaType::fromType<MissingArgument>(); }
+
+} // namespace qor

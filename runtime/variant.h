@@ -42,3 +42,18 @@ QVariant longVariant(qint32 v);
 QVariant doubleVariant(double v);
 
 } // namespace qor
+
+namespace qor {
+
+// The value an automation call passes for an optional argument left out.
+struct MissingArgument
+{
+    bool operator==(const MissingArgument &) const { return true; }
+};
+
+QVariant missingVariant();
+bool isMissing(const QVariant &v);
+
+} // namespace qor
+
+Q_DECLARE_METATYPE(qor::MissingArgument)

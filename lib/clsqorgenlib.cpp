@@ -1,0 +1,98 @@
+#include "lib/clsqorgenlib.h"
+
+#include "input/amounts.h"
+#include "input/editing.h"
+#include "input/textfilters.h"
+#include "lib/catalogue.h"
+#include "lib/latebinding.h"
+#include "lib/modgenlib.h"
+#include "lib/typelibrary.h"
+#include "lib/windowsize.h"
+#include "platform/platform.h"
+#include "runtime/conversion.h"
+#include "system/stationflags.h"
+
+using namespace qor;
+
+namespace {
+
+RegionalSettings regional() { return platform().regionalSettings(); }
+
+} // namespace
+
+clsqorGenLib::clsqorGenLib(QObject *parent)
+    : QObject(parent)
+{
+    // Construction order is part of the contract: the station flag comes last.
+    m_vbSplit = QString(2, QChar(0x00AD));
+    m_vbCr2 = QString(2, QChar(13));
+    m_vbRequery = true;
+    m_Offset = 0;
+    m_FieldExt = QStringLiteral("NL");
+    m_NbrDec = 0;
+    m_BtwTar1 = 0;
+    m_BtwTar2 = 0;
+    modGenLib().calculatorFlag = false;
+    modGenLib().calculatorMode = 0;
+    m_KlantPC = GetKlantPC();
+}
+
+clsqorGenLib::~clsqorGenLib() = default;
+
+const TypeLibrary &clsqorGenLib::typeLibrary()
+{
+    static const TypeLibrary library(&clsqorGenLib::staticMetaObject, { &qorGenLib::staticMetaObject },
+                                     { &qorGenLib::WindowSize::staticMetaObject });
+    return library;
+}
+
+QVariant clsqorGenLib::Invoke(const QString &name, QVariantList &args)
+{
+    return LateBinding(this, typeLibrary()).invoke(name, args);
+}
+
+QVariant clsqorGenLib::Invoke(const QString &name, const QVariantList &args)
+{
+    QVariantList copy = args;
+    return Invoke(name, copy);
+}
+
+void clsqorGenLib::useMyLanguage() const { modGenLib().languageOffset = m_Offset; }
+
+QString clsqorGenLib::LLGenLib(qint32 ResOffsetCode) { return Catalogue::llGenLib(ResOffsetCode); }
+
+QVariant clsqorGenLib::FilterNumeric(QVariant &Ingave)
+{
+    Ingave = toText(Ingave, regional());
+    return filterNumeric(Ingave.toString());
+}
+
+QVariant clsqorGenLib::FilterAccenten(QVariant &Text, const QString &OnlyThese)
+{
+    Text = toText(Text, regional());
+    return filterAccenten(Text.toString(), OnlyThese);
+}
+
+QString clsqorGenLib::FilterText(const QString &Text, bool FilterAccent, const QString &DoNotRemove)
+{
+    return filterText(Text, FilterAccent, DoNotRemove);
+}
+
+QString clsqorGenLib::SCase(QString &xText)
+{
+    xText = lowerCase(xText);
+    return sCase(xText);
+}
+
+void clsqorGenLib::SelEdit(QObject *Obj, bool StartAtEnd, bool Flexgrid) { selEdit(Obj, StartAtEnd, Flexgrid); }
+
+QVariant clsqorGenLib::CGetal(const QVariant &Number) { return cGetal(Number, regional()); }
+
+QString clsqorGenLib::SetEuro(float Value, qorGenLib::OstSymbolType AddSymbol)
+{
+    return setEuro(Value, AddSymbol, regional());
+}
+
+void clsqorGenLib::SendAKey(short KeyAscii) { sendAKey(KeyAscii); }
+
+bool clsqorGenLib::GetKlantPC() { return getKlantPC(); }

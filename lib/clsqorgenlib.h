@@ -1,0 +1,106 @@
+#pragma once
+
+#include "lib/qorenums.h"
+
+#include <QObject>
+#include <QString>
+#include <QVariant>
+#include <QVariantList>
+
+namespace qor {
+class TypeLibrary;
+}
+
+// The library object a host creates once and keeps. Its properties are shared
+// storage for the host's forms plus the language and VAT settings the library
+// reads; its methods forward to the subsystems. Every method and property can
+// also be reached by name through Invoke.
+//
+// Optional arguments are published as class info: one JSON object per method,
+// parameter name to default value (null when the argument has no default).
+class clsqorGenLib : public QObject
+{
+    Q_OBJECT
+    Q_CLASSINFO("FilterAccenten", "{\"OnlyThese\": \"\"}")
+    Q_CLASSINFO("FilterText", "{\"FilterAccent\": false, \"DoNotRemove\": \"\"}")
+    Q_CLASSINFO("CGetal", "{\"Number\": 0}")
+    Q_CLASSINFO("SetEuro", "{\"AddSymbol\": 0}")
+    Q_CLASSINFO("SelEdit", "{\"StartAtEnd\": false, \"Flexgrid\": false}")
+
+    Q_PROPERTY(QString msg MEMBER m_msg)
+    Q_PROPERTY(QString SQL MEMBER m_SQL)
+    Q_PROPERTY(QVariant FlowCTL MEMBER m_FlowCTL)
+    Q_PROPERTY(bool UserCancel MEMBER m_UserCancel)
+    Q_PROPERTY(bool FrmAct MEMBER m_FrmAct)
+    Q_PROPERTY(bool AnEd MEMBER m_AnEd)
+    Q_PROPERTY(QVariant HoldSysData MEMBER m_HoldSysData)
+    Q_PROPERTY(qint32 HoldErr MEMBER m_HoldErr)
+    Q_PROPERTY(QString HoldErrDes MEMBER m_HoldErrDes)
+    Q_PROPERTY(QString vbCr2 MEMBER m_vbCr2)
+    Q_PROPERTY(QString vbSplit MEMBER m_vbSplit)
+    Q_PROPERTY(bool vbRequery MEMBER m_vbRequery)
+    Q_PROPERTY(bool vbSee MEMBER m_vbSee)
+    Q_PROPERTY(qint32 Offset MEMBER m_Offset)
+    Q_PROPERTY(QString FieldExt MEMBER m_FieldExt)
+    Q_PROPERTY(bool DataCH MEMBER m_DataCH)
+    Q_PROPERTY(bool KlantPC MEMBER m_KlantPC)
+    Q_PROPERTY(qint32 BtwTar1 MEMBER m_BtwTar1)
+    Q_PROPERTY(qint32 BtwTar2 MEMBER m_BtwTar2)
+    Q_PROPERTY(qint32 NbrDec MEMBER m_NbrDec)
+    Q_PROPERTY(QString NbrDecFmt MEMBER m_NbrDecFmt)
+
+public:
+    explicit clsqorGenLib(QObject *parent = nullptr);
+    ~clsqorGenLib() override;
+
+    // Late binding: calls a method or property by name (see qor::LateBinding).
+    QVariant Invoke(const QString &name, QVariantList &args);
+    QVariant Invoke(const QString &name, const QVariantList &args = {});
+    // The published type information: methods, properties, enumerations, records.
+    static const qor::TypeLibrary &typeLibrary();
+
+    // Language catalogue.
+    Q_INVOKABLE QString LLGenLib(qint32 ResOffsetCode);
+
+    // Text filters and case.
+    Q_INVOKABLE QVariant FilterNumeric(QVariant &Ingave);
+    Q_INVOKABLE QVariant FilterAccenten(QVariant &Text, const QString &OnlyThese = QString());
+    Q_INVOKABLE QString FilterText(const QString &Text, bool FilterAccent = false,
+                                   const QString &DoNotRemove = QString());
+    Q_INVOKABLE QString SCase(QString &xText);
+
+    // Editing and amount helpers.
+    Q_INVOKABLE void SelEdit(QObject *Obj, bool StartAtEnd = false, bool Flexgrid = false);
+    Q_INVOKABLE QVariant CGetal(const QVariant &Number = QVariant::fromValue<short>(0));
+    Q_INVOKABLE QString SetEuro(float Value, qorGenLib::OstSymbolType AddSymbol = qorGenLib::vbSymbolNone);
+    Q_INVOKABLE void SendAKey(short KeyAscii);
+
+    // Station flags.
+    Q_INVOKABLE bool GetKlantPC();
+
+private:
+    // Methods that may show a catalogue text first hand over their language.
+    void useMyLanguage() const;
+
+    QString m_msg;
+    QString m_SQL;
+    QVariant m_FlowCTL;
+    bool m_UserCancel = false;
+    bool m_FrmAct = false;
+    bool m_AnEd = false;
+    QVariant m_HoldSysData;
+    qint32 m_HoldErr = 0;
+    QString m_HoldErrDes;
+    QString m_vbCr2;
+    QString m_vbSplit;
+    bool m_vbRequery = false;
+    bool m_vbSee = false;
+    qint32 m_Offset = 0;
+    QString m_FieldExt;
+    bool m_DataCH = false;
+    bool m_KlantPC = false;
+    qint32 m_BtwTar1 = 0;
+    qint32 m_BtwTar2 = 0;
+    qint32 m_NbrDec = 0;
+    QString m_NbrDecFmt;
+};

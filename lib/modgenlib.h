@@ -1,0 +1,33 @@
+#pragma once
+
+#include <QObject>
+#include <QPointer>
+#include <QString>
+
+namespace qor {
+
+// State shared by every library object and the library's dialogs of one thread:
+// the language of the next text, the last dialog answers, the sound switch, the
+// scanner buffer, the host's application object and the calculator's registers.
+struct ModGenLib
+{
+    qint32 languageOffset = 0;
+    qint32 msgBoxResult = 0;
+    QString inputBoxResult;
+    bool soundOff = false;
+    QString scannerBuffer;
+    QPointer<QObject> application;
+    double calculatorRegister = 0;
+    bool calculatorFlag = false;
+    qint32 calculatorMode = 0;
+
+    // The copy of the calling thread.
+    static ModGenLib &current();
+    // Starts the calling thread over with fresh state.
+    static void reset();
+};
+
+// The calling thread's module state.
+inline ModGenLib &modGenLib() { return ModGenLib::current(); }
+
+} // namespace qor

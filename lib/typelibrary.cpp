@@ -1,0 +1,189 @@
+#include "lib/typelibrary.h"
+
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QMetaClassInfo>
+#include <QMetaEnum>
+#include <QMetaMethod>
+#include <QMetaProperty>
+
+namespace qor {
+
+namespace {
+
+QJsonObject optionalArguments(const QMetaObject *cls, const QByteArray &method)
+{
+    const int index = cls->indexOfClassInfo(method.constData());
+    if (index < 0)
+        return {};
+    return QJsonDocument::fromJson(cls->classInfo(index).value()).object();
+}
+
+// A published default in the parameter's own type; whole numbers passed as a
+// Variant keep the Integer subtype an automation default has.
+QVariant defaultValueFor(const QJsonValue &json, QMetaType type)
+{
+    if (json.isNull() || json.isUndefined())
+        return {};
+    QVariant value = json.toVariant();
+    if (type.id() == QMetaType::QVariant) {
+        if (json.isDouble() && json.toDouble() == qint16(json.toDouble()))
+            return QVariant::fromValue<short>(qint16(json.toDouble()));
+        return value;
+    }
+    if (type.flags() & QMetaType::IsEnumeration)
+        return QVariant::fromValue<int>(json.toInt());
+    value.convert(type);
+    return value;
+}
+
+} // namespace
+
+TypeLibrary::TypeLibrary(const QMetaObject *cls, const QList<const QMetaObject *> &enumScopes,
+                         const QList<const QMetaObject *> &records)
+{
+    readMethods(cls);
+    readProperties(cls);
+    for (const QMetaObject *scope : enumScopes)
+        readEnums(scope);
+    for (const QMetaObject *record : records)
+        readRecord(record);
+}
+
+QString TypeLibrary::typeName(QMetaType type)
+{
+    switch (type.id()) {
+    case QMetaType::UnknownType:
+    case QMetaType::Void: return QString();
+    case QMetaType::QString: return QStringLiteral("String");
+    case QMetaType::Bool: return QStringLiteral("Boolean");
+    case QMetaType::Int: return QStringLiteral("Long");
+    case QMetaType::Short: return QStringLiteral("Integer");
+    case QMetaType::UChar: return QStringLiteral("Byte");
+    case QMetaType::Float: return QStringLiteral("Single");
+    case QMetaType::Double: return QStringLiteral("Double");
+    case QMetaType::LongLong: return QStringLiteral("Currency");
+    case QMetaType::QVariant: return QStringLiteral("Variant");
+    case QMetaType::QObjectStar: return QStringLiteral("Object");
+    case QMetaType::QDateTime:
+    case QMetaType::QDate: return QStringLiteral("Date");
+    case QMetaType::QVariantList: return QStringLiteral("Variant()");
+    case QMetaType::QStringList: return QStringLiteral("String()");
+    default: break;
+    }
+    if (type.flags() & QMetaType::PointerToQObject)
+        return QStringLiteral("Object");
+    QString name = QString::fromLatin1(type.name());
+    const int scope = name.lastIndexOf(QLatin1String("::"));
+    return scope >= 0 ? name.mid(scope + 2) : name;
+}
+
+QString TypeLibrary::publishedMemberName(const QString &enumName, const QString &cppName)
+{
+    if (enumName == QLatin1String("OstSymbolType") && cppName == QLatin1String("vbSymbolEuro"))
+        return QStringLiteral("vbSymbol\u20AC");
+    if (enumName == QLatin1String("OstBetalingswijze") && cppName.startsWith(QLatin1String("btDomiciliering"))) {
+        QString published = cppName;
+        return published.replace(QLatin1String("btDomiciliering"), QStringLiteral("btDomicili\u00EBring"));
+    }
+    return cppName;
+}
+
+void TypeLibrary::readMethods(const QMetaObject *cls)
+{
+    for (int i = cls->methodOffset(); i < cls->methodCount(); ++i) {
+        const QMetaMethod method = cls->method(i);
+        // Overloads that leave out defaulted arguments are generated copies.
+        if (method.methodType() != QMetaMethod::Method || (method.attributes() & QMetaMethod::Cloned))
+            continue;
+        MethodInfo info;
+        info.name = QString::fromLatin1(method.name());
+        info.returnType = typeName(method.returnMetaType());
+        info.methodIndex = i;
+        const QJsonObject optional = optionalArguments(cls, method.name());
+        const QList<QByteArray> names = method.parameterNames();
+        const QList<QByteArray> types = method.parameterTypes();
+        for (int p = 0; p < method.parameterCount(); ++p) {
+            ParameterInfo param;
+            param.name = QString::fromLatin1(names.value(p));
+            param.metaType = method.parameterMetaType(p);
+            param.type = typeName(param.metaType);
+            param.byRef = types.value(p).endsWith('&');
+            param.optional = optional.contains(param.name);
+            if (param.optional)
+                param.defaultValue = defaultValueFor(optional.value(param.name), param.metaType);
+            info.parameters.append(param);
+        }
+        m_methods.append(info);
+    }
+}
+
+void TypeLibrary::readProperties(const QMetaObject *cls)
+{
+    for (int i = cls->propertyOffset(); i < cls->propertyCount(); ++i) {
+        const QMetaProperty property = cls->property(i);
+        m_properties.append({ QString::fromLatin1(property.name()), typeName(property.metaType()) });
+    }
+}
+
+void TypeLibrary::readEnums(const QMetaObject *scope)
+{
+    for (int i = scope->enumeratorOffset(); i < scope->enumeratorCount(); ++i) {
+        const QMetaEnum meta = scope->enumerator(i);
+        EnumInfo info;
+        info.name = QString::fromLatin1(meta.enumName());
+        for (int k = 0; k < meta.keyCount(); ++k)
+            info.members.append({ publishedMemberName(info.name, QString::fromLatin1(meta.key(k))), meta.value(k) });
+        m_enums.append(info);
+    }
+}
+
+void TypeLibrary::readRecord(const QMetaObject *record)
+{
+    RecordInfo info;
+    info.name = QString::fromLatin1(record->className());
+    info.name = info.name.mid(info.name.lastIndexOf(QLatin1Char(':')) + 1);
+    for (int i = record->propertyOffset(); i < record->propertyCount(); ++i)
+        info.fields.append({ QString::fromLatin1(record->property(i).name()), typeName(record->property(i).metaType()) });
+    m_records.append(info);
+}
+
+const MethodInfo *TypeLibrary::findMethod(const QString &name) const
+{
+    for (const MethodInfo &method : m_methods) {
+        if (method.name.compare(name, Qt::CaseInsensitive) == 0)
+            return &method;
+    }
+    return nullptr;
+}
+
+const PropertyInfo *TypeLibrary::findProperty(const QString &name) const
+{
+    for (const PropertyInfo &property : m_properties) {
+        if (property.name.compare(name, Qt::CaseInsensitive) == 0)
+            return &property;
+    }
+    return nullptr;
+}
+
+const EnumInfo *TypeLibrary::findEnumeration(const QString &name) const
+{
+    for (const EnumInfo &info : m_enums) {
+        if (info.name.compare(name, Qt::CaseInsensitive) == 0)
+            return &info;
+    }
+    return nullptr;
+}
+
+std::optional<qint32> TypeLibrary::enumValue(const QString &memberName) const
+{
+    for (const EnumInfo &info : m_enums) {
+        for (const EnumMemberInfo &member : info.members) {
+            if (member.name.compare(memberName, Qt::CaseInsensitive) == 0)
+                return member.value;
+        }
+    }
+    return std::nullopt;
+}
+
+} // namespace qor

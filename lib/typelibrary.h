@@ -1,0 +1,93 @@
+#pragma once
+
+#include <QList>
+#include <QMetaObject>
+#include <QString>
+#include <QVariant>
+
+#include <optional>
+
+namespace qor {
+
+struct ParameterInfo
+{
+    QString name;
+    QString type; // "String", "Boolean", "Long", "Integer", "Single", "Double", "Variant", "Object", "Date", or an enumeration
+    bool byRef = false;
+    bool optional = false;
+    QVariant defaultValue; // invalid when the optional argument has no default
+    QMetaType metaType;
+};
+
+struct MethodInfo
+{
+    QString name;
+    QString returnType; // empty for a method without result
+    QList<ParameterInfo> parameters;
+    int methodIndex = -1;
+};
+
+struct PropertyInfo
+{
+    QString name;
+    QString type;
+};
+
+struct EnumMemberInfo
+{
+    QString name;
+    qint32 value = 0;
+};
+
+struct EnumInfo
+{
+    QString name;
+    QList<EnumMemberInfo> members; // in declaration order
+};
+
+struct RecordInfo
+{
+    QString name;
+    QList<PropertyInfo> fields;
+};
+
+// The published type information of an automation class, read from its
+// meta-object: invokable methods with their parameters, properties, and the
+// enumerations and records published beside it. Optional arguments and their
+// defaults come from the class info entry named after the method, a JSON object
+// of parameter name to default (null for an optional argument without one).
+class TypeLibrary
+{
+public:
+    TypeLibrary(const QMetaObject *cls, const QList<const QMetaObject *> &enumScopes,
+                const QList<const QMetaObject *> &records);
+
+    const QList<MethodInfo> &methods() const { return m_methods; }
+    const QList<PropertyInfo> &properties() const { return m_properties; }
+    const QList<EnumInfo> &enumerations() const { return m_enums; }
+    const QList<RecordInfo> &records() const { return m_records; }
+
+    // Look-ups regardless of case, as an automation call names them.
+    const MethodInfo *findMethod(const QString &name) const;
+    const PropertyInfo *findProperty(const QString &name) const;
+    const EnumInfo *findEnumeration(const QString &name) const;
+    std::optional<qint32> enumValue(const QString &memberName) const;
+
+    // The library's name of a Qt type ("QString" -> "String").
+    static QString typeName(QMetaType type);
+    // The published name of an enumeration member that C++ spells otherwise.
+    static QString publishedMemberName(const QString &enumName, const QString &cppName);
+
+private:
+    void readMethods(const QMetaObject *cls);
+    void readProperties(const QMetaObject *cls);
+    void readEnums(const QMetaObject *scope);
+    void readRecord(const QMetaObject *record);
+
+    QList<MethodInfo> m_methods;
+    QList<PropertyInfo> m_properties;
+    QList<EnumInfo> m_enums;
+    QList<RecordInfo> m_records;
+};
+
+} // namespace qor

@@ -1,0 +1,65 @@
+#pragma once
+
+#include "platform/platform.h"
+
+#include <QHash>
+
+class QProcess;
+
+namespace qor {
+
+// The machine as a headless host sees it, through Qt Core alone: the real
+// clock, files and processes, the system's regional settings. With no screen
+// to show dialogs on, every dialog takes its default answer (Enter, OK on the
+// default text, the calculator closed at once) and sounds and keys go nowhere.
+class CorePlatform : public Platform
+{
+public:
+    CorePlatform();
+    ~CorePlatform() override;
+
+    QDateTime now() const override;
+    RegionalSettings regionalSettings() const override;
+    void setRegionalSettings(const RegionalSettings &settings);
+
+    int messageBoxE(const MessageBoxERequest &request) override;
+    int systemMessageBox(const SystemMessageBoxRequest &request) override;
+    InputBoxEAnswer inputBoxE(const InputBoxERequest &request) override;
+    CalculatorAnswer calculator(const CalculatorRequest &request) override;
+    void showNote(const QString &text) override;
+    void beep() override;
+    void processEvents() override;
+
+    void playSound(const QString &file, bool continuous) override;
+    void stopSound() override;
+
+    bool fileExists(const QString &path) const override;
+    bool directoryExists(const QString &path) const override;
+    bool makeDirectory(const QString &path) override;
+    QList<FileEntry> listFiles(const QString &directory, const QString &wildcard) const override;
+    std::optional<QByteArray> readFile(const QString &path) const override;
+    bool writeFile(const QString &path, const QByteArray &contents) override;
+    QString systemDirectory() const override;
+    void setSystemDirectory(const QString &path);
+
+    qint64 startProcess(const QString &commandLine, int windowStyle) override;
+    void waitForProcess(qint64 processId) override;
+    void shutDown() override;
+
+    ScreenInfo screen() const override;
+    void setMousePointer(int pointer) override;
+
+    int virtualKeyOf(int ansiCode) const override;
+    int scanCodeOf(int ansiCode) const override;
+    void keyEvent(int virtualKey, int scanCode, int flags) override;
+
+    // A Windows-style path ("C:\data\x.ini") as a path of this machine.
+    static QString localPath(const QString &path);
+
+private:
+    RegionalSettings m_settings;
+    QString m_systemDirectory;
+    QHash<qint64, QProcess *> m_processes;
+};
+
+} // namespace qor

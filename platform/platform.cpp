@@ -1,0 +1,35 @@
+#include "platform/platform.h"
+
+#include "platform/coreplatform.h"
+
+namespace qor {
+
+namespace {
+
+std::shared_ptr<Platform> &threadPlatform()
+{
+    thread_local std::shared_ptr<Platform> installed;
+    return installed;
+}
+
+} // namespace
+
+Platform::~Platform() = default;
+
+Platform &Platform::current()
+{
+    auto &installed = threadPlatform();
+    if (!installed)
+        installed = std::make_shared<CorePlatform>();
+    return *installed;
+}
+
+std::shared_ptr<Platform> Platform::install(std::shared_ptr<Platform> platform)
+{
+    auto &installed = threadPlatform();
+    std::shared_ptr<Platform> previous = std::move(installed);
+    installed = std::move(platform);
+    return previous;
+}
+
+} // namespace qor

@@ -1,0 +1,158 @@
+#pragma once
+
+#include "runtime/regionalsettings.h"
+
+#include <QDateTime>
+#include <QList>
+#include <QPoint>
+#include <QRect>
+#include <QString>
+#include <QStringList>
+#include <QVariant>
+
+#include <functional>
+#include <memory>
+#include <optional>
+
+namespace qor {
+
+// One button of a dialog as the library laid it out.
+struct DialogButton
+{
+    QString name; // "cmdOK", "cmdCancel", "cmdYes", "cmdNo"
+    QString caption;
+    int result = 0;
+};
+
+// The extended message box, fully prepared by the library: what to show and
+// how keys and scanner codes map to results (0: the key chooses nothing).
+struct MessageBoxERequest
+{
+    QString prompt;
+    int style = 0; // the style value the caller passed
+    QString title; // the title the caller passed
+    QString caption; // the title bar text actually shown
+    int type = 4; // 0 Critical, 1 Exclamation, 2 Information, 3 Question, 4 Message
+    QString typeName; // "Critical", "Exclamation", ...
+    QList<DialogButton> buttons; // visible buttons, left to right
+    std::function<int(const QString &key)> resultForKey; // "Enter", "Escape", "J", ...
+    std::function<int(const QString &scan)> resultForScan; // text typed by a scanner, e.g. "%[OK]"
+};
+
+struct SystemMessageBoxRequest
+{
+    QString prompt;
+    int style = 0;
+    QString title;
+};
+
+struct InputBoxERequest
+{
+    QString prompt;
+    QString title;
+    QString caption;
+    QString defaultValue;
+    int maxLength = 250;
+    QString okCaption;
+    QString cancelCaption;
+};
+
+struct InputBoxEAnswer
+{
+    bool cancelled = false;
+    QString text; // untrimmed text of the field when OK was chosen
+};
+
+struct CalculatorRequest
+{
+    double start = 0;
+    bool negativeAllowed = true;
+    int decimals = 2;
+};
+
+struct CalculatorAnswer
+{
+    bool cancelled = false;
+    double result = 0; // the result register when the calculator closed
+};
+
+// The screen as the library measures it.
+struct ScreenInfo
+{
+    int width = 1024; // pixels
+    int height = 768;
+    int twipsPerPixelX = 15;
+    int twipsPerPixelY = 15;
+    std::optional<QRect> taskbar; // in pixels, when the system has one
+    QPoint cursor; // pixels
+};
+
+// A file found by a directory listing, with its attribute bits (1 read-only,
+// 2 hidden, 4 system, 16 directory, 32 archive).
+struct FileEntry
+{
+    QString name;
+    int attributes = 0;
+};
+
+// The only door to the machine. Every subsystem reaches the clock, the regional
+// settings, the screen, dialogs, sound, files, processes and keyboard through
+// the platform installed for its thread, so hosts, tests and the bridge can
+// choose what the library sees.
+class Platform
+{
+public:
+    virtual ~Platform();
+
+    // Clock and regional settings.
+    virtual QDateTime now() const = 0;
+    virtual RegionalSettings regionalSettings() const = 0;
+
+    // User interface. All dialogs are modal.
+    virtual int messageBoxE(const MessageBoxERequest &request) = 0;
+    virtual int systemMessageBox(const SystemMessageBoxRequest &request) = 0;
+    virtual InputBoxEAnswer inputBoxE(const InputBoxERequest &request) = 0;
+    virtual CalculatorAnswer calculator(const CalculatorRequest &request) = 0;
+    virtual void showNote(const QString &text) = 0; // the VAT note beside a field
+    virtual void beep() = 0;
+    virtual void processEvents() = 0;
+
+    // Sound: a wave file once or looping; stop what plays.
+    virtual void playSound(const QString &file, bool continuous) = 0;
+    virtual void stopSound() = 0;
+
+    // Files and folders; paths may use "\" or "/".
+    virtual bool fileExists(const QString &path) const = 0;
+    virtual bool directoryExists(const QString &path) const = 0;
+    virtual bool makeDirectory(const QString &path) = 0;
+    virtual QList<FileEntry> listFiles(const QString &directory, const QString &wildcard) const = 0;
+    virtual std::optional<QByteArray> readFile(const QString &path) const = 0;
+    virtual bool writeFile(const QString &path, const QByteArray &contents) = 0;
+    virtual QString systemDirectory() const = 0;
+
+    // Processes: start a command line (returns a process id, or an error
+    // number as a negative value) and wait until it ends.
+    virtual qint64 startProcess(const QString &commandLine, int windowStyle) = 0;
+    virtual void waitForProcess(qint64 processId) = 0;
+    virtual void shutDown() = 0;
+
+    // Screen, cursor and windows.
+    virtual ScreenInfo screen() const = 0;
+    virtual void setMousePointer(int pointer) = 0;
+
+    // Key injection: the virtual key and scan code of a character, and one
+    // key event (flags 0 down, 2 up) into the input stream of the focus.
+    virtual int virtualKeyOf(int ansiCode) const = 0;
+    virtual int scanCodeOf(int ansiCode) const = 0;
+    virtual void keyEvent(int virtualKey, int scanCode, int flags) = 0;
+
+    // The platform of the calling thread; a headless default until one is installed.
+    static Platform &current();
+    // Installs a platform for the calling thread and returns the one it replaces.
+    static std::shared_ptr<Platform> install(std::shared_ptr<Platform> platform);
+};
+
+// Shorthand used throughout the library.
+inline Platform &platform() { return Platform::current(); }
+
+} // namespace qor

@@ -1,0 +1,207 @@
+#include "platform/recordingplatform.h"
+
+namespace qor {
+
+namespace {
+
+bool isCancel(const QVariant &answer)
+{
+    return answer.typeId() == QMetaType::QVariantMap
+        && answer.toMap().value(QStringLiteral("cancel")).toBool();
+}
+
+bool isNumber(const QVariant &answer)
+{
+    switch (answer.typeId()) {
+    case QMetaType::Int:
+    case QMetaType::UInt:
+    case QMetaType::LongLong:
+    case QMetaType::ULongLong:
+    case QMetaType::Double:
+    case QMetaType::Float:
+    case QMetaType::Short:
+        return true;
+    default:
+        return false;
+    }
+}
+
+} // namespace
+
+RecordingPlatform::RecordingPlatform() = default;
+
+void RecordingPlatform::setNow(const QDateTime &now) { m_now = now; }
+void RecordingPlatform::setLocale(const QString &name)
+{
+    setRegionalSettings(RegionalSettings::fromLocale(name));
+}
+void RecordingPlatform::setScreen(const ScreenInfo &screen) { m_screen = screen; }
+
+void RecordingPlatform::setSoundPlayback(std::function<void(const QString &, bool)> play,
+                                         std::function<void()> stop)
+{
+    m_play = std::move(play);
+    m_stop = std::move(stop);
+}
+
+void RecordingPlatform::setAnswers(const QVariantList &answers) { m_answers = answers; }
+void RecordingPlatform::addAnswer(const QVariant &answer) { m_answers.append(answer); }
+
+void RecordingPlatform::clearRecords()
+{
+    m_shown.clear();
+    m_actions.clear();
+}
+
+std::optional<QVariant> RecordingPlatform::takeAnswer()
+{
+    if (m_answers.isEmpty())
+        return std::nullopt;
+    return m_answers.takeFirst();
+}
+
+QDateTime RecordingPlatform::now() const
+{
+    return m_now.isValid() ? m_now : CorePlatform::now();
+}
+
+int RecordingPlatform::messageBoxEAnswer(const MessageBoxERequest &request)
+{
+    // A key that chooses no button is swallowed and the box waits for the next one.
+    while (auto answer = takeAnswer()) {
+        int result = 0;
+        if (isNumber(*answer))
+            result = answer->toInt();
+        else if (answer->typeId() == QMetaType::QVariantMap && request.resultForScan)
+            result = request.resultForScan(answer->toMap().value(QStringLiteral("scan")).toString());
+        else if (request.resultForKey)
+            result = request.resultForKey(answer->toString());
+        if (result != 0)
+            return result;
+    }
+    return CorePlatform::messageBoxE(request);
+}
+
+int RecordingPlatform::messageBoxE(const MessageBoxERequest &request)
+{
+    const int answer = messageBoxEAnswer(request);
+    record({ { QStringLiteral("kind"), QStringLiteral("MsgBoxE") },
+             { QStringLiteral("prompt"), request.prompt },
+             { QStringLiteral("buttons"), request.style },
+             { QStringLiteral("title"), request.title },
+             { QStringLiteral("caption"), request.caption },
+             { QStringLiteral("type"), request.typeName },
+             { QStringLiteral("answer"), answer } });
+    return answer;
+}
+
+int RecordingPlatform::systemMessageBox(const SystemMessageBoxRequest &request)
+{
+    const auto scripted = takeAnswer();
+    const int answer = scripted && isNumber(*scripted) ? scripted->toInt() : 1;
+    record({ { QStringLiteral("kind"), QStringLiteral("MsgBox") },
+             { QStringLiteral("prompt"), request.prompt },
+             { QStringLiteral("buttons"), request.style },
+             { QStringLiteral("title"), request.title },
+             { QStringLiteral("answer"), answer } });
+    return answer;
+}
+
+InputBoxEAnswer RecordingPlatform::inputBoxE(const InputBoxERequest &request)
+{
+    InputBoxEAnswer answer { false, request.defaultValue };
+    if (const auto scripted = takeAnswer()) {
+        if (isCancel(*scripted))
+            answer = { true, QString() };
+        else
+            answer.text = scripted->toString();
+    }
+    // The field refuses what its maximum length does not hold.
+    if (request.maxLength > 0 && answer.text.size() > request.maxLength)
+        answer.text.truncate(request.maxLength);
+    QVariantMap event { { QStringLiteral("kind"), QStringLiteral("InputBoxE") },
+                        { QStringLiteral("prompt"), request.prompt },
+                        { QStringLiteral("title"), request.title },
+                        { QStringLiteral("default"), request.defaultValue },
+                        { QStringLiteral("maxLength"), request.maxLength } };
+    event.insert(QStringLiteral("answer"),
+                 answer.cancelled ? QVariant(QVariantMap { { QStringLiteral("cancel"), true } })
+                                  : QVariant(answer.text));
+    record(event);
+    return answer;
+}
+
+CalculatorAnswer RecordingPlatform::calculator(const CalculatorRequest &request)
+{
+    CalculatorAnswer answer { false, request.start };
+    if (const auto scripted = takeAnswer()) {
+        if (isCancel(*scripted))
+            answer.cancelled = true;
+        else if (isNumber(*scripted))
+            answer.result = scripted->toDouble();
+    }
+    record({ { QStringLiteral("kind"), QStringLiteral("Calculator") },
+             { QStringLiteral("start"), request.start },
+             { QStringLiteral("answer"),
+               answer.cancelled ? QVariant(QVariantMap { { QStringLiteral("cancel"), true } })
+                                : QVariant(answer.result) } });
+    return answer;
+}
+
+void RecordingPlatform::showNote(const QString &text)
+{
+    record({ { QStringLiteral("kind"), QStringLiteral("Note") }, { QStringLiteral("text"), text } });
+}
+
+void RecordingPlatform::beep() { record({ { QStringLiteral("kind"), QStringLiteral("beep") } }); }
+
+// No events are pending in a recorded session; running them could re-enter the caller.
+void RecordingPlatform::processEvents() { }
+
+void RecordingPlatform::playSound(const QString &file, bool continuous)
+{
+    record({ { QStringLiteral("kind"), QStringLiteral("sound") },
+             { QStringLiteral("file"), file },
+             { QStringLiteral("continuous"), continuous } });
+    if (m_play)
+        m_play(file, continuous);
+}
+
+void RecordingPlatform::stopSound()
+{
+    record({ { QStringLiteral("kind"), QStringLiteral("stopSound") } });
+    if (m_stop)
+        m_stop();
+}
+
+qint64 RecordingPlatform::startProcess(const QString &commandLine, int windowStyle)
+{
+    m_actions.append(QVariantMap { { QStringLiteral("kind"), QStringLiteral("startProcess") },
+                                   { QStringLiteral("commandLine"), commandLine },
+                                   { QStringLiteral("windowStyle"), windowStyle } });
+    return CorePlatform::startProcess(commandLine, windowStyle);
+}
+
+// A recorded session never switches the machine off.
+void RecordingPlatform::shutDown()
+{
+    m_actions.append(QVariantMap { { QStringLiteral("kind"), QStringLiteral("shutDown") } });
+}
+
+ScreenInfo RecordingPlatform::screen() const { return m_screen; }
+
+void RecordingPlatform::setMousePointer(int pointer)
+{
+    m_actions.append(QVariantMap { { QStringLiteral("kind"), QStringLiteral("mousePointer") },
+                                   { QStringLiteral("pointer"), pointer } });
+}
+
+void RecordingPlatform::keyEvent(int virtualKey, int scanCode, int flags)
+{
+    m_actions.append(QVariantMap { { QStringLiteral("kind"), QStringLiteral("key") },
+                                   { QStringLiteral("virtualKey"), virtualKey },
+                                   { QStringLiteral("scanCode"), scanCode },
+                                   { QStringLiteral("flags"), flags } });
+}
+
+} // namespace qor

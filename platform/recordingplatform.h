@@ -1,0 +1,75 @@
+#pragma once
+
+#include "platform/coreplatform.h"
+
+#include <QVariantList>
+#include <QVariantMap>
+
+namespace qor {
+
+// A platform for tests and the bridge: it records everything the library shows
+// or plays, answers dialogs from a script, and reports the clock, regional
+// settings and screen it is given. Files and processes stay real.
+//
+// Scripted answers, consumed in order by the dialogs:
+// - extended message box: a result number, a key name ("Enter", "Escape", "J")
+//   or a map {"scan": text} typed through its scanner field; default "Enter";
+// - plain message box: a result number; default 1;
+// - input box: a string typed into the field before OK, or {"cancel": true};
+//   default OK on the default value;
+// - calculator: a number left in its result register, or {"cancel": true};
+//   default closed at once with the register unchanged.
+class RecordingPlatform : public CorePlatform
+{
+public:
+    RecordingPlatform();
+
+    // What the platform reports.
+    void setNow(const QDateTime &now); // an invalid value follows the real clock
+    void setLocale(const QString &name);
+    void setScreen(const ScreenInfo &screen);
+    void setSoundPlayback(std::function<void(const QString &file, bool continuous)> play,
+                          std::function<void()> stop);
+
+    // The dialog script.
+    void setAnswers(const QVariantList &answers);
+    void addAnswer(const QVariant &answer);
+    QVariantList pendingAnswers() const { return m_answers; }
+
+    // What the user saw or heard, in order: maps with a "kind" field.
+    QVariantList shown() const { return m_shown; }
+    // What the library did to the machine: key events, processes, mouse pointer, shut-down.
+    QVariantList actions() const { return m_actions; }
+    void clearRecords();
+
+    QDateTime now() const override;
+    int messageBoxE(const MessageBoxERequest &request) override;
+    int systemMessageBox(const SystemMessageBoxRequest &request) override;
+    InputBoxEAnswer inputBoxE(const InputBoxERequest &request) override;
+    CalculatorAnswer calculator(const CalculatorRequest &request) override;
+    void showNote(const QString &text) override;
+    void beep() override;
+    void processEvents() override;
+    void playSound(const QString &file, bool continuous) override;
+    void stopSound() override;
+    qint64 startProcess(const QString &commandLine, int windowStyle) override;
+    void shutDown() override;
+    ScreenInfo screen() const override;
+    void setMousePointer(int pointer) override;
+    void keyEvent(int virtualKey, int scanCode, int flags) override;
+
+private:
+    std::optional<QVariant> takeAnswer();
+    int messageBoxEAnswer(const MessageBoxERequest &request);
+    void record(const QVariantMap &event) { m_shown.append(event); }
+
+    QDateTime m_now;
+    ScreenInfo m_screen;
+    QVariantList m_answers;
+    QVariantList m_shown;
+    QVariantList m_actions;
+    std::function<void(const QString &, bool)> m_play;
+    std::function<void()> m_stop;
+};
+
+} // namespace qor

@@ -1,0 +1,98 @@
+#include "runtime/callbyname.h"
+
+#include "runtime/runtimeerror.h"
+
+#include <QMetaMethod>
+#include <QMetaObject>
+
+namespace qor {
+
+namespace {
+
+QObject *requireObject(QObject *object)
+{
+    if (!object)
+        throw RuntimeError(91);
+    return object;
+}
+
+// The name under which the object knows the property, or an empty array.
+QByteArray resolveProperty(QObject *object, const char *name)
+{
+    const QMetaObject *meta = object->metaObject();
+    if (meta->indexOfProperty(name) >= 0)
+        return QByteArray(name);
+    const QList<QByteArray> dynamic = object->dynamicPropertyNames();
+    if (dynamic.contains(QByteArray(name)))
+        return QByteArray(name);
+    for (int i = 0; i < meta->propertyCount(); ++i) {
+        if (qstricmp(meta->property(i).name(), name) == 0)
+            return QByteArray(meta->property(i).name());
+    }
+    for (const QByteArray &candidate : dynamic) {
+        if (qstricmp(candidate.constData(), name) == 0)
+            return candidate;
+    }
+    return QByteArray();
+}
+
+} // namespace
+
+bool hasProperty(QObject *object, const char *name)
+{
+    return object && !resolveProperty(object, name).isEmpty();
+}
+
+QVariant getProperty(QObject *object, const char *name)
+{
+    const QByteArray resolved = resolveProperty(requireObject(object), name);
+    if (resolved.isEmpty())
+        throw RuntimeError::notSupportedByObject();
+    return object->property(resolved.constData());
+}
+
+void setProperty(QObject *object, const char *name, const QVariant &value)
+{
+    const QByteArray resolved = resolveProperty(requireObject(object), name);
+    if (resolved.isEmpty())
+        throw RuntimeError::notSupportedByObject();
+    const QMetaObject *meta = object->metaObject();
+    const int index = meta->indexOfProperty(resolved.constData());
+    if (index >= 0) {
+        QVariant converted = value;
+        const QMetaProperty property = meta->property(index);
+        if (property.metaType().id() != QMetaType::QVariant && !converted.convert(property.metaType()))
+            throw RuntimeError::typeMismatch();
+        if (!property.write(object, converted))
+            throw RuntimeError(383, QStringLiteral("'%1' property is read-only").arg(QLatin1String(name)));
+        return;
+    }
+    object->setProperty(resolved.constData(), value);
+}
+
+QVariant callOperation(QObject *object, const char *name, const QVariantList &args)
+{
+    const QMetaObject *meta = requireObject(object)->metaObject();
+    for (int i = meta->methodCount() - 1; i >= 0; --i) {
+        const QMetaMethod method = meta->method(i);
+        if (qstricmp(method.name().constData(), name) != 0 || method.parameterCount() != args.size())
+            continue;
+        QVariantList converted = args;
+        QGenericArgument generic[4];
+        for (int a = 0; a < args.size() && a < 4; ++a) {
+            if (!converted[a].convert(method.parameterMetaType(a)))
+                throw RuntimeError::typeMismatch();
+            generic[a] = QGenericArgument(method.parameterTypeName(a).constData(), converted[a].constData());
+        }
+        QVariant result(method.returnMetaType(), nullptr);
+        QGenericReturnArgument ret;
+        if (method.returnMetaType().id() != QMetaType::Void)
+            ret = QGenericReturnArgument(method.typeName(), result.data());
+        if (!method.invoke(object, Qt::DirectConnection, ret, generic[0], generic[1], generic[2], generic[3]))
+            throw RuntimeError::notSupportedByObject();
+        return method.returnMetaType().id() == QMetaType::Void ? QVariant() : result;
+    }
+    throw RuntimeError::notSupportedByObject();
+}
+
+} // namespace qor
