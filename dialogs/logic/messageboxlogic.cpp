@@ -1,0 +1,127 @@
+#include "dialogs/logic/messageboxlogic.h"
+
+#include "lib/catalogue.h"
+#include "lib/modgenlib.h"
+
+namespace qor {
+
+namespace MessageBoxLogic {
+
+namespace {
+
+constexpr int resultOK = 1;
+constexpr int resultCancel = 2;
+constexpr int resultYes = 6;
+constexpr int resultNo = 7;
+
+int resultOf(const QList<DialogButton> &buttons, int wanted)
+{
+    for (const DialogButton &button : buttons) {
+        if (button.result == wanted)
+            return wanted;
+    }
+    return 0;
+}
+
+// The first of the wanted results that has a visible button.
+int firstVisible(const QList<DialogButton> &buttons, std::initializer_list<int> wanted)
+{
+    for (int result : wanted) {
+        if (resultOf(buttons, result))
+            return result;
+    }
+    return 0;
+}
+
+} // namespace
+
+Type typeOf(int style)
+{
+    if (style & 32)
+        return (style & 16) ? Exclamation : Question;
+    if (style & 16)
+        return Critical;
+    if (style & 64)
+        return Information;
+    return Message;
+}
+
+QString typeName(Type type)
+{
+    static const char *names[] = { "Critical", "Exclamation", "Information", "Question", "Message" };
+    return QString::fromLatin1(names[type]);
+}
+
+QString soundFileOf(Type type) { return typeName(type) + QStringLiteral(".wav"); }
+
+QList<DialogButton> buttonsOf(int style)
+{
+    if (style & 4)
+        return { { QStringLiteral("cmdYes"), loadCatalogueText(1028), resultYes },
+                 { QStringLiteral("cmdNo"), loadCatalogueText(1029), resultNo } };
+    if (style & 1)
+        return { { QStringLiteral("cmdOK"), QStringLiteral("OK"), resultOK },
+                 { QStringLiteral("cmdCancel"), loadCatalogueText(9500), resultCancel } };
+    return { { QStringLiteral("cmdOK"), QStringLiteral("OK"), resultOK } };
+}
+
+int resultForKey(const QList<DialogButton> &buttons, const QString &key)
+{
+    const QString upper = key.toUpper();
+    if (upper == QLatin1String("ENTER") || upper == QLatin1String("\r"))
+        return firstVisible(buttons, { resultYes, resultOK });
+    if (upper == QLatin1String("ESCAPE") || upper == QLatin1String("ESC") || upper == QLatin1String("\x1b"))
+        return firstVisible(buttons, { resultNo, resultCancel, resultOK });
+    if (upper == QLatin1String("A") || upper == QLatin1String("C"))
+        return resultOf(buttons, resultCancel);
+    if (upper == QLatin1String("J") || upper == QLatin1String("Y"))
+        return resultOf(buttons, resultYes);
+    if (upper == QLatin1String("O"))
+        return resultOf(buttons, resultOK);
+    if (upper == QLatin1String("N"))
+        return resultOf(buttons, resultNo);
+    return 0;
+}
+
+int resultForScannedText(const QList<DialogButton> &buttons, const QString &text)
+{
+    if (text == QLatin1String("OK"))
+        return firstVisible(buttons, { resultYes, resultOK });
+    if (text == QLatin1String("ANN"))
+        return firstVisible(buttons, { resultNo, resultCancel });
+    return 0;
+}
+
+MessageBoxERequest prepare(const QString &prompt, int style, const QString &title)
+{
+    MessageBoxERequest request;
+    request.prompt = prompt;
+    request.style = style;
+    request.title = title;
+    const Type type = typeOf(style);
+    request.type = type;
+    request.typeName = typeName(type);
+    request.caption = title.trimmed().isEmpty() ? loadCatalogueText(1031 + type) : title;
+    request.buttons = buttonsOf(style);
+    const QList<DialogButton> buttons = request.buttons;
+    request.resultForKey = [buttons](const QString &key) { return resultForKey(buttons, key); };
+    // A scan arrives framed as "%[data]"; the box answers on the data alone.
+    request.resultForScan = [buttons](const QString &scan) {
+        QString data = scan;
+        if (data.startsWith(QLatin1String("%[")) && data.endsWith(QLatin1Char(']')))
+            data = data.mid(2, data.size() - 3);
+        return resultForScannedText(buttons, data);
+    };
+    return request;
+}
+
+} // namespace MessageBoxLogic
+
+int showMessageBoxE(const QString &prompt, int style, const QString &title)
+{
+    const int result = platform().messageBoxE(MessageBoxLogic::prepare(prompt, style, title));
+    modGenLib().msgBoxResult = result;
+    return result;
+}
+
+} // namespace qor

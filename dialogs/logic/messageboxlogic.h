@@ -1,0 +1,39 @@
+#pragma once
+
+#include "platform/platform.h"
+
+#include <QString>
+
+namespace qor {
+
+// How the extended message box reads its style value: the message type and
+// the buttons are bit tests, not a table of the standard sets, so style 3
+// shows OK and Cancel and style 5 Yes and No.
+namespace MessageBoxLogic {
+
+enum Type { Critical = 0, Exclamation = 1, Information = 2, Question = 3, Message = 4 };
+
+Type typeOf(int style);
+QString typeName(Type type);
+QString soundFileOf(Type type); // "Critical.wav", ...
+
+// The visible buttons with their captions in the module language.
+QList<DialogButton> buttonsOf(int style);
+
+// The result a key chooses with these buttons (0: none). Keys are named
+// "Enter", "Escape" or by their letter, in either case.
+int resultForKey(const QList<DialogButton> &buttons, const QString &key);
+// The result of a text the scanner field received ("OK" or "ANN"), 0 otherwise.
+int resultForScannedText(const QList<DialogButton> &buttons, const QString &text);
+
+// The box fully prepared for the platform; the caption is the caller's title,
+// or the catalogue title of the type when the title is blank.
+MessageBoxERequest prepare(const QString &prompt, int style, const QString &title);
+
+} // namespace MessageBoxLogic
+
+// Shows the extended message box in the module language and returns 1, 2, 6
+// or 7; the answer is also kept as the module's last message-box result.
+int showMessageBoxE(const QString &prompt, int style, const QString &title);
+
+} // namespace qor
