@@ -107,6 +107,12 @@ void TypeLibrary::readMethods(const QMetaObject *cls)
             ParameterInfo param;
             param.name = QString::fromLatin1(names.value(p));
             param.metaType = method.parameterMetaType(p);
+            // Arguments written back are declared as references, which have no meta type of their own.
+            if (!param.metaType.isValid()) {
+                QByteArray plain = types.value(p);
+                plain.chop(plain.endsWith('&') ? 1 : 0);
+                param.metaType = QMetaType::fromName(plain);
+            }
             param.type = typeName(param.metaType);
             param.byRef = types.value(p).endsWith('&');
             param.optional = optional.contains(param.name);

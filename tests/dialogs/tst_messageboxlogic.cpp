@@ -1,0 +1,139 @@
+#include "dialogs/logic/messageboxlogic.h"
+#include "lib/modgenlib.h"
+#include "platform/recordingplatform.h"
+
+#include <QTest>
+
+using namespace qor;
+
+namespace {
+
+QStringList captionsOf(const QList<DialogButton> &buttons)
+{
+    QStringList captions;
+    for (const auto &button : buttons)
+        captions << button.caption;
+    return captions;
+}
+
+} // namespace
+
+class TestMessageBoxLogic : public QObject
+{
+    Q_OBJECT
+
+    std::shared_ptr<RecordingPlatform> machine;
+
+private slots:
+    void init()
+    {
+        ModGenLib::reset();
+        machine = std::make_shared<RecordingPlatform>();
+        Platform::install(machine);
+    }
+
+    void styleChoosesTypeAndButtons_data()
+    {
+        QTest::addColumn<int>("style");
+        QTest::addColumn<QString>("type");
+        QTest::addColumn<QStringList>("captions");
+        QTest::addColumn<QString>("caption");
+        QTest::newRow("plain") << 0 << "Message" << QStringList { "OK" } << "Bericht :";
+        QTest::newRow("question yes no") << 36 << "Question" << QStringList { "Ja", "Nee" } << "Vraag ?";
+        QTest::newRow("critical ok cancel") << 17 << "Critical" << QStringList { "OK", "Annuleren" } << "Fout !";
+        QTest::newRow("exclamation") << 48 << "Exclamation" << QStringList { "OK" } << "Opgelet !";
+        QTest::newRow("information") << 64 << "Information" << QStringList { "OK" } << "Ter Info :";
+        QTest::newRow("critical wins over information") << 80 << "Critical" << QStringList { "OK" } << "Fout !";
+        QTest::newRow("yes no cancel shows ok cancel") << 3 << "Message" << QStringList { "OK", "Annuleren" }
+                                                       << "Bericht :";
+        QTest::newRow("retry cancel shows yes no") << 5 << "Message" << QStringList { "Ja", "Nee" } << "Bericht :";
+        QTest::newRow("abort retry ignore shows ok") << 2 << "Message" << QStringList { "OK" } << "Bericht :";
+    }
+    void styleChoosesTypeAndButtons()
+    {
+        QFETCH(int, style);
+        const MessageBoxERequest request = MessageBoxLogic::prepare(QStringLiteral("p"), style, QStringLiteral("   "));
+        QTEST(request.typeName, "type");
+        QTEST(captionsOf(request.buttons), "captions");
+        QTEST(request.caption, "caption");
+    }
+
+    void keysChooseVisibleButtons_data()
+    {
+        QTest::addColumn<int>("style");
+        QTest::addColumn<QString>("key");
+        QTest::addColumn<int>("result");
+        QTest::newRow("ok: enter") << 0 << "Enter" << 1;
+        QTest::newRow("ok: escape") << 0 << "Escape" << 1;
+        QTest::newRow("ok: letter o") << 0 << "o" << 1;
+        QTest::newRow("ok: no cancel button") << 0 << "A" << 0;
+        QTest::newRow("yes no: j") << 36 << "J" << 6;
+        QTest::newRow("yes no: y") << 36 << "y" << 6;
+        QTest::newRow("yes no: enter") << 36 << "Enter" << 6;
+        QTest::newRow("yes no: n") << 36 << "N" << 7;
+        QTest::newRow("yes no: escape") << 36 << "Escape" << 7;
+        QTest::newRow("yes no: o chooses nothing") << 36 << "O" << 0;
+        QTest::newRow("ok cancel: a") << 17 << "A" << 2;
+        QTest::newRow("ok cancel: c") << 17 << "c" << 2;
+        QTest::newRow("ok cancel: escape") << 17 << "Escape" << 2;
+        QTest::newRow("ok cancel: enter") << 17 << "Enter" << 1;
+        QTest::newRow("other letter") << 17 << "X" << 0;
+    }
+    void keysChooseVisibleButtons()
+    {
+        QFETCH(int, style);
+        QFETCH(QString, key);
+        QTEST(MessageBoxLogic::resultForKey(MessageBoxLogic::buttonsOf(style), key), "result");
+    }
+
+    void scannerCodesAnswer_data()
+    {
+        QTest::addColumn<int>("style");
+        QTest::addColumn<QString>("scan");
+        QTest::addColumn<int>("result");
+        QTest::newRow("ok on yes no") << 36 << "%[OK]" << 6;
+        QTest::newRow("ok on ok") << 0 << "%[OK]" << 1;
+        QTest::newRow("ann on yes no") << 36 << "%[ANN]" << 7;
+        QTest::newRow("ann on ok cancel") << 1 << "%[ANN]" << 2;
+        QTest::newRow("ann with ok alone") << 0 << "%[ANN]" << 0;
+        QTest::newRow("other code") << 0 << "%[123]" << 0;
+    }
+    void scannerCodesAnswer()
+    {
+        QFETCH(int, style);
+        QFETCH(QString, scan);
+        const MessageBoxERequest request = MessageBoxLogic::prepare(QStringLiteral("p"), style, QString());
+        QTEST(request.resultForScan(scan), "result");
+    }
+
+    void frenchCaptions()
+    {
+        modGenLib().languageOffset = 10000;
+        const MessageBoxERequest request = MessageBoxLogic::prepare(QStringLiteral("p"), 4 + 16, QString());
+        QCOMPARE(captionsOf(request.buttons), (QStringList { "Oui", "Non" }));
+        QCOMPARE(request.caption, QStringLiteral("Erreur !"));
+    }
+
+    void missingTitleTextShowsItsMarker()
+    {
+        modGenLib().languageOffset = 30000;
+        const MessageBoxERequest request = MessageBoxLogic::prepare(QStringLiteral("p"), 48, QString());
+        QCOMPARE(request.caption, QStringLiteral(" [LL 31032 ?] "));
+    }
+
+    void shownThroughThePlatformAndKept()
+    {
+        machine->setAnswers({ QStringLiteral("X"), QStringLiteral("N") });
+        QCOMPARE(showMessageBoxE(QStringLiteral("Doorgaan ?"), 36, QStringLiteral("Mijn titel")), 7);
+        QCOMPARE(modGenLib().msgBoxResult, 7);
+        const QVariantMap shown = machine->shown().at(0).toMap();
+        QCOMPARE(shown.value("kind").toString(), QStringLiteral("MsgBoxE"));
+        QCOMPARE(shown.value("caption").toString(), QStringLiteral("Mijn titel"));
+        QCOMPARE(shown.value("type").toString(), QStringLiteral("Question"));
+        QCOMPARE(shown.value("answer").toInt(), 7);
+        QVERIFY(machine->pendingAnswers().isEmpty());
+    }
+};
+
+QTEST_GUILESS_MAIN(TestMessageBoxLogic)
+#include "tst_messageboxlogic.moc"

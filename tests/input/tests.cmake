@@ -1,0 +1,3 @@
+qor_add_test(tst_textfilters ${dir}/tst_textfilters.cpp)
+qor_add_test(tst_amounts ${dir}/tst_amounts.cpp)
+qor_add_test(tst_editing ${dir}/tst_editing.cpp)
