@@ -1,0 +1,184 @@
+#include "platform/qt/qtplatform.h"
+
+#include "platform/keyboardlayout.h"
+#include "platform/qt/inputboxdialog.h"
+#include "platform/qt/messageboxdialog.h"
+
+#include <QApplication>
+#include <QGuiApplication>
+#include <QKeyEvent>
+#include <QMessageBox>
+#include <QScreen>
+#include <QSoundEffect>
+#include <QUrl>
+#include <QWidget>
+
+namespace qor {
+
+struct QtPlatform::Private
+{
+    std::unique_ptr<QSoundEffect> sound;
+    bool overrideCursor = false;
+};
+
+namespace {
+
+QMessageBox::Icon iconOf(int style)
+{
+    switch (style & 0x70) {
+    case 16: return QMessageBox::Critical;
+    case 32: return QMessageBox::Question;
+    case 48: return QMessageBox::Warning;
+    case 64: return QMessageBox::Information;
+    default: return QMessageBox::NoIcon;
+    }
+}
+
+// The standard button sets of the system message box and their result values.
+QList<QPair<QMessageBox::StandardButton, int>> buttonsOf(int style)
+{
+    switch (style & 7) {
+    case 1: return { { QMessageBox::Ok, 1 }, { QMessageBox::Cancel, 2 } };
+    case 2: return { { QMessageBox::Abort, 3 }, { QMessageBox::Retry, 4 }, { QMessageBox::Ignore, 5 } };
+    case 3: return { { QMessageBox::Yes, 6 }, { QMessageBox::No, 7 }, { QMessageBox::Cancel, 2 } };
+    case 4: return { { QMessageBox::Yes, 6 }, { QMessageBox::No, 7 } };
+    case 5: return { { QMessageBox::Retry, 4 }, { QMessageBox::Cancel, 2 } };
+    default: return { { QMessageBox::Ok, 1 } };
+    }
+}
+
+// The character a virtual key types without Shift.
+QString plainTextOf(int virtualKey)
+{
+    for (int c = 0; c < 128; ++c) {
+        if (virtualKeyScan(c) == virtualKey)
+            return QString(QChar(c));
+    }
+    return QString();
+}
+
+int qtKeyOf(int virtualKey, const QString &text)
+{
+    switch (virtualKey) {
+    case 0x0D: return Qt::Key_Return;
+    case 0x08: return Qt::Key_Backspace;
+    case 0x09: return Qt::Key_Tab;
+    case 0x1B: return Qt::Key_Escape;
+    default: return text.isEmpty() ? Qt::Key_unknown : QKeySequence(text.toUpper())[0].key();
+    }
+}
+
+} // namespace
+
+QtPlatform::QtPlatform()
+    : d(std::make_unique<Private>())
+{
+}
+
+QtPlatform::~QtPlatform() = default;
+
+int QtPlatform::messageBoxE(const MessageBoxERequest &request)
+{
+    MessageBoxDialog dialog(request, QApplication::activeWindow());
+    dialog.exec();
+    if (dialog.answer() != 0)
+        return dialog.answer();
+    // Closed from the title bar: as if Escape was pressed.
+    const int escape = request.resultForKey ? request.resultForKey(QStringLiteral("Escape")) : 0;
+    return escape != 0 ? escape : CorePlatform::messageBoxE(request);
+}
+
+int QtPlatform::systemMessageBox(const SystemMessageBoxRequest &request)
+{
+    QMessageBox box(iconOf(request.style), request.title,
+                    QString(request.prompt).replace(QLatin1Char('\r'), QLatin1Char('\n')), QMessageBox::NoButton,
+                    QApplication::activeWindow());
+    const auto buttons = buttonsOf(request.style);
+    for (const auto &button : buttons)
+        box.addButton(button.first);
+    const auto chosen = QMessageBox::StandardButton(box.exec());
+    for (const auto &button : buttons) {
+        if (button.first == chosen)
+            return button.second;
+    }
+    return buttons.size() > 1 ? 2 : 1;
+}
+
+InputBoxEAnswer QtPlatform::inputBoxE(const InputBoxERequest &request)
+{
+    InputBoxDialog dialog(request, QApplication::activeWindow());
+    dialog.exec();
+    return dialog.answer();
+}
+
+void QtPlatform::beep() { QApplication::beep(); }
+
+void QtPlatform::processEvents() { QApplication::processEvents(); }
+
+void QtPlatform::playSound(const QString &file, bool continuous)
+{
+    d->sound = std::make_unique<QSoundEffect>();
+    d->sound->setSource(QUrl::fromLocalFile(localPath(file)));
+    d->sound->setLoopCount(continuous ? QSoundEffect::Infinite : 1);
+    d->sound->play();
+}
+
+void QtPlatform::stopSound()
+{
+    if (d->sound)
+        d->sound->stop();
+}
+
+ScreenInfo QtPlatform::screen() const
+{
+    ScreenInfo info;
+    const QScreen *screen = QGuiApplication::primaryScreen();
+    if (!screen)
+        return info;
+    const QRect full = screen->geometry();
+    const QRect available = screen->availableGeometry();
+    info.width = full.width();
+    info.height = full.height();
+    info.twipsPerPixelX = qMax(1, qRound(1440.0 / screen->logicalDotsPerInchX()));
+    info.twipsPerPixelY = qMax(1, qRound(1440.0 / screen->logicalDotsPerInchY()));
+    // What the desktop keeps for itself along one edge is taken as the task bar.
+    if (available != full) {
+        if (available.top() > full.top())
+            info.taskbar = QRect(full.left(), full.top(), full.width(), available.top() - full.top());
+        else if (available.bottom() < full.bottom())
+            info.taskbar = QRect(full.left(), available.bottom() + 1, full.width(), full.bottom() - available.bottom());
+        else if (available.left() > full.left())
+            info.taskbar = QRect(full.left(), full.top(), available.left() - full.left(), full.height());
+        else
+            info.taskbar = QRect(available.right() + 1, full.top(), full.right() - available.right(), full.height());
+    }
+    info.cursor = QCursor::pos(const_cast<QScreen *>(screen));
+    return info;
+}
+
+void QtPlatform::setMousePointer(int pointer)
+{
+    if (d->overrideCursor) {
+        QGuiApplication::restoreOverrideCursor();
+        d->overrideCursor = false;
+    }
+    // 11 is the hourglass; 0 and 1 the default arrow.
+    if (pointer == 11) {
+        QGuiApplication::setOverrideCursor(Qt::WaitCursor);
+        d->overrideCursor = true;
+    }
+}
+
+void QtPlatform::keyEvent(int virtualKey, int scanCode, int flags)
+{
+    QWidget *target = QApplication::focusWidget();
+    if (!target)
+        return;
+    const QString text = plainTextOf(virtualKey);
+    const bool up = flags & 2;
+    auto *event = new QKeyEvent(up ? QEvent::KeyRelease : QEvent::KeyPress, qtKeyOf(virtualKey, text),
+                                Qt::NoModifier, quint32(scanCode), quint32(virtualKey), 0, text);
+    QCoreApplication::postEvent(target, event);
+}
+
+} // namespace qor

@@ -1,0 +1,35 @@
+#pragma once
+
+#include "platform/coreplatform.h"
+
+#include <memory>
+
+namespace qor {
+
+// The machine of a host with a screen: the dialogs as real modal windows, the
+// system beep, wave sounds, the screen's size and resolution, the mouse
+// pointer, and keys posted to the widget that has the focus. Needs a
+// QApplication.
+class QtPlatform : public CorePlatform
+{
+public:
+    QtPlatform();
+    ~QtPlatform() override;
+
+    int messageBoxE(const MessageBoxERequest &request) override;
+    int systemMessageBox(const SystemMessageBoxRequest &request) override;
+    InputBoxEAnswer inputBoxE(const InputBoxERequest &request) override;
+    void beep() override;
+    void processEvents() override;
+    void playSound(const QString &file, bool continuous) override;
+    void stopSound() override;
+    ScreenInfo screen() const override;
+    void setMousePointer(int pointer) override;
+    void keyEvent(int virtualKey, int scanCode, int flags) override;
+
+private:
+    struct Private;
+    std::unique_ptr<Private> d;
+};
+
+} // namespace qor
