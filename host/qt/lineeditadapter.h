@@ -1,0 +1,57 @@
+#pragma once
+
+#include <QObject>
+#include <QPointer>
+
+#include <QLineEdit>
+
+namespace qor {
+
+// Gives a QLineEdit the names of an edit control, so the library can work on
+// a real field: Text, SelStart, SelLength, MaxLength, Enabled, the position
+// and size, and the operation SetFocus. The adapter does not own the field.
+class LineEditAdapter : public QObject
+{
+    Q_OBJECT
+    Q_PROPERTY(QString Text READ text WRITE setText)
+    Q_PROPERTY(int SelStart READ selStart WRITE setSelStart)
+    Q_PROPERTY(int SelLength READ selLength WRITE setSelLength)
+    Q_PROPERTY(int MaxLength READ maxLength WRITE setMaxLength)
+    Q_PROPERTY(bool Enabled READ enabled WRITE setEnabled)
+    Q_PROPERTY(int Left READ left WRITE setLeft)
+    Q_PROPERTY(int Top READ top WRITE setTop)
+    Q_PROPERTY(int Width READ width WRITE setWidth)
+    Q_PROPERTY(int Height READ height WRITE setHeight)
+
+public:
+    explicit LineEditAdapter(QLineEdit *field, QObject *parent = nullptr);
+
+    QLineEdit *field() const { return m_field; }
+
+    QString text() const;
+    void setText(const QString &text);
+    int selStart() const;
+    void setSelStart(int start);
+    int selLength() const;
+    void setSelLength(int length);
+    // 0 means no limit, as for the classic edit control.
+    int maxLength() const;
+    void setMaxLength(int length);
+    bool enabled() const;
+    void setEnabled(bool enabled);
+    int left() const;
+    void setLeft(int left);
+    int top() const;
+    void setTop(int top);
+    int width() const;
+    void setWidth(int width);
+    int height() const;
+    void setHeight(int height);
+
+    Q_INVOKABLE void SetFocus();
+
+private:
+    QPointer<QLineEdit> m_field;
+};
+
+} // namespace qor
