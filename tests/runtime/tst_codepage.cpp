@@ -1,0 +1,124 @@
+#include "runtime/codepage.h"
+#include "runtime/runtimeerror.h"
+
+#include <QTest>
+
+namespace {
+
+template <typename F> int errorNumber(F f)
+{
+    try {
+        f();
+    } catch (const qor::RuntimeError &e) {
+        return e.number();
+    }
+    return 0;
+}
+
+} // namespace
+
+class TestCodePage : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void characterOfCode_data()
+    {
+        QTest::addColumn<int>("code");
+        QTest::addColumn<int>("unicode");
+
+        // clang-format off
+        QTest::newRow("ASCII letter") << 65 << 0x41;
+        QTest::newRow("0x80 is the euro sign") << 0x80 << 0x20AC;
+        QTest::newRow("0x8A S with caron") << 0x8A << 0x0160;
+        QTest::newRow("0x92 right single quote") << 0x92 << 0x2019;
+        QTest::newRow("0x96 en dash") << 0x96 << 0x2013;
+        QTest::newRow("0x9F Y with diaeresis") << 0x9F << 0x0178;
+        QTest::newRow("0xA0 no-break space") << 0xA0 << 0x00A0;
+        QTest::newRow("0xAD soft hyphen, the list separator") << 0xAD << 0x00AD;
+        QTest::newRow("0xB4 acute accent") << 0xB4 << 0x00B4;
+        QTest::newRow("0xE9 e acute") << 0xE9 << 0x00E9;
+        QTest::newRow("undefined 0x81 keeps its control character") << 0x81 << 0x0081;
+        QTest::newRow("undefined 0x9D keeps its control character") << 0x9D << 0x009D;
+        // clang-format on
+    }
+    void characterOfCode()
+    {
+        QFETCH(int, code);
+        QFETCH(int, unicode);
+        QCOMPARE(qor::chr(code).unicode(), unicode);
+        QCOMPARE(qor::asc(qor::chr(code)), code);
+    }
+
+    void codeOfCharacter_data()
+    {
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<int>("code");
+
+        // clang-format off
+        QTest::newRow("euro sign") << QString(QChar(0x20AC)) << 128;
+        QTest::newRow("o e ligature") << QString(QChar(0x0153)) << 0x9C;
+        QTest::newRow("only the first character counts") << QStringLiteral("Ab") << 65;
+        QTest::newRow("A with macron is not in the code page") << QString(QChar(0x0100)) << 63;
+        QTest::newRow("U+0080 is not 0x80") << QString(QChar(0x0080)) << 63;
+        QTest::newRow("a character beyond the basic plane") << QString::fromUcs4(U"\U0001F600") << 63;
+        // clang-format on
+    }
+    void codeOfCharacter()
+    {
+        QFETCH(QString, text);
+        QTEST(qor::asc(text), "code");
+    }
+
+    void everyCodeSurvivesARoundTrip()
+    {
+        QByteArray all;
+        for (int code = 0; code < 256; ++code)
+            all.append(char(code));
+        QCOMPARE(qor::toCp1252(qor::fromCp1252(all)), all);
+    }
+
+    void textConversion_data()
+    {
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<QByteArray>("bytes");
+
+        // clang-format off
+        QTest::newRow("amount with euro sign") << QStringLiteral("12,50 \u20AC") << QByteArray("12,50 \x80");
+        QTest::newRow("accented Dutch and French") << QStringLiteral("caf\u00E9 \u00EBn") << QByteArray("caf\xE9 \xEBn");
+        QTest::newRow("two soft hyphens split a list") << QStringLiteral("a\u00AD\u00ADb") << QByteArray("a\xAD\xAD" "b");
+        QTest::newRow("unknown characters become question marks, a pair as one") << (QStringLiteral("x\u0100") + QString::fromUcs4(U"\U0001F600") + QStringLiteral("y")) << QByteArray("x??y");
+        // clang-format on
+    }
+    void textConversion()
+    {
+        QFETCH(QString, text);
+        QFETCH(QByteArray, bytes);
+        QCOMPARE(qor::toCp1252(text), bytes);
+        if (!bytes.contains('?'))
+            QCOMPARE(qor::fromCp1252(bytes), text);
+    }
+
+    void invalidArguments_data()
+    {
+        QTest::addColumn<int>("code");
+        // clang-format off
+        QTest::newRow("negative code") << -1;
+        QTest::newRow("code above 255") << 256;
+        QTest::newRow("Unicode code point") << 0x20AC;
+        // clang-format on
+    }
+    void invalidArguments()
+    {
+        QFETCH(int, code);
+        QCOMPARE(errorNumber([&] { qor::chr(code); }), 5);
+    }
+
+    void ascOfEmptyTextIsAnError()
+    {
+        QCOMPARE(errorNumber([] { qor::asc(QString()); }), 5);
+    }
+};
+
+QTEST_APPLESS_MAIN(TestCodePage)
+#include "tst_codepage.moc"
