@@ -24,6 +24,31 @@ QString withFourDigitYear(QString pattern)
     return pattern;
 }
 
+// A day and month of mixed width ("d/MM/yyyy") take the wider one, so that
+// short dates keep their fields at one width ("dd/MM/yyyy").
+QString withMatchingDayMonthWidth(QString pattern)
+{
+    const bool wideDay = pattern.contains(QLatin1String("dd"));
+    const bool wideMonth = pattern.contains(QLatin1String("MM"));
+    if (wideMonth && !wideDay)
+        pattern.replace(QLatin1Char('d'), QLatin1String("dd"));
+    else if (wideDay && !wideMonth)
+        pattern.replace(QLatin1Char('M'), QLatin1String("MM"));
+    return pattern;
+}
+
+// The long time notation without its time zone; notations with quoted words
+// ("H 'h' mm 'min'") fall back to the short one with seconds added.
+QString timePatternOf(const QLocale &locale, QChar separator)
+{
+    QString pattern = locale.timeFormat(QLocale::LongFormat);
+    if (pattern.contains(QLatin1Char('\'')))
+        return locale.timeFormat(QLocale::ShortFormat) + separator + QLatin1String("ss");
+    pattern.remove(QLatin1Char('t'));
+    pattern.replace(QLatin1String("  "), QLatin1String(" "));
+    return pattern.trimmed();
+}
+
 } // namespace
 
 RegionalSettings RegionalSettings::fromLocale(const QString &name)
@@ -37,12 +62,12 @@ RegionalSettings RegionalSettings::fromLocale(const QString &name)
     // A no-break space as grouping would never match what people type.
     if (rs.groupSeparator == QChar(0x00A0) || rs.groupSeparator == QChar(0x202F))
         rs.groupSeparator = QLatin1Char(' ');
-    rs.shortDatePattern = withFourDigitYear(locale.dateFormat(QLocale::ShortFormat));
+    rs.shortDatePattern
+        = withMatchingDayMonthWidth(withFourDigitYear(locale.dateFormat(QLocale::ShortFormat)));
     rs.dateSeparator = firstSeparator(rs.shortDatePattern, QStringLiteral("dMy"), QLatin1Char('/'));
-    rs.timePattern = locale.timeFormat(QLocale::LongFormat);
-    rs.timePattern.remove(QLatin1Char('t')).replace(QLatin1String("  "), QLatin1String(" "));
-    rs.timePattern = rs.timePattern.trimmed();
-    rs.timeSeparator = firstSeparator(rs.timePattern, QStringLiteral("hHmsaApP"), QLatin1Char(':'));
+    rs.timeSeparator = firstSeparator(
+        locale.timeFormat(QLocale::ShortFormat), QStringLiteral("hHmsaApP"), QLatin1Char(':'));
+    rs.timePattern = timePatternOf(locale, rs.timeSeparator);
     return rs;
 }
 

@@ -1,1 +1,2 @@
 qor_add_test(tst_codepage ${dir}/tst_codepage.cpp)
+qor_add_test(tst_regionalsettings ${dir}/tst_regionalsettings.cpp)
