@@ -1,6 +1,9 @@
 #pragma once
 
+#include "runtime/regionalsettings.h"
+
 #include <QDateTime>
+#include <optional>
 
 namespace qor {
 
@@ -14,7 +17,23 @@ QDate dateSerial(int year, int month, int day);
 // hours; the result is the time of day (hours taken modulo 24).
 QTime timeSerial(int hour, int minute, int second);
 
-// IsDate-style check of a text against the short date notation of rs.
-// (declared in runtime/conversion.h when needed)
+// A Date value is a Double: whole days since 30 December 1899 and the time of
+// day as a fraction, which stays positive for dates before that day
+// (-1.25 is 29 December 1899 06:00). Dates run from 1 January 100 to
+// 31 December 9999; a date or serial outside that range (NaN and infinities
+// too) -> 6.
+double dateToSerial(const QDate &date, const QTime &time = QTime(0, 0));
+double dateToSerial(const QDateTime &dateTime);
+QDateTime serialToDate(double serial);
+// The day that a pure time of day belongs to (serial 0).
+QDate zeroDate();
+
+// Reads a date and/or time text the way IsDate/CDate do: three numbers (or a
+// month name) in the order of rs.shortDatePattern, day and month swapped when
+// that order gives no valid date, a year first when it has three or four
+// digits; two-digit years through rs.expandYear; a time "h:mm[:ss]" with an
+// optional AM/PM. A time alone lies on zeroDate(). Anything else: nullopt.
+// A day and month without a year are not read (they would need today's date).
+std::optional<QDateTime> readDate(const QString &text, const RegionalSettings &rs);
 
 } // namespace qor
