@@ -30,6 +30,14 @@ qint16 toInteger(const QVariant &v, const RegionalSettings &rs);
 // CBool: numbers are True when not 0; "True"/"False" (any case) and numeric text.
 bool toBoolean(const QVariant &v, const RegionalSettings &rs);
 
+// CDate: Empty -> the zero date, Null -> 94, numbers and Booleans as date
+// serials (out of range -> 6), text read with readDate (runtime/dates.h) or,
+// failing that, as a numeric serial; anything else -> 13. The result carries
+// the date and time fields in Qt::UTC so that no clock shift can move them.
+QDateTime toDate(const QVariant &v, const RegionalSettings &rs);
+// IsDate: dates, and text that readDate accepts.
+bool isDate(const QVariant &v, const RegionalSettings &rs);
+
 // IsNumeric: Empty, numbers and Booleans are numeric; text is numeric when
 // toDouble would read it; Null, dates, arrays and objects are not.
 bool isNumeric(const QVariant &v, const RegionalSettings &rs);
