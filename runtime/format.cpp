@@ -1,0 +1,860 @@
+#include "runtime/format.h"
+
+#include "runtime/conversion.h"
+#include "runtime/dates.h"
+#include "runtime/runtimeerror.h"
+#include "runtime/variant.h"
+
+#include <QLocale>
+#include <QStringList>
+#include <algorithm>
+#include <charconv>
+#include <cmath>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace qor {
+
+namespace {
+
+// --- pattern sections and kinds --------------------------------------------------
+
+// Calls f(index, character) for every character outside quotes and escapes.
+template <typename F> void forEachActive(const QString &pattern, F f)
+{
+    for (qsizetype i = 0; i < pattern.size(); ++i) {
+        const QChar c = pattern.at(i);
+        if (c == QLatin1Char('\\')) {
+            ++i;
+        } else if (c == QLatin1Char('"')) {
+            const qsizetype close = pattern.indexOf(QLatin1Char('"'), i + 1);
+            i = close < 0 ? pattern.size() : close;
+        } else if (!f(i, c)) {
+            return;
+        }
+    }
+}
+
+QStringList sectionsOf(const QString &pattern)
+{
+    QStringList sections;
+    qsizetype start = 0;
+    forEachActive(pattern, [&](qsizetype i, QChar c) {
+        if (c == QLatin1Char(';')) {
+            sections.append(pattern.mid(start, i - start));
+            start = i + 1;
+        }
+        return true;
+    });
+    sections.append(pattern.mid(start));
+    return sections;
+}
+
+enum class PatternKind { Text, Number, Date };
+
+bool startsWithNoCase(const QString &s, qsizetype i, QLatin1String word)
+{
+    return QStringView(s).mid(i, word.size()).compare(word, Qt::CaseInsensitive) == 0;
+}
+
+PatternKind kindOf(const QString &pattern)
+{
+    static const QString dateLetters = QStringLiteral("dmyhnswqc");
+    PatternKind kind = PatternKind::Number;
+    forEachActive(pattern, [&](qsizetype i, QChar c) {
+        if (c == QLatin1Char('&') || c == QLatin1Char('@')) {
+            kind = PatternKind::Text;
+            return false;
+        }
+        if (dateLetters.contains(c.toLower())
+            || startsWithNoCase(pattern, i, QLatin1String("ttttt"))
+            || startsWithNoCase(pattern, i, QLatin1String("am/pm"))
+            || startsWithNoCase(pattern, i, QLatin1String("a/p")))
+            kind = PatternKind::Date;
+        return true;
+    });
+    return kind;
+}
+
+// Reads one literal at i (escaped character or quoted run); returns the index after it.
+qsizetype readLiteral(const QString &pattern, qsizetype i, QString &literal)
+{
+    if (pattern.at(i) == QLatin1Char('\\')) {
+        if (i + 1 < pattern.size())
+            literal = pattern.at(i + 1);
+        return i + 2;
+    }
+    const qsizetype close = pattern.indexOf(QLatin1Char('"'), i + 1);
+    const qsizetype end = close < 0 ? pattern.size() : close;
+    literal = pattern.mid(i + 1, end - i - 1);
+    return end + 1;
+}
+
+bool isLiteralStart(QChar c)
+{
+    return c == QLatin1Char('\\') || c == QLatin1Char('"');
+}
+
+// --- text masks --------------------------------------------------------------------
+
+struct TextMask
+{
+    QString literalsAndSlots; // '\0' marks a slot
+    std::vector<bool> blankSlot; // '@' shows a blank when empty, '&' nothing
+    bool leftToRight = false;
+    int caseChange = 0; // -1 lower, 1 upper
+};
+
+TextMask parseTextMask(const QString &section)
+{
+    TextMask mask;
+    for (qsizetype i = 0; i < section.size();) {
+        const QChar c = section.at(i);
+        if (isLiteralStart(c)) {
+            QString literal;
+            i = readLiteral(section, i, literal);
+            mask.literalsAndSlots += literal.replace(QChar(0), QChar(' '));
+            continue;
+        }
+        if (c == QLatin1Char('&') || c == QLatin1Char('@')) {
+            mask.literalsAndSlots += QChar(0);
+            mask.blankSlot.push_back(c == QLatin1Char('@'));
+        } else if (c == QLatin1Char('!')) {
+            mask.leftToRight = true;
+        } else if (c == QLatin1Char('<')) {
+            mask.caseChange = -1;
+        } else if (c == QLatin1Char('>')) {
+            mask.caseChange = 1;
+        } else {
+            mask.literalsAndSlots += c == QChar(0) ? QChar(' ') : c;
+        }
+        ++i;
+    }
+    return mask;
+}
+
+// Placeholders take the text's characters from the right; a longer text puts
+// its surplus at the first placeholder, a shorter one leaves the first ones empty.
+// With "!" they fill from the left and the surplus follows the last placeholder.
+QString applyTextMask(QString text, const TextMask &mask)
+{
+    if (mask.caseChange < 0)
+        text = text.toLower();
+    else if (mask.caseChange > 0)
+        text = text.toUpper();
+    const qsizetype slotCount = qsizetype(mask.blankSlot.size());
+    const qsizetype surplus = std::max<qsizetype>(0, text.size() - slotCount);
+    const qsizetype offset = mask.leftToRight ? 0 : text.size() - slotCount; // text index of slot 0
+    QString out;
+    out.reserve(mask.literalsAndSlots.size() + text.size());
+    qsizetype slot = 0;
+    for (QChar c : mask.literalsAndSlots) {
+        if (c != QChar(0)) {
+            out += c;
+            continue;
+        }
+        if (!mask.leftToRight && slot == 0)
+            out += QStringView(text).left(surplus);
+        const qsizetype source = offset + slot;
+        if (source >= 0 && source < text.size())
+            out += text.at(source);
+        else if (mask.blankSlot[size_t(slot)])
+            out += QLatin1Char(' ');
+        if (mask.leftToRight && slot == slotCount - 1)
+            out += QStringView(text).mid(slotCount);
+        ++slot;
+    }
+    return out;
+}
+
+QString formatText(const QString &text, const QStringList &sections)
+{
+    const QString &section
+        = text.isEmpty() && sections.size() > 1 ? sections.at(1) : sections.at(0);
+    return applyTextMask(text, parseTextMask(section));
+}
+
+// --- decimal numbers -------------------------------------------------------------------
+
+// A number as decimal digits: magnitude 0.d1d2d3... x 10^point. No digits is zero.
+struct Decimal
+{
+    bool negative = false;
+    std::string digits;
+    qint64 point = 0;
+
+    bool isZero() const { return digits.empty(); }
+};
+
+void stripTrailingZeros(Decimal &d)
+{
+    while (!d.digits.empty() && d.digits.back() == '0')
+        d.digits.pop_back();
+}
+
+// The digits a Double (15) or Single (7) shows: rounding happens on this
+// decimal form, so 2.675 rounds as the 2.675 it displays and not as the
+// binary 2.67499999... behind it.
+template <typename T> Decimal decimalOf(T v, int significantDigits)
+{
+    Decimal d;
+    if (v == 0)
+        return d;
+    char buffer[64];
+    const auto result = std::to_chars(
+        buffer, buffer + sizeof buffer, v, std::chars_format::scientific, significantDigits - 1);
+    const std::string text(buffer, result.ptr);
+    const size_t e = text.find('e');
+    for (size_t i = 0; i < e; ++i) {
+        if (text[i] == '-')
+            d.negative = true;
+        else if (text[i] >= '0' && text[i] <= '9')
+            d.digits.push_back(text[i]);
+    }
+    d.point = std::stoll(text.substr(e + 1)) + 1;
+    stripTrailingZeros(d);
+    return d;
+}
+
+Decimal decimalOfWhole(qint64 v)
+{
+    Decimal d;
+    d.negative = v < 0;
+    const quint64 magnitude = d.negative ? quint64(0) - quint64(v) : quint64(v);
+    if (magnitude == 0)
+        return d;
+    d.digits = std::to_string(magnitude);
+    d.point = qint64(d.digits.size());
+    stripTrailingZeros(d);
+    return d;
+}
+
+Decimal decimalOfUnsigned(quint64 v)
+{
+    Decimal d;
+    if (v == 0)
+        return d;
+    d.digits = std::to_string(v);
+    d.point = qint64(d.digits.size());
+    stripTrailingZeros(d);
+    return d;
+}
+
+// Rounds half away from zero to the given number of decimals.
+void roundTo(Decimal &d, qint64 decimals)
+{
+    const qint64 keep = d.point + decimals;
+    if (keep >= qint64(d.digits.size()))
+        return;
+    if (keep < 0) {
+        d.digits.clear();
+        return;
+    }
+    const bool up = d.digits[size_t(keep)] >= '5';
+    d.digits.resize(size_t(keep));
+    if (up) {
+        qint64 i = keep - 1;
+        while (i >= 0 && d.digits[size_t(i)] == '9')
+            d.digits[size_t(i--)] = '0';
+        if (i < 0) {
+            d.digits.insert(d.digits.begin(), '1');
+            ++d.point;
+        } else {
+            ++d.digits[size_t(i)];
+        }
+    }
+    stripTrailingZeros(d);
+}
+
+// The whole part's digits ("" for a value below 1).
+QString wholeDigits(const Decimal &d)
+{
+    if (d.point <= 0 || d.isZero())
+        return QString();
+    QString s = QString::fromLatin1(
+        d.digits.data(), qsizetype(std::min<qint64>(d.point, qint64(d.digits.size()))));
+    if (d.point > qint64(d.digits.size()))
+        s += QString(qsizetype(d.point - qint64(d.digits.size())), QLatin1Char('0'));
+    return s;
+}
+
+QString fractionDigits(const Decimal &d, qint64 count)
+{
+    QString s;
+    s.reserve(qsizetype(count));
+    for (qint64 k = 0; k < count; ++k) {
+        const qint64 index = d.point + k;
+        const bool inside = index >= 0 && index < qint64(d.digits.size());
+        s += inside ? QLatin1Char(d.digits[size_t(index)]) : QLatin1Char('0');
+    }
+    return s;
+}
+
+// --- number patterns ------------------------------------------------------------------
+
+struct NumberToken
+{
+    enum Kind { Zero, Hash, Point, Comma, Percent, Exponent, Literal } kind;
+    QString text;
+    bool exponentPlus = false;
+
+    bool isDigit() const { return kind == Zero || kind == Hash; }
+};
+
+std::vector<NumberToken> numberTokens(const QString &section)
+{
+    std::vector<NumberToken> tokens;
+    for (qsizetype i = 0; i < section.size();) {
+        const QChar c = section.at(i);
+        if (isLiteralStart(c)) {
+            QString literal;
+            i = readLiteral(section, i, literal);
+            tokens.push_back({ NumberToken::Literal, literal });
+            continue;
+        }
+        const QChar next = i + 1 < section.size() ? section.at(i + 1) : QChar();
+        if ((c == QLatin1Char('E') || c == QLatin1Char('e'))
+            && (next == QLatin1Char('+') || next == QLatin1Char('-'))) {
+            tokens.push_back({ NumberToken::Exponent, QString(c), next == QLatin1Char('+') });
+            i += 2;
+            continue;
+        }
+        switch (c.unicode()) {
+        case '0': tokens.push_back({ NumberToken::Zero, QString() }); break;
+        case '#': tokens.push_back({ NumberToken::Hash, QString() }); break;
+        case '.': tokens.push_back({ NumberToken::Point, QString() }); break;
+        case ',': tokens.push_back({ NumberToken::Comma, QString() }); break;
+        case '%': tokens.push_back({ NumberToken::Percent, QStringLiteral("%") }); break;
+        default: tokens.push_back({ NumberToken::Literal, QString(c) }); break;
+        }
+        ++i;
+    }
+    return tokens;
+}
+
+// Digit placeholders between begin and end: how many, and how many of them
+// from the first "0" on (the digits always shown).
+struct DigitRun
+{
+    size_t begin = 0, end = 0;
+    int placeholders = 0;
+    int minimumDigits = 0;
+};
+
+DigitRun digitRun(const std::vector<NumberToken> &tokens, size_t begin, size_t end)
+{
+    DigitRun run { begin, end, 0, 0 };
+    bool zeroSeen = false;
+    for (size_t i = begin; i < end; ++i) {
+        if (!tokens[i].isDigit())
+            continue;
+        ++run.placeholders;
+        zeroSeen = zeroSeen || tokens[i].kind == NumberToken::Zero;
+        if (zeroSeen)
+            ++run.minimumDigits;
+    }
+    return run;
+}
+
+struct NumberLayout
+{
+    std::vector<NumberToken> tokens;
+    DigitRun whole, fraction, exponent;
+    size_t pointIndex = 0, exponentIndex = 0;
+    bool hasPoint = false, hasExponent = false, grouping = false;
+    int scaleCommas = 0, percents = 0;
+};
+
+// Commas between whole-part placeholders group thousands; commas after the
+// last one divide by a thousand each; other commas are plain text.
+void classifyCommas(NumberLayout &l)
+{
+    int digitsSeen = 0;
+    for (size_t i = l.whole.begin; i < l.whole.end; ++i) {
+        NumberToken &t = l.tokens[i];
+        if (t.isDigit())
+            ++digitsSeen;
+        if (t.kind != NumberToken::Comma)
+            continue;
+        const bool digitAfter = digitsSeen < l.whole.placeholders;
+        if (digitsSeen > 0 && digitAfter)
+            l.grouping = true;
+        else if (digitsSeen > 0)
+            ++l.scaleCommas;
+        else
+            t = { NumberToken::Literal, QStringLiteral(",") };
+    }
+}
+
+NumberLayout numberLayout(const QString &section)
+{
+    NumberLayout l;
+    l.tokens = numberTokens(section);
+    const size_t n = l.tokens.size();
+    for (size_t i = 0; i < n; ++i) {
+        NumberToken &t = l.tokens[i];
+        if (t.kind == NumberToken::Exponent && !l.hasExponent) {
+            l.hasExponent = true;
+            l.exponentIndex = i;
+        } else if (t.kind == NumberToken::Exponent) {
+            t = { NumberToken::Literal, t.text + (t.exponentPlus ? u'+' : u'-') };
+        } else if (t.kind == NumberToken::Point && !l.hasPoint && !l.hasExponent) {
+            l.hasPoint = true;
+            l.pointIndex = i;
+        } else if (t.kind == NumberToken::Point) {
+            t = { NumberToken::Literal, QStringLiteral(".") };
+        } else if (t.kind == NumberToken::Percent) {
+            ++l.percents;
+        }
+    }
+    const size_t fractionEnd = l.hasExponent ? l.exponentIndex : n;
+    const size_t wholeEnd = l.hasPoint ? l.pointIndex : fractionEnd;
+    l.whole = digitRun(l.tokens, 0, wholeEnd);
+    l.fraction = digitRun(l.tokens, l.hasPoint ? l.pointIndex + 1 : wholeEnd, fractionEnd);
+    l.exponent = digitRun(l.tokens, l.hasExponent ? l.exponentIndex + 1 : n, n);
+    classifyCommas(l);
+    return l;
+}
+
+// Writes the whole-number digits into the placeholders from the right; the
+// leftmost placeholder also takes every digit left over.
+QString fillWhole(const NumberLayout &l, const DigitRun &run, QString digits, bool grouping,
+    const RegionalSettings &rs)
+{
+    if (digits.size() < run.minimumDigits)
+        digits = QString(run.minimumDigits - digits.size(), QLatin1Char('0')) + digits;
+    QString reversed;
+    qsizetype next = digits.size() - 1;
+    auto emitDigit = [&] {
+        const qsizetype fromRight = digits.size() - 1 - next;
+        if (grouping && fromRight > 0 && fromRight % 3 == 0)
+            reversed += rs.groupSeparator;
+        reversed += digits.at(next--);
+    };
+    if (run.placeholders == 0) {
+        while (next >= 0)
+            emitDigit();
+    }
+    int seen = 0;
+    for (size_t i = run.end; i-- > run.begin;) {
+        const NumberToken &t = l.tokens[i];
+        if (t.isDigit()) {
+            ++seen;
+            if (seen == run.placeholders) {
+                while (next >= 0)
+                    emitDigit();
+            } else if (next >= 0) {
+                emitDigit();
+            }
+        } else if (t.kind == NumberToken::Literal || t.kind == NumberToken::Percent) {
+            for (qsizetype k = t.text.size(); k-- > 0;)
+                reversed += t.text.at(k);
+        }
+    }
+    std::reverse(reversed.begin(), reversed.end());
+    return reversed;
+}
+
+// Decimals left to right; a "#" shows nothing once only zeros follow.
+QString fillFraction(const NumberLayout &l, const QString &digits)
+{
+    qsizetype lastNonZero = -1;
+    for (qsizetype k = 0; k < digits.size(); ++k) {
+        if (digits.at(k) != QLatin1Char('0'))
+            lastNonZero = k;
+    }
+    QString out;
+    qsizetype k = 0;
+    for (size_t i = l.fraction.begin; i < l.fraction.end; ++i) {
+        const NumberToken &t = l.tokens[i];
+        if (t.isDigit()) {
+            if (t.kind == NumberToken::Zero || k <= lastNonZero)
+                out += digits.at(k);
+            ++k;
+        } else if (t.kind == NumberToken::Literal || t.kind == NumberToken::Percent) {
+            out += t.text;
+        }
+    }
+    return out;
+}
+
+QString fillExponent(const NumberLayout &l, qint64 exponent, const RegionalSettings &rs)
+{
+    const NumberToken &e = l.tokens[l.exponentIndex];
+    QString sign;
+    if (exponent < 0)
+        sign = QStringLiteral("-");
+    else if (e.exponentPlus)
+        sign = QStringLiteral("+");
+    const QString digits = exponent == 0 ? QString() : QString::number(std::abs(exponent));
+    return e.text + sign + fillWhole(l, l.exponent, digits, false, rs);
+}
+
+QString formatMagnitude(Decimal d, const NumberLayout &l, const RegionalSettings &rs)
+{
+    d.negative = false;
+    d.point += 2 * l.percents - 3 * l.scaleCommas;
+    qint64 exponent = 0;
+    if (l.hasExponent && !d.isZero()) {
+        exponent = d.point - l.whole.placeholders;
+        d.point = l.whole.placeholders;
+        roundTo(d, l.fraction.placeholders);
+        if (d.point > l.whole.placeholders) { // rounding carried into a new digit
+            d.point = l.whole.placeholders;
+            ++exponent;
+        }
+    } else {
+        roundTo(d, l.fraction.placeholders);
+    }
+    QString out = fillWhole(l, l.whole, wholeDigits(d), l.grouping, rs);
+    if (l.hasPoint)
+        out += rs.decimalSeparator;
+    out += fillFraction(l, fractionDigits(d, l.fraction.placeholders));
+    if (l.hasExponent)
+        out += fillExponent(l, exponent, rs);
+    return out;
+}
+
+// Sections: positive;negative;zero. A negative section carries its own sign
+// text; with none, a minus goes in front. The sign is that of the value before
+// rounding, so -0.001 with "0.00" gives "-0.00".
+QString formatNumber(const Decimal &d, const QStringList &sections, const RegionalSettings &rs)
+{
+    QString section = sections.at(0);
+    bool minus = d.negative;
+    if (d.isZero() && sections.size() > 2 && !sections.at(2).isEmpty()) {
+        section = sections.at(2);
+    } else if (d.negative && sections.size() > 1 && !sections.at(1).isEmpty()) {
+        section = sections.at(1);
+        minus = false;
+    }
+    const QString text = formatMagnitude(d, numberLayout(section), rs);
+    return minus ? QLatin1Char('-') + text : text;
+}
+
+// --- dates -------------------------------------------------------------------------------
+
+struct DateToken
+{
+    enum Kind {
+        Literal,
+        DateSeparator,
+        TimeSeparator,
+        Day,
+        Month,
+        Year,
+        Hour,
+        Minute,
+        Second,
+        Weekday,
+        Quarter,
+        LongTime,
+        General,
+        AmPm
+    } kind;
+    int width = 0; // letters used; for AmPm: 0 AM/PM, 1 A/P, 2 the locale's texts
+    QString text; // literal text; for AmPm "u" or "l" for the case
+};
+
+int runLength(const QString &s, qsizetype i, QChar lower)
+{
+    int n = 0;
+    while (i + n < s.size() && s.at(i + n).toLower() == lower)
+        ++n;
+    return n;
+}
+
+// How many letters of a run one field takes, largest field first.
+int fieldWidth(QChar letter, int run)
+{
+    switch (letter.unicode()) {
+    case 'd': return std::min(run, 6);
+    case 'm': return std::min(run, 4);
+    case 'y': return run >= 4 ? 4 : run >= 2 ? 2 : 1;
+    case 'h':
+    case 'n':
+    case 's':
+    case 'w': return std::min(run, 2);
+    default: return 1;
+    }
+}
+
+DateToken::Kind letterKind(QChar letter)
+{
+    switch (letter.unicode()) {
+    case 'd': return DateToken::Day;
+    case 'm': return DateToken::Month;
+    case 'y': return DateToken::Year;
+    case 'h': return DateToken::Hour;
+    case 'n': return DateToken::Minute;
+    case 's': return DateToken::Second;
+    case 'w': return DateToken::Weekday;
+    case 'q': return DateToken::Quarter;
+    default: return DateToken::General;
+    }
+}
+
+bool readAmPm(const QString &s, qsizetype &i, std::vector<DateToken> &tokens)
+{
+    const QString caseMark = s.at(i).isUpper() ? QStringLiteral("u") : QStringLiteral("l");
+    if (startsWithNoCase(s, i, QLatin1String("am/pm"))) {
+        tokens.push_back({ DateToken::AmPm, 0, caseMark });
+        i += 5;
+    } else if (startsWithNoCase(s, i, QLatin1String("a/p"))) {
+        tokens.push_back({ DateToken::AmPm, 1, caseMark });
+        i += 3;
+    } else if (startsWithNoCase(s, i, QLatin1String("ampm"))) {
+        tokens.push_back({ DateToken::AmPm, 2, caseMark });
+        i += 4;
+    } else {
+        return false;
+    }
+    return true;
+}
+
+std::vector<DateToken> dateTokens(const QString &section)
+{
+    static const QString letters = QStringLiteral("dmyhnswqc");
+    std::vector<DateToken> tokens;
+    for (qsizetype i = 0; i < section.size();) {
+        const QChar c = section.at(i);
+        const QChar lower = c.toLower();
+        if (isLiteralStart(c)) {
+            QString literal;
+            i = readLiteral(section, i, literal);
+            tokens.push_back({ DateToken::Literal, 0, literal });
+        } else if (c == QLatin1Char('/')) {
+            tokens.push_back({ DateToken::DateSeparator, 0, QString() });
+            ++i;
+        } else if (c == QLatin1Char(':')) {
+            tokens.push_back({ DateToken::TimeSeparator, 0, QString() });
+            ++i;
+        } else if (lower == QLatin1Char('a') && readAmPm(section, i, tokens)) {
+            continue;
+        } else if (lower == QLatin1Char('t') && runLength(section, i, lower) >= 5) {
+            tokens.push_back({ DateToken::LongTime, 5, QString() });
+            i += 5;
+        } else if (letters.contains(lower)) {
+            const int width = fieldWidth(lower, runLength(section, i, lower));
+            tokens.push_back({ letterKind(lower), width, QString() });
+            i += width;
+        } else {
+            tokens.push_back({ DateToken::Literal, 0, QString(c) });
+            ++i;
+        }
+    }
+    return tokens;
+}
+
+bool isField(const DateToken &t)
+{
+    return t.kind != DateToken::Literal && t.kind != DateToken::DateSeparator
+        && t.kind != DateToken::TimeSeparator;
+}
+
+// "m" and "mm" are minutes right after an hour or right before a second.
+void resolveMinutes(std::vector<DateToken> &tokens)
+{
+    const DateToken::Kind none = DateToken::Literal;
+    DateToken::Kind previous = none;
+    for (size_t i = 0; i < tokens.size(); ++i) {
+        if (!isField(tokens[i]))
+            continue;
+        DateToken &t = tokens[i];
+        if (t.kind == DateToken::Month && t.width <= 2) {
+            DateToken::Kind following = none;
+            for (size_t j = i + 1; j < tokens.size() && following == none; ++j) {
+                if (isField(tokens[j]))
+                    following = tokens[j].kind;
+            }
+            if (previous == DateToken::Hour || following == DateToken::Second)
+                t.kind = DateToken::Minute;
+        }
+        previous = t.kind;
+    }
+}
+
+QString twoDigits(int v)
+{
+    return QStringLiteral("%1").arg(v, 2, 10, QLatin1Char('0'));
+}
+
+QString sized(int v, int width)
+{
+    return width >= 2 ? twoDigits(v) : QString::number(v);
+}
+
+// Week of the year with the week of 1 January as week 1 and Sunday first.
+int weekOfYear(const QDate &date)
+{
+    const int firstWeekday = QDate(date.year(), 1, 1).dayOfWeek() % 7; // Sunday 0
+    return (date.dayOfYear() - 1 + firstWeekday) / 7 + 1;
+}
+
+QString amPmText(const DateToken &t, bool pm, const QLocale &locale)
+{
+    QString text;
+    if (t.width == 2)
+        return pm ? locale.pmText() : locale.amText();
+    text = t.width == 0 ? (pm ? QStringLiteral("PM") : QStringLiteral("AM"))
+                        : (pm ? QStringLiteral("P") : QStringLiteral("A"));
+    return t.text == QLatin1String("u") ? text : text.toLower();
+}
+
+struct DateContext
+{
+    QDate date;
+    QTime time;
+    bool twelveHour;
+    const RegionalSettings &rs;
+    QLocale locale;
+};
+
+QString dayText(const DateToken &t, const DateContext &c)
+{
+    switch (t.width) {
+    case 1:
+    case 2: return sized(c.date.day(), t.width);
+    case 3: return c.locale.dayName(c.date.dayOfWeek(), QLocale::ShortFormat);
+    case 4: return c.locale.dayName(c.date.dayOfWeek(), QLocale::LongFormat);
+    case 5: return c.date.toString(c.rs.shortDatePattern);
+    default: return c.locale.toString(c.date, QLocale::LongFormat);
+    }
+}
+
+QString monthText(const DateToken &t, const DateContext &c)
+{
+    if (t.width <= 2)
+        return sized(c.date.month(), t.width);
+    return c.locale.monthName(
+        c.date.month(), t.width == 3 ? QLocale::ShortFormat : QLocale::LongFormat);
+}
+
+QString yearText(const DateToken &t, const DateContext &c)
+{
+    if (t.width == 1)
+        return QString::number(c.date.dayOfYear());
+    if (t.width == 2)
+        return twoDigits(c.date.year() % 100);
+    return QString::number(c.date.year());
+}
+
+QString hourText(const DateToken &t, const DateContext &c)
+{
+    int hour = c.time.hour();
+    if (c.twelveHour)
+        hour = hour % 12 == 0 ? 12 : hour % 12;
+    return sized(hour, t.width);
+}
+
+QString tokenText(const DateToken &t, const DateContext &c)
+{
+    switch (t.kind) {
+    case DateToken::Literal: return t.text;
+    case DateToken::DateSeparator: return QString(c.rs.dateSeparator);
+    case DateToken::TimeSeparator: return QString(c.rs.timeSeparator);
+    case DateToken::Day: return dayText(t, c);
+    case DateToken::Month: return monthText(t, c);
+    case DateToken::Year: return yearText(t, c);
+    case DateToken::Hour: return hourText(t, c);
+    case DateToken::Minute: return sized(c.time.minute(), t.width);
+    case DateToken::Second: return sized(c.time.second(), t.width);
+    case DateToken::Weekday:
+        return QString::number(t.width == 1 ? c.date.dayOfWeek() % 7 + 1 : weekOfYear(c.date));
+    case DateToken::Quarter: return QString::number((c.date.month() - 1) / 3 + 1);
+    case DateToken::LongTime: return c.time.toString(c.rs.timePattern);
+    case DateToken::General: return toText(QDateTime(c.date, c.time, Qt::UTC), c.rs);
+    case DateToken::AmPm: return amPmText(t, c.time.hour() >= 12, c.locale);
+    }
+    return QString();
+}
+
+QString formatDate(const QDateTime &value, const QString &section, const RegionalSettings &rs)
+{
+    std::vector<DateToken> tokens = dateTokens(section);
+    resolveMinutes(tokens);
+    const bool twelveHour = std::any_of(
+        tokens.begin(), tokens.end(), [](const DateToken &t) { return t.kind == DateToken::AmPm; });
+    const DateContext context { value.date(), value.time(), twelveHour, rs,
+        QLocale(rs.localeName) };
+    QString out;
+    for (const DateToken &t : tokens)
+        out += tokenText(t, context);
+    return out;
+}
+
+// --- values ---------------------------------------------------------------------------------
+
+bool isTextValue(const QVariant &v)
+{
+    return varType(v) == VarType::String;
+}
+
+// The value as a decimal number; nullopt for text that is not numeric.
+std::optional<Decimal> decimalValue(const QVariant &v, const RegionalSettings &rs)
+{
+    switch (varType(v)) {
+    case VarType::Boolean: return decimalOfWhole(v.toBool() ? -1 : 0);
+    case VarType::Integer:
+    case VarType::Long:
+    case VarType::Byte:
+    case VarType::Currency:
+        if (v.typeId() == QMetaType::ULongLong || v.typeId() == QMetaType::ULong)
+            return decimalOfUnsigned(v.toULongLong());
+        return decimalOfWhole(v.toLongLong());
+    case VarType::Single: return decimalOf(v.toFloat(), 7);
+    case VarType::String:
+        if (!isNumeric(v, rs))
+            return std::nullopt;
+        return decimalOf(toDouble(v, rs), 15);
+    default: return decimalOf(toDouble(v, rs), 15);
+    }
+}
+
+bool isFiniteNumber(const QVariant &v)
+{
+    const VarType t = varType(v);
+    if (t != VarType::Double && t != VarType::Single)
+        return true;
+    return std::isfinite(v.toDouble());
+}
+
+QString formatAsNumber(
+    const QVariant &value, const QStringList &sections, const RegionalSettings &rs)
+{
+    if (!isFiniteNumber(value))
+        return numberText(value.toDouble(), rs);
+    const auto d = decimalValue(value, rs);
+    if (!d)
+        return toText(value, rs);
+    return formatNumber(*d, sections, rs);
+}
+
+QString formatAsDate(const QVariant &value, const QString &section, const RegionalSettings &rs)
+{
+    if (isTextValue(value) && !isDate(value, rs) && !isNumeric(value, rs))
+        return toText(value, rs);
+    return formatDate(toDate(value, rs), section, rs);
+}
+
+} // namespace
+
+QString format(const QVariant &value, const QString &pattern, const RegionalSettings &rs)
+{
+    if (isEmpty(value) || isNull(value))
+        return QString();
+    if (isArray(value) || isObject(value))
+        throw RuntimeError::typeMismatch();
+    if (pattern.isEmpty())
+        return toText(value, rs);
+    const QStringList sections = sectionsOf(pattern);
+    switch (kindOf(pattern)) {
+    case PatternKind::Text: return formatText(toText(value, rs), sections);
+    case PatternKind::Date: return formatAsDate(value, sections.at(0), rs);
+    case PatternKind::Number: break;
+    }
+    return formatAsNumber(value, sections, rs);
+}
+
+} // namespace qor

@@ -1,0 +1,298 @@
+#include "runtime/format.h"
+#include "runtime/runtimeerror.h"
+#include "runtime/variant.h"
+
+#include <QTest>
+#include <limits>
+
+using qor::RegionalSettings;
+
+namespace {
+
+template <typename F> int errorNumber(F f)
+{
+    try {
+        f();
+    } catch (const qor::RuntimeError &e) {
+        return e.number();
+    }
+    return 0;
+}
+
+RegionalSettings settings(const QString &locale)
+{
+    return RegionalSettings::fromLocale(locale);
+}
+
+// Adds the columns of a table that gives the result under nl_BE and en_US.
+void addColumns()
+{
+    QTest::addColumn<QVariant>("value");
+    QTest::addColumn<QString>("pattern");
+    QTest::addColumn<QString>("nl");
+    QTest::addColumn<QString>("us");
+}
+
+void compareBoth()
+{
+    QFETCH(QVariant, value);
+    QFETCH(QString, pattern);
+    QTEST(qor::format(value, pattern, settings("nl_BE")), "nl");
+    QTEST(qor::format(value, pattern, settings("en_US")), "us");
+}
+
+const QString bankMask = QStringLiteral("&&&\\-&&&&&&&\\-&&");
+const QString vatMask = QStringLiteral("&&&&\\.&&&\\.&&&");
+const QString nationalMask = QStringLiteral("&&&&&&\\.&&&\\.&&");
+const QString referenceMask = QStringLiteral("000\\/0000\\/000");
+const QString amountPattern = QStringLiteral("#,##0.00;- #,##0.00");
+
+} // namespace
+
+class TestFormat : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void textMasks_data()
+    {
+        addColumns();
+        // clang-format off
+        QTest::newRow("bank account") << QVariant("123456789012") << bankMask << "123-4567890-12" << "123-4567890-12";
+        QTest::newRow("bank account from a number") << QVariant(123456789012.0) << bankMask << "123-4567890-12" << "123-4567890-12";
+        QTest::newRow("short text leaves the first places empty") << QVariant("12345") << bankMask << "-123-45" << "-123-45";
+        QTest::newRow("long text puts its surplus in front") << QVariant("99123456789012") << bankMask << "99123-4567890-12" << "99123-4567890-12";
+        QTest::newRow("VAT number") << QVariant("0123456749") << vatMask << "0123.456.749" << "0123.456.749";
+        QTest::newRow("VAT number of nine digits") << QVariant("123456749") << vatMask << "123.456.749" << "123.456.749";
+        QTest::newRow("national number") << QVariant("72020290081") << nationalMask << "720202.900.81" << "720202.900.81";
+        QTest::newRow("empty text keeps the literals") << QVariant("") << bankMask << "--" << "--";
+        QTest::newRow("@ shows a blank") << QVariant("ab") << "(@@@@)" << "(  ab)" << "(  ab)";
+        QTest::newRow("! fills from the left") << QVariant("abc") << "!&&\\-&&" << "ab-c" << "ab-c";
+        QTest::newRow("> upper case") << QVariant("abc") << ">&&&" << "ABC" << "ABC";
+        QTest::newRow("second section for empty text") << QVariant("") << "&&;\\-" << "-" << "-";
+        QTest::newRow("quoted literal") << QVariant("12") << "\"nr \"&&" << "nr 12" << "nr 12";
+        // clang-format on
+    }
+    void textMasks() { compareBoth(); }
+
+    void numberPatterns_data()
+    {
+        addColumns();
+        // clang-format off
+        QTest::newRow("structured reference") << QVariant(12345) << referenceMask << "000/0012/345" << "000/0012/345";
+        QTest::newRow("structured reference, ten digits") << QVariant(1234567890.0) << referenceMask << "123/4567/890" << "123/4567/890";
+        QTest::newRow("structured reference, surplus in front") << QVariant(123456789012.0) << referenceMask << "12345/6789/012" << "12345/6789/012";
+        QTest::newRow("line number and blank") << QVariant(42) << "000000 " << "000042 " << "000042 ";
+        QTest::newRow("hours #00") << QVariant(8) << "#00" << "08" << "08";
+        QTest::newRow("hours #00, three digits") << QVariant(123) << "#00" << "123" << "123";
+        QTest::newRow("hours #0") << QVariant(8) << "#0" << "8" << "8";
+        QTest::newRow("hours #0 of zero") << QVariant(0) << "#0" << "0" << "0";
+        QTest::newRow("check digits 00") << QVariant(7) << "00" << "07" << "07";
+        QTest::newRow("check digits 00, 97") << QVariant(97) << "00" << "97" << "97";
+        QTest::newRow("0.0 gives the decimal separator") << QVariant(0) << "0.0" << "0,0" << "0.0";
+        QTest::newRow("0.00") << QVariant(3.14159) << "0.00" << "3,14" << "3.14";
+        QTest::newRow("0.00 pads decimals") << QVariant(3) << "0.00" << "3,00" << "3.00";
+        QTest::newRow("0 rounds half away from zero") << QVariant(2.5) << "0" << "3" << "3";
+        QTest::newRow("0 rounds negative half away") << QVariant(-2.5) << "0" << "-3" << "-3";
+        QTest::newRow("amount") << QVariant(1234.5) << amountPattern << "1.234,50" << "1,234.50";
+        QTest::newRow("amount, millions") << QVariant(1234567.891) << amountPattern << "1.234.567,89" << "1,234,567.89";
+        QTest::newRow("amount, negative section") << QVariant(-1234.5) << amountPattern << "- 1.234,50" << "- 1,234.50";
+        QTest::newRow("amount, zero") << QVariant(0) << amountPattern << "0,00" << "0.00";
+        QTest::newRow("amount, below one") << QVariant(0.5) << amountPattern << "0,50" << "0.50";
+        QTest::newRow("VAT caption") << QVariant(21.0) << "0.0\\ \\%" << "21,0 %" << "21.0 %";
+        QTest::newRow("VAT caption, 12.5") << QVariant(12.5) << "0.0\\ \\%" << "12,5 %" << "12.5 %";
+        QTest::newRow("percent multiplies") << QVariant(0.215) << "0.0%" << "21,5%" << "21.5%";
+        QTest::newRow("grouping without decimals") << QVariant(-1234567) << "#,##0" << "-1.234.567" << "-1,234,567";
+        QTest::newRow("trailing comma divides by 1000") << QVariant(1234567) << "#,##0," << "1.235" << "1,235";
+        QTest::newRow("# decimals drop trailing zeros") << QVariant(1.5) << "0.0#" << "1,5" << "1.5";
+        QTest::newRow("# whole part of a fraction") << QVariant(0.5) << "#.##" << ",5" << ".5";
+        QTest::newRow("scientific") << QVariant(12345.678) << "0.00E+00" << "1,23E+04" << "1.23E+04";
+        QTest::newRow("scientific, small") << QVariant(0.000123) << "0.0E-00" << "1,2E-04" << "1.2E-04";
+        QTest::newRow("zero section") << QVariant(0) << "0;-0;\"nihil\"" << "nihil" << "nihil";
+        QTest::newRow("single section puts a minus in front") << QVariant(-5) << "\\[0\\]" << "-[5]" << "-[5]";
+        // clang-format on
+    }
+    void numberPatterns() { compareBoth(); }
+
+    // Format rounds the digits a Double shows (15 significant), half away from
+    // zero: 2.675 is 2.67499999... in binary but displays and rounds as 2.675.
+    void rounding_data()
+    {
+        addColumns();
+        // clang-format off
+        QTest::newRow("2.675 to 2.68") << QVariant(2.675) << "0.00" << "2,68" << "2.68";
+        QTest::newRow("1.005 to 1.01") << QVariant(1.005) << "0.00" << "1,01" << "1.01";
+        QTest::newRow("0.125 to 0.13, not to even") << QVariant(0.125) << "0.00" << "0,13" << "0.13";
+        QTest::newRow("-0.125 to -0.13") << QVariant(-0.125) << "0.00" << "-0,13" << "-0.13";
+        QTest::newRow("9.995 carries into the whole part") << QVariant(9.995) << "0.00" << "10,00" << "10.00";
+        QTest::newRow("999.999 carries into a group") << QVariant(999.999) << amountPattern << "1.000,00" << "1,000.00";
+        QTest::newRow("sum of 0.1 and 0.2") << QVariant(0.1 + 0.2) << "0.0000000000000000" << "0,3000000000000000" << "0.3000000000000000";
+        QTest::newRow("a tiny negative keeps its sign") << QVariant(-0.001) << "0.00" << "-0,00" << "-0.00";
+        QTest::newRow("a Single rounds on its 7 digits") << QVariant(2.675f) << "0.00" << "2,68" << "2.68";
+        QTest::newRow("64-bit whole numbers stay exact") << QVariant(qlonglong(9007199254740993LL)) << "#,##0" << "9.007.199.254.740.993" << "9,007,199,254,740,993";
+        // clang-format on
+    }
+    void rounding() { compareBoth(); }
+
+    void otherValueKinds_data()
+    {
+        addColumns();
+        // clang-format off
+        QTest::newRow("True is -1") << QVariant(true) << "0.00" << "-1,00" << "-1.00";
+        QTest::newRow("False is 0") << QVariant(false) << "#0" << "0" << "0";
+        QTest::newRow("a date is its serial") << QVariant(QDate(2000, 1, 1)) << "0.00" << "36526,00" << "36526.00";
+        QTest::newRow("date and time serial") << QVariant(QDateTime(QDate(2000, 1, 1), QTime(18, 0))) << "0.00" << "36526,75" << "36526.75";
+        QTest::newRow("numeric text is read with the regional separators") << QVariant("1.234,5") << "0.00" << "1234,50" << "1.234,5";
+        QTest::newRow("point text under comma settings is grouping") << QVariant("12.5") << "0.00" << "125,00" << "12.50";
+        QTest::newRow("text that is not numeric comes back unchanged") << QVariant("abc") << "0.00" << "abc" << "abc";
+        QTest::newRow("empty text") << QVariant("") << "000000 " << "" << "";
+        QTest::newRow("Empty") << QVariant() << "0.00" << "" << "";
+        QTest::newRow("Null") << qor::nullVariant() << amountPattern << "" << "";
+        QTest::newRow("no pattern: the plain text form") << QVariant(1234.5) << "" << "1234,5" << "1234.5";
+        QTest::newRow("no pattern, Boolean") << QVariant(true) << "" << "True" << "True";
+        QTest::newRow("a number through a text mask") << QVariant(1234.5) << "&&&&&&" << "1234,5" << "1234.5";
+        // clang-format on
+    }
+    void otherValueKinds() { compareBoth(); }
+
+    void datePatterns_data()
+    {
+        addColumns();
+        const QDateTime afternoon(QDate(2024, 3, 5), QTime(14, 7, 9));
+        const QDateTime morning(QDate(2024, 3, 5), QTime(8, 30));
+        // clang-format off
+        QTest::newRow("HH:mm") << QVariant(morning) << "HH:mm" << "08:30" << "08:30";
+        QTest::newRow("hh:mm is 24-hour too") << QVariant(afternoon) << "hh:mm" << "14:07" << "14:07";
+        QTest::newRow("h:nn") << QVariant(QTime(9, 5)) << "h:nn" << "9:05" << "9:05";
+        QTest::newRow("time with seconds") << QVariant(afternoon) << "hh:mm:ss" << "14:07:09" << "14:07:09";
+        QTest::newRow("mm before ss is minutes") << QVariant(afternoon) << "mm:ss" << "07:09" << "07:09";
+        QTest::newRow("dd/mm/yyyy: mm is the month") << QVariant(afternoon) << "dd/mm/yyyy" << "05/03/2024" << "05/03/2024";
+        QTest::newRow("yyyy-mm-dd") << QVariant(QDate(2024, 12, 31)) << "yyyy-mm-dd" << "2024-12-31" << "2024-12-31";
+        QTest::newRow("d/m/yy") << QVariant(QDate(2009, 7, 4)) << "d/m/yy" << "4/7/09" << "4/7/09";
+        QTest::newRow("dddd") << QVariant(QDate(2024, 3, 4)) << "dddd" << "maandag" << "Monday";
+        QTest::newRow("ddd") << QVariant(QDate(2024, 3, 10)) << "ddd" << "zo" << "Sun";
+        QTest::newRow("mmmm") << QVariant(QDate(2024, 3, 5)) << "mmmm" << "maart" << "March";
+        QTest::newRow("mmm") << QVariant(QDate(2024, 5, 5)) << "mmm" << "mei" << "May";
+        QTest::newRow("AM/PM makes a 12-hour clock") << QVariant(afternoon) << "h:nn AM/PM" << "2:07 PM" << "2:07 PM";
+        QTest::newRow("am/pm at midnight") << QVariant(QTime(0, 15)) << "hh:nn am/pm" << "12:15 am" << "12:15 am";
+        QTest::newRow("quarter, weekday, day of year") << QVariant(QDate(2024, 3, 5)) << "q w y" << "1 3 65" << "1 3 65";
+        QTest::newRow("week of the year") << QVariant(QDate(2024, 1, 7)) << "ww" << "2" << "2";
+        QTest::newRow("short date") << QVariant(QDate(2024, 3, 5)) << "ddddd" << "05/03/2024" << "3/5/2024";
+        QTest::newRow("separators follow the settings") << QVariant(morning) << "dd/mm hh:nn" << "05/03 08:30" << "05/03 08:30";
+        QTest::newRow("escaped letters are literal") << QVariant(QDate(2024, 3, 5)) << "\\d\\a\\y d" << "day 5" << "day 5";
+        QTest::newRow("serial number as a date") << QVariant(36526.5) << "dd/mm/yyyy hh:nn" << "01/01/2000 12:00" << "01/01/2000 12:00";
+        QTest::newRow("date text") << QVariant("31/12/2000") << "yyyy-mm-dd" << "2000-12-31" << "2000-12-31";
+        QTest::newRow("time text") << QVariant("8:30") << "HH:mm" << "08:30" << "08:30";
+        QTest::newRow("a time literal with hashes stays as it is") << QVariant("#08:30#") << "HH:mm" << "#08:30#" << "#08:30#";
+        QTest::newRow("Boolean True is 29 December 1899") << QVariant(true) << "dd/mm/yyyy" << "29/12/1899" << "29/12/1899";
+        // clang-format on
+    }
+    void datePatterns() { compareBoth(); }
+
+    void dateSeparatorsOfOtherSettings()
+    {
+        const QDate date(2024, 3, 5);
+        QCOMPARE(qor::format(date, QStringLiteral("dd/mm/yyyy"), settings("de_DE")),
+            QStringLiteral("05.03.2024"));
+        RegionalSettings dotted = settings("nl_BE");
+        dotted.timeSeparator = QLatin1Char('.');
+        QCOMPARE(
+            qor::format(QTime(8, 30), QStringLiteral("HH:mm"), dotted), QStringLiteral("08.30"));
+    }
+
+    void nonFiniteAndHugeNumbers_data()
+    {
+        addColumns();
+        const double inf = std::numeric_limits<double>::infinity();
+        const QString hugeWhole = QStringLiteral("1") + QString(300, QLatin1Char('0'));
+        // clang-format off
+        QTest::newRow("1E+300 prints every digit") << QVariant(1e300) << "0.00" << hugeWhole + ",00" << hugeWhole + ".00";
+        QTest::newRow("largest Double") << QVariant(std::numeric_limits<double>::max()) << "0" << "179769313486232" + QString(294, '0') << "179769313486232" + QString(294, '0');
+        QTest::newRow("NaN") << QVariant(std::numeric_limits<double>::quiet_NaN()) << amountPattern << "1.#QNAN" << "1.#QNAN";
+        QTest::newRow("infinity") << QVariant(inf) << "0.00" << "1.#INF" << "1.#INF";
+        QTest::newRow("minus infinity") << QVariant(-inf) << referenceMask << "-1.#INF" << "-1.#INF";
+        QTest::newRow("smallest Double rounds to zero") << QVariant(std::numeric_limits<double>::denorm_min()) << "0.00" << "0,00" << "0.00";
+        // clang-format on
+    }
+    void nonFiniteAndHugeNumbers() { compareBoth(); }
+
+    void errors_data()
+    {
+        QTest::addColumn<QVariant>("value");
+        QTest::addColumn<QString>("pattern");
+        QTest::addColumn<int>("error");
+        static QObject object;
+        // clang-format off
+        QTest::newRow("array") << QVariant(QVariantList { 1 }) << "0.00" << 13;
+        QTest::newRow("array, no pattern") << QVariant(QVariantList { 1 }) << "" << 13;
+        QTest::newRow("object") << QVariant::fromValue(&object) << bankMask << 13;
+        QTest::newRow("date pattern on 1E+300") << QVariant(1e300) << "dd/mm/yyyy" << 6;
+        QTest::newRow("date pattern on NaN") << QVariant(std::numeric_limits<double>::quiet_NaN()) << "HH:mm" << 6;
+        // clang-format on
+    }
+    void errors()
+    {
+        QFETCH(QVariant, value);
+        QFETCH(QString, pattern);
+        QTEST(errorNumber([&] { qor::format(value, pattern, settings("nl_BE")); }), "error");
+    }
+
+    // Every pattern kind gives a text or a RuntimeError for every subtype.
+    void everySubtypeIsHandled_data()
+    {
+        QTest::addColumn<QVariant>("value");
+        static QObject object;
+        // clang-format off
+        QTest::newRow("Empty") << QVariant();
+        QTest::newRow("Null") << qor::nullVariant();
+        QTest::newRow("Boolean") << QVariant(false);
+        QTest::newRow("Integer") << qor::integerVariant(-32768);
+        QTest::newRow("Long") << QVariant(2147483647);
+        QTest::newRow("Single") << QVariant(-3.4e38f);
+        QTest::newRow("Double") << QVariant(-1e300);
+        QTest::newRow("64-bit") << QVariant(std::numeric_limits<qlonglong>::min());
+        QTest::newRow("unsigned 64-bit") << QVariant(std::numeric_limits<qulonglong>::max());
+        QTest::newRow("text") << QVariant("1,5 x");
+        QTest::newRow("date and time") << QVariant(QDateTime(QDate(2024, 2, 29), QTime(23, 59)));
+        QTest::newRow("null date") << QVariant(QDate());
+        QTest::newRow("time") << QVariant(QTime(0, 0));
+        QTest::newRow("array") << QVariant(QVariantList { 1 });
+        QTest::newRow("object") << QVariant::fromValue(&object);
+        QTest::newRow("map") << QVariant(QVariantMap());
+        // clang-format on
+    }
+    void everySubtypeIsHandled()
+    {
+        QFETCH(QVariant, value);
+        const QStringList patterns = { bankMask, referenceMask, amountPattern, "0.0\\ \\%", "0.0%",
+            "0.00E+00", "#,##0,", "HH:mm", "dddd d mmmm yyyy", "c", "ttttt", "", ";;", "\\", "\"",
+            "&;", "E+", "am/pm h" };
+        for (const QString &pattern : patterns) {
+            for (const char *locale : { "nl_BE", "en_US" }) {
+                try {
+                    qor::format(value, pattern, settings(QString::fromLatin1(locale)));
+                } catch (const qor::RuntimeError &) {
+                } catch (...) {
+                    QFAIL(qPrintable(QStringLiteral("pattern ") + pattern));
+                }
+            }
+        }
+    }
+
+    void megabyteTextsEndAtOnce()
+    {
+        const RegionalSettings nl = settings("nl_BE");
+        const QString text(1 << 20, QLatin1Char('7'));
+        const QString masked = qor::format(text, bankMask, nl);
+        QCOMPARE(masked.size(), text.size() + 2);
+        QVERIFY(masked.endsWith(QStringLiteral("7-7777777-77")));
+        QCOMPARE(qor::format(text + QLatin1Char('x'), amountPattern, nl), text + QLatin1Char('x'));
+        // Beyond the Double range the digits are no number, so no date either.
+        QCOMPARE(qor::format(text, QStringLiteral("dd/mm/yyyy"), nl), text);
+        const QString longPattern = QStringLiteral("0.") + QString(1 << 20, QLatin1Char('0'));
+        QCOMPARE(qor::format(0.5, longPattern, nl).size(), (1 << 20) + 2);
+    }
+};
+
+QTEST_APPLESS_MAIN(TestFormat)
+#include "tst_format.moc"
