@@ -1,0 +1,140 @@
+// Checks per second of the identifier checks on valid and invalid numbers, as a
+// host checking a file of numbers without messages would call them.
+
+#include "runtime/regionalsettings.h"
+#include "runtime/runtimeerror.h"
+#include "validate/bankaccount.h"
+#include "validate/identitycard.h"
+#include "validate/nationalnumber.h"
+#include "validate/paymentreference.h"
+#include "validate/vatnumber.h"
+
+#include <chrono>
+#include <cstdio>
+#include <functional>
+#include <vector>
+
+using namespace qor;
+
+namespace {
+
+constexpr int numbersPerRun = 1000000;
+
+QString digits(qint64 value, int width)
+{
+    return QStringLiteral("%1").arg(value, width, 10, QLatin1Char('0'));
+}
+
+qint64 rest97(qint64 value, bool zeroAs97)
+{
+    const qint64 r = value % 97;
+    return r == 0 && zeroAs97 ? 97 : r;
+}
+
+// A first part for number i, spread over the range of the identifier.
+qint64 firstPart(int i, qint64 range)
+{
+    return (qint64(i) * 7919 + 12345) % range;
+}
+
+QString bankNumber(int i, bool valid)
+{
+    const qint64 first = firstPart(i, 10000000000LL);
+    const qint64 check = (rest97(first, true) + (valid ? 0 : 1)) % 100;
+    const QString d = digits(first, 10) + digits(check, 2);
+    return d.left(3) + QLatin1Char('-') + d.mid(3, 7) + QLatin1Char('-') + d.right(2);
+}
+
+QString vatNumber(int i, bool valid)
+{
+    const qint64 first = firstPart(i, 100000000LL);
+    const qint64 check = 97 - first % 97 + (valid ? 0 : 1);
+    const QString d = digits(first, 8) + digits(check % 100, 2);
+    return QStringLiteral("BE ") + d.left(4) + QLatin1Char('.') + d.mid(4, 3) + QLatin1Char('.')
+        + d.right(3);
+}
+
+QString nationalNumber(int i, bool valid)
+{
+    const qint64 first = firstPart(i, 1000000000LL);
+    // Never right under either rule: the two checks differ by 68 or 29.
+    const qint64 check = 97 - first % 97 + (valid ? 0 : 1);
+    const QString d = digits(first, 9) + digits(check % 100, 2);
+    return d.left(2) + QLatin1Char('.') + d.mid(2, 2) + QLatin1Char('.') + d.mid(4, 2)
+        + QLatin1Char('-') + d.mid(6, 3) + QLatin1Char('.') + d.right(2);
+}
+
+QString identityNumber(int i, bool valid)
+{
+    const qint64 first = firstPart(i, 10000000000LL);
+    return digits(first, 10) + digits((rest97(first, false) + (valid ? 0 : 1)) % 100, 2);
+}
+
+QString paymentReference(int i, bool valid)
+{
+    // Within 32 bits, so that the check never overflows.
+    const qint64 first = firstPart(i, 2147483648LL);
+    const QString d = digits(first, 10) + digits((rest97(first, false) + (valid ? 0 : 1)) % 100, 2);
+    return QStringLiteral("+++") + d.left(3) + QLatin1Char('/') + d.mid(3, 4) + QLatin1Char('/')
+        + d.right(5) + QStringLiteral("+++");
+}
+
+QString referenceNumber(int i, bool shortOne)
+{
+    return shortOne ? QString::number(i)
+                    : QStringLiteral("F") + digits(firstPart(i, 100000000000LL), 11);
+}
+
+struct Case
+{
+    const char *name;
+    std::function<QString(int, bool)> make;
+    std::function<bool(QString &)> check; // true when accepted
+};
+
+void run(const Case &c, bool valid)
+{
+    std::vector<QString> inputs;
+    inputs.reserve(numbersPerRun);
+    for (int i = 0; i < numbersPerRun; ++i)
+        inputs.push_back(c.make(i, valid));
+    int accepted = 0;
+    const auto start = std::chrono::steady_clock::now();
+    for (const QString &input : inputs) {
+        QString number = input;
+        accepted += c.check(number) ? 1 : 0;
+    }
+    const std::chrono::duration<double> seconds = std::chrono::steady_clock::now() - start;
+    std::printf("%-22s %-8s %12.0f %10.1f %10d\n", c.name, valid ? "valid" : "invalid",
+        numbersPerRun / seconds.count(), seconds.count() * 1e9 / numbersPerRun, accepted);
+}
+
+} // namespace
+
+int main()
+{
+    const RegionalSettings rs = RegionalSettings::fromLocale(QStringLiteral("nl_BE"));
+    const std::vector<Case> cases {
+        { "bank account", bankNumber, [](QString &n) { return !checkBankAccount(n).refused; } },
+        { "VAT number", vatNumber,
+            [](QString &n) {
+                QString land;
+                return !checkVatNumber(n, land).refused;
+            } },
+        { "national number", nationalNumber,
+            [](QString &n) { return !checkNationalNumber(n).refused; } },
+        { "identity card", identityNumber,
+            [&rs](QString &n) { return !checkIdentityCard(n, rs).refused; } },
+        { "check OGM", paymentReference,
+            [](QString &n) { return !checkPaymentReference(n).refused; } },
+        { "make OGM (short/long)", referenceNumber,
+            [](QString &n) { return !makePaymentReference(n).tooLong; } },
+    };
+    std::printf(
+        "%-22s %-8s %12s %10s %10s\n", "identifier", "input", "checks/s", "ns/check", "accepted");
+    for (const Case &c : cases) {
+        run(c, true);
+        run(c, false);
+    }
+    return 0;
+}

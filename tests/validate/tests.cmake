@@ -1,0 +1,7 @@
+qor_add_test(tst_bankaccount ${dir}/tst_bankaccount.cpp)
+qor_add_test(tst_vatnumber ${dir}/tst_vatnumber.cpp)
+qor_add_test(tst_nationalnumber ${dir}/tst_nationalnumber.cpp)
+qor_add_test(tst_identitycard ${dir}/tst_identitycard.cpp)
+qor_add_test(tst_paymentreference ${dir}/tst_paymentreference.cpp)
+qor_add_test(tst_identifiermethods ${dir}/tst_identifiermethods.cpp)
+qor_add_test(tst_displaymask ${dir}/tst_displaymask.cpp)

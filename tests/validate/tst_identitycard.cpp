@@ -1,0 +1,103 @@
+#include "validate/identitycard.h"
+
+#include <QTest>
+
+using namespace qor;
+
+class TestIdentityCard : public QObject
+{
+    Q_OBJECT
+
+    const RegionalSettings belgian = RegionalSettings::fromLocale(QStringLiteral("nl_BE"));
+
+private slots:
+    void checks_data()
+    {
+        QTest::addColumn<QString>("input");
+        QTest::addColumn<QString>("after");
+        QTest::addColumn<QString>("display");
+        // 5912345678 modulo 97 is 29; 1234567890 modulo 97 is 2.
+        QTest::newRow("valid") << "591234567829"
+                               << "591234567829"
+                               << "591234567829";
+        QTest::newRow("remainder below 10") << "123456789002"
+                                            << "123456789002"
+                                            << "123456789002";
+        QTest::newRow("remainder 0 written 00") << "000000009700"
+                                                << "000000009700"
+                                                << "000000009700";
+        QTest::newRow("97 rewritten to 00, valid") << "000000009797"
+                                                   << "000000009700"
+                                                   << "000000009700";
+        QTest::newRow("97 rewritten to 00, still wrong") << "123456789097"
+                                                         << "123456789000"
+                                                         << "";
+        QTest::newRow("wrong check digits") << "591234567828"
+                                            << "591234567828"
+                                            << "";
+        QTest::newRow("separators are not cleaned") << "591-2345678-29"
+                                                    << "591-2345678-29"
+                                                    << "";
+        QTest::newRow("eleven digits") << "59123456782"
+                                       << "59123456782"
+                                       << "";
+        QTest::newRow("thirteen digits") << "5912345678290"
+                                         << "5912345678290"
+                                         << "";
+        QTest::newRow("full-width digits read as 0 on both sides")
+            << QStringLiteral(
+                   "\uFF15\uFF19\uFF11\uFF12\uFF13\uFF14\uFF15\uFF16\uFF17\uFF18\uFF12\uFF19")
+            << QStringLiteral(
+                   "\uFF15\uFF19\uFF11\uFF12\uFF13\uFF14\uFF15\uFF16\uFF17\uFF18\uFF12\uFF19")
+            << QStringLiteral(
+                   "\uFF15\uFF19\uFF11\uFF12\uFF13\uFF14\uFF15\uFF16\uFF17\uFF18\uFF12\uFF19");
+        // Twelve characters that are not numeric both read as 0, and 0 = 0.
+        QTest::newRow("twelve letters read as 0 on both sides") << "abcdefghijkl"
+                                                                << "abcdefghijkl"
+                                                                << "abcdefghijkl";
+        QTest::newRow("embedded NUL reads the part as 0")
+            << QStringLiteral("59123456\u0000829") << QStringLiteral("59123456\u0000829") << "";
+    }
+    void checks()
+    {
+        QFETCH(QString, input);
+        QFETCH(QString, after);
+        QFETCH(QString, display);
+        QString identNr = input;
+        const CheckResult check = checkIdentityCard(identNr, belgian);
+        QCOMPARE(identNr, after);
+        QCOMPARE(check.display, display);
+        QCOMPARE(check.refused, display.isEmpty());
+    }
+
+    void partsAreReadAsTheLibraryReadsNumbers()
+    {
+        // With comma decimals the first part is 0,97 (remainder 0,97); with
+        // point decimals the reading stops at the comma and gives 0.
+        const QString input = QStringLiteral("0000,9700000");
+        QString identNr = input.left(12);
+        QVERIFY(checkIdentityCard(identNr, belgian).refused);
+        identNr = input.left(12);
+        const RegionalSettings american = RegionalSettings::fromLocale(QStringLiteral("en_US"));
+        QCOMPARE(checkIdentityCard(identNr, american).display, input.left(12));
+    }
+
+    void blankIsNotChecked()
+    {
+        QString identNr = QStringLiteral("            ");
+        const CheckResult check = checkIdentityCard(identNr, belgian);
+        QCOMPARE(identNr, QStringLiteral("            "));
+        QVERIFY(check.display.isEmpty());
+        QVERIFY(!check.refused);
+    }
+
+    void megabyteIsRefusedOnLength()
+    {
+        QString identNr(1 << 20, QLatin1Char('9'));
+        QVERIFY(checkIdentityCard(identNr, belgian).refused);
+        QCOMPARE(identNr.size(), 1 << 20);
+    }
+};
+
+QTEST_APPLESS_MAIN(TestIdentityCard)
+#include "tst_identitycard.moc"

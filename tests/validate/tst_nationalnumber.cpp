@@ -1,0 +1,116 @@
+#include "validate/nationalnumber.h"
+
+#include <QTest>
+
+using namespace qor;
+
+class TestNationalNumber : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void checksAndCleans_data()
+    {
+        QTest::addColumn<QString>("input");
+        QTest::addColumn<QString>("cleaned");
+        QTest::addColumn<QString>("display");
+        // 850730033 modulo 97 is 69: check 28 before 2000, 57 from 2000 on.
+        // 170730033 modulo 97 is 42: check 55 before 2000, 84 from 2000 on.
+        QTest::newRow("born before 2000, dots and dash") << "85.07.30-033.28"
+                                                         << "85073003328"
+                                                         << "850730.033.28";
+        QTest::newRow("born from 2000, blanks") << "17 07 30 033 84"
+                                                << "17073003384"
+                                                << "170730.033.84";
+        QTest::newRow("rule of 2000 also accepted for 1985") << "85073003357"
+                                                             << "85073003357"
+                                                             << "850730.033.57";
+        QTest::newRow("rule before 2000 also accepted for 2017") << "17073003355"
+                                                                 << "17073003355"
+                                                                 << "170730.033.55";
+        QTest::newRow("remainder 0, before 2000") << "00000009797"
+                                                  << "00000009797"
+                                                  << "000000.097.97";
+        QTest::newRow("remainder 0, from 2000") << "00000009729"
+                                                << "00000009729"
+                                                << "000000.097.29";
+        QTest::newRow("check1 68 gives check2 97") << "00000002997"
+                                                   << "00000002997"
+                                                   << "000000.029.97";
+        QTest::newRow("check1 69 gives check2 1") << "00000002801"
+                                                  << "00000002801"
+                                                  << "000000.028.01";
+        QTest::newRow("control characters dropped")
+            << QStringLiteral("850730\u0000033\t28\n") << "85073003328"
+            << "850730.033.28";
+        QTest::newRow("length not enforced") << "97"
+                                             << "97"
+                                             << "..97";
+        QTest::newRow("wrong check digits") << "85.07.30-033.29"
+                                            << "85073003329"
+                                            << "";
+        QTest::newRow("letters only") << "geen"
+                                      << ""
+                                      << "";
+        QTest::newRow("arabic-indic digits dropped")
+            << QStringLiteral("\u0668\u0665\u0660\u0667") << ""
+            << "";
+    }
+    void checksAndCleans()
+    {
+        QFETCH(QString, input);
+        QFETCH(QString, cleaned);
+        QFETCH(QString, display);
+        QString natNr = input;
+        const CheckResult check = checkNationalNumber(natNr, QStringLiteral("BE"));
+        QCOMPARE(natNr, cleaned);
+        QCOMPARE(check.display, display);
+        QCOMPARE(check.refused, display.isEmpty());
+
+        QString withoutLand = input;
+        QCOMPARE(checkNationalNumber(withoutLand).display, display);
+    }
+
+    void otherLandsPassUntouched_data()
+    {
+        QTest::addColumn<QString>("input");
+        QTest::addColumn<QString>("landCode");
+        QTest::newRow("dutch number") << "1234.56.789"
+                                      << "NL";
+        QTest::newRow("empty text") << ""
+                                    << "NL";
+        QTest::newRow("lower-case be is foreign") << "85.07.30-033.29"
+                                                  << "be";
+    }
+    void otherLandsPassUntouched()
+    {
+        QFETCH(QString, input);
+        QFETCH(QString, landCode);
+        QString natNr = input;
+        const CheckResult check = checkNationalNumber(natNr, landCode);
+        QCOMPARE(natNr, input);
+        QCOMPARE(check.display, input);
+        QVERIFY(!check.refused);
+    }
+
+    void blankIsNotChecked()
+    {
+        QString natNr = QStringLiteral("  ");
+        const CheckResult check = checkNationalNumber(natNr, QStringLiteral("BE"));
+        QCOMPARE(natNr, QStringLiteral("  "));
+        QVERIFY(check.display.isEmpty());
+        QVERIFY(!check.refused);
+    }
+
+    void megabyteOfDigits()
+    {
+        QString natNr = QStringLiteral("850730033") + QString(1 << 20, QLatin1Char('7'))
+            + QStringLiteral("28");
+        const CheckResult check = checkNationalNumber(natNr);
+        QCOMPARE(check.display.size(), natNr.size() + 2);
+        QVERIFY(check.display.endsWith(QLatin1String(".777.28")));
+    }
+};
+
+QTEST_APPLESS_MAIN(TestNationalNumber)
+#include "tst_nationalnumber.moc"

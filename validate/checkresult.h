@@ -1,0 +1,22 @@
+#pragma once
+
+#include <QString>
+
+namespace qor {
+
+// The outcome of an identifier check. The checked text itself is cleaned in the
+// caller's variable, as the library's methods do.
+struct CheckResult
+{
+    // The number in its display notation; empty when it was refused.
+    QString display;
+    // The number was checked and found wrong: the case a user is told about.
+    bool refused = false;
+
+    static CheckResult accepted(const QString &display) { return { display, false }; }
+    static CheckResult wrong() { return { QString(), true }; }
+    // Blank input: nothing checked, nothing to report.
+    static CheckResult skipped() { return {}; }
+};
+
+} // namespace qor
