@@ -78,6 +78,26 @@ public:
     // Station flags.
     Q_INVOKABLE bool GetKlantPC();
 
+    // Identifier checks.
+    // Each cleans the caller's variable and, with MBox, reports a wrong number.
+    Q_CLASSINFO("ControleerBankNr", "{\"MBox\": true}")
+    Q_CLASSINFO("ControleerVAT", "{\"MBox\": false, \"LandCode\": \"\"}")
+    Q_CLASSINFO("ControleerNatNr", "{\"MBox\": true, \"LandCode\": \"\"}")
+    Q_CLASSINFO("ControleerIdentNr", "{\"MBox\": true}")
+    Q_CLASSINFO("ControleerOGM", "{\"MBox\": true}")
+    Q_INVOKABLE QString ControleerBankNr(QString &BankNr, bool MBox = true);
+    // LandCode is written back ("" becomes "BE"), so C++ gets its default
+    // through the overload below, which is not published.
+    Q_INVOKABLE QString ControleerVAT(QString &VATnr, bool MBox, QString &LandCode);
+    QString ControleerVAT(QString &VATnr, bool MBox = false);
+    Q_INVOKABLE QString ControleerNatNr(
+        QString &NatNr, bool MBox = true, const QString &LandCode = QString());
+    Q_INVOKABLE QString ControleerIdentNr(QString &IdentNr, bool MBox = true);
+    Q_INVOKABLE QString GetOGM(QString &ReferentieNummer);
+    // A first part beyond 32 bits raises RuntimeError 6 to the caller.
+    Q_INVOKABLE QString ControleerOGM(QString &OGM, bool MBox = true);
+    // End of identifier checks.
+
 private:
     // Methods that may show a catalogue text first hand over their language.
     void useMyLanguage() const;
