@@ -1,0 +1,55 @@
+#pragma once
+
+#include "host/hostobject.h"
+
+namespace qor {
+
+// A column of a host grid, with its heading style and its value translation list.
+class Column : public HostObject
+{
+    Q_OBJECT
+    Q_CLASSINFO("HostClass", "Column")
+    Q_PROPERTY(qint32 ColIndex MEMBER m_colIndex)
+    Q_PROPERTY(QString DataField MEMBER m_dataField)
+    Q_PROPERTY(QString Caption MEMBER m_caption)
+    Q_PROPERTY(qint32 Alignment MEMBER m_alignment)
+    Q_PROPERTY(float Width MEMBER m_width)
+    Q_PROPERTY(bool FetchStyle MEMBER m_fetchStyle)
+    Q_PROPERTY(bool Visible MEMBER m_visible)
+    Q_PROPERTY(bool Merge MEMBER m_merge)
+    Q_PROPERTY(bool AllowFocus MEMBER m_allowFocus)
+    Q_PROPERTY(bool AllowSizing MEMBER m_allowSizing)
+    Q_PROPERTY(QString NumberFormat MEMBER m_numberFormat)
+    Q_PROPERTY(qint32 DividerStyle MEMBER m_dividerStyle)
+    Q_PROPERTY(qint32 HeadAlignment MEMBER m_headAlignment)
+    Q_PROPERTY(QString Tag MEMBER m_tag)
+    Q_PROPERTY(QObject *HeadingStyle MEMBER m_headingStyle)
+    Q_PROPERTY(QVariantList ValueItems MEMBER m_valueItems)
+    Q_PROPERTY(bool Translate MEMBER m_translate)
+
+public:
+    explicit Column(QObject *parent = nullptr);
+
+    QString elementClass(const QString &property) const override;
+
+private:
+    qint32 m_colIndex = 0;
+    QString m_dataField;
+    QString m_caption;
+    qint32 m_alignment = 0;
+    float m_width = 0;
+    bool m_fetchStyle = false;
+    bool m_visible = true;
+    bool m_merge = false;
+    bool m_allowFocus = true;
+    bool m_allowSizing = true;
+    QString m_numberFormat;
+    qint32 m_dividerStyle = 0;
+    qint32 m_headAlignment = 0;
+    QString m_tag;
+    QObject *m_headingStyle = nullptr;
+    QVariantList m_valueItems;
+    bool m_translate = false;
+};
+
+} // namespace qor

@@ -1,0 +1,36 @@
+#pragma once
+
+#include "host/hostobject.h"
+
+namespace qor {
+
+// A placed control of a form (a shape, a label, a month view): position and
+// size in twips and the classic Move. Any other property it is given is kept.
+class Control : public HostObject
+{
+    Q_OBJECT
+    Q_CLASSINFO("HostClass", "Control")
+    Q_PROPERTY(float Left MEMBER m_left)
+    Q_PROPERTY(float Top MEMBER m_top)
+    Q_PROPERTY(float Width MEMBER m_width)
+    Q_PROPERTY(float Height MEMBER m_height)
+
+public:
+    explicit Control(QObject *parent = nullptr);
+
+    // Moves and sizes it at once; what is left out keeps its value.
+    Q_INVOKABLE void Move(const QVariant &left, const QVariant &top);
+    Q_INVOKABLE void Move(const QVariant &left, const QVariant &top, const QVariant &width);
+    Q_INVOKABLE void Move(
+        const QVariant &left, const QVariant &top, const QVariant &width, const QVariant &height);
+
+private:
+    void place(const QVariantList &values);
+
+    float m_left = 0;
+    float m_top = 0;
+    float m_width = 0;
+    float m_height = 0;
+};
+
+} // namespace qor

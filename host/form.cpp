@@ -1,0 +1,9 @@
+#include "host/form.h"
+
+namespace qor {
+
+Form::Form(QObject *parent)
+    : HostObject(parent)
+{ }
+
+} // namespace qor

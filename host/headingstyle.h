@@ -1,0 +1,27 @@
+#pragma once
+
+#include "host/hostobject.h"
+
+namespace qor {
+
+// The heading style of a grid column: ellipsis and the picture in the heading.
+class HeadingStyle : public HostObject
+{
+    Q_OBJECT
+    Q_CLASSINFO("HostClass", "HeadingStyle")
+    Q_PROPERTY(bool EllipsisText MEMBER m_ellipsisText)
+    Q_PROPERTY(QVariant ForegroundPicture MEMBER m_foregroundPicture)
+    Q_PROPERTY(qint32 ForegroundPicturePosition MEMBER m_foregroundPicturePosition)
+    Q_PROPERTY(bool TransparentForegroundPicture MEMBER m_transparentForegroundPicture)
+
+public:
+    explicit HeadingStyle(QObject *parent = nullptr);
+
+private:
+    bool m_ellipsisText = false;
+    QVariant m_foregroundPicture;
+    qint32 m_foregroundPicturePosition = 0;
+    bool m_transparentForegroundPicture = false;
+};
+
+} // namespace qor

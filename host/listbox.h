@@ -1,0 +1,17 @@
+#pragma once
+
+#include "host/listcontrol.h"
+
+namespace qor {
+
+// The host's list box.
+class ListBox : public ListControl
+{
+    Q_OBJECT
+    Q_CLASSINFO("HostClass", "ListBox")
+
+public:
+    explicit ListBox(QObject *parent = nullptr);
+};
+
+} // namespace qor

@@ -1,0 +1,131 @@
+#include "host/listcontrol.h"
+
+#include "platform/platform.h"
+#include "runtime/conversion.h"
+#include "runtime/runtimeerror.h"
+
+namespace qor {
+
+namespace {
+
+RuntimeError invalidPropertyValue()
+{
+    return RuntimeError(380, QStringLiteral("Invalid property value"));
+}
+
+QString entryText(const QVariant &item)
+{
+    return toText(item, platform().regionalSettings());
+}
+
+int indexArgument(const QVariant &index)
+{
+    return toInteger(index, platform().regionalSettings());
+}
+
+} // namespace
+
+ListControl::ListControl(QObject *parent)
+    : HostObject(parent)
+{ }
+
+QVariantList ListControl::list() const
+{
+    QVariantList entries;
+    entries.reserve(m_entries.size());
+    for (const QString &entry : m_entries)
+        entries.append(entry);
+    return entries;
+}
+
+void ListControl::setList(const QVariantList &entries)
+{
+    m_entries.clear();
+    for (const QVariant &entry : entries)
+        m_entries.append(entryText(entry));
+    alignNumbers();
+    if (m_listIndex >= listCount())
+        m_listIndex = -1;
+}
+
+QVariantList ListControl::itemData() const
+{
+    QVariantList numbers;
+    numbers.reserve(m_numbers.size());
+    for (qint32 number : m_numbers)
+        numbers.append(number);
+    return numbers;
+}
+
+void ListControl::setItemData(const QVariantList &numbers)
+{
+    m_numbers.clear();
+    for (const QVariant &number : numbers)
+        m_numbers.append(toLong(number, platform().regionalSettings()));
+    alignNumbers();
+}
+
+void ListControl::setListIndex(qint32 index)
+{
+    if (index < -1 || index >= listCount())
+        throw invalidPropertyValue();
+    m_listIndex = index;
+    selectionChanged();
+}
+
+void ListControl::Clear()
+{
+    recordCall(QStringLiteral("Clear"));
+    m_entries.clear();
+    m_numbers.clear();
+    m_listIndex = -1;
+    m_newIndex = -1;
+    selectionChanged();
+}
+
+void ListControl::AddItem(const QVariant &item)
+{
+    recordCall(QStringLiteral("AddItem"), { item });
+    insertEntry(entryText(item), listCount());
+}
+
+void ListControl::AddItem(const QVariant &item, const QVariant &index)
+{
+    recordCall(QStringLiteral("AddItem"), { item, index });
+    const int at = indexArgument(index);
+    if (at < 0 || at > listCount())
+        throw RuntimeError::invalidProcedureCall();
+    insertEntry(entryText(item), at);
+}
+
+void ListControl::RemoveItem(const QVariant &index)
+{
+    recordCall(QStringLiteral("RemoveItem"), { index });
+    const int at = indexArgument(index);
+    if (at < 0 || at >= listCount())
+        throw RuntimeError::invalidProcedureCall();
+    m_entries.removeAt(at);
+    m_numbers.removeAt(at);
+    if (m_listIndex == at)
+        m_listIndex = -1;
+    else if (m_listIndex > at)
+        --m_listIndex;
+    m_newIndex = -1;
+    selectionChanged();
+}
+
+void ListControl::insertEntry(const QString &entry, int index)
+{
+    m_entries.insert(index, entry);
+    m_numbers.insert(index, 0);
+    if (m_listIndex >= index)
+        ++m_listIndex;
+    m_newIndex = index;
+}
+
+void ListControl::alignNumbers()
+{
+    m_numbers.resize(m_entries.size());
+}
+
+} // namespace qor

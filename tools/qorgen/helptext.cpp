@@ -1,0 +1,51 @@
+#include "tools/qorgen/helptext.h"
+
+namespace qor {
+
+QString helpText()
+{
+    return QStringLiteral(R"(qorgen - call the qorGenLib library object by name
+
+Usage:
+  qorgen call [OPTIONS] METHOD [ARG ...]
+      Calls one method or property and prints its result. Each ARG is a JSON
+      value; an ARG that is not valid JSON is taken as a plain string.
+      What the call showed (message boxes, sounds, ...) goes to standard error.
+      Options:
+        --set NAME=JSON     assign a property first (repeatable)
+        --locale NAME       regional settings, e.g. nl_BE, fr_BE, en_US
+        --now ISO-DATETIME  the clock, e.g. 2004-05-20T08:30:00
+        --answer JSON       the next dialog's answer, e.g. 6, "Escape" (repeatable)
+        --json              print the whole response object instead
+      Exit status: 0 the call ran, 1 it raised a run-time error,
+                   2 the request could not be read.
+      Examples:
+        qorgen call ControleerBankNr 000-0000000-97
+        qorgen call --locale nl_BE --json CGetal '"12,5"'
+        qorgen call --set Offset=10000 LLGenLib 1031
+
+  qorgen batch
+      JSON Lines: one request object per line on standard input, one response
+      object per line on standard output, in order. One library object (and one
+      set of module-wide state) serves the whole batch.
+      Request fields: call, args, set, env, answers, new.
+      Example:
+        printf '%s\n' '{"call": "FilterNumeric", "args": ["BE 12-34"]}' | qorgen batch
+
+  qorgen methods
+      The type information as JSON: every method with its parameters, every
+      property with its type, every enumeration with its members in order.
+      Example:
+        qorgen methods
+
+  qorgen --help       this text
+  qorgen --version    the version
+
+Values in JSON: strings, true/false, numbers, null (Null), {"$empty": true}
+(Empty), {"$date": "2004-05-20T08:30:00"}, arrays, {"$missing": true} for an
+optional argument left out, and {"$object": "TextBox", "Text": "..."} for the
+model host controls.
+)");
+}
+
+} // namespace qor

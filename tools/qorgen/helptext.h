@@ -1,0 +1,10 @@
+#pragma once
+
+#include <QString>
+
+namespace qor {
+
+// What `qorgen --help` prints.
+QString helpText();
+
+} // namespace qor

@@ -1,0 +1,30 @@
+#pragma once
+
+#include "tools/qorgen/environment.h"
+#include "tools/qorgen/jsonvalue.h"
+
+#include <QByteArrayView>
+#include <QVariantList>
+
+namespace qor {
+
+// One request as read from its JSON object: what to call with which
+// arguments, the properties to set first, the platform, the dialog answers,
+// and whether to start afresh. Values stay JSON until the session makes them
+// library values. A request that is not shaped so raises RequestError.
+struct Request
+{
+    QString call; // empty: nothing to call
+    JsonValue::Array args;
+    JsonValue::Object set;
+    Environment env;
+    QVariantList answers;
+    bool fresh = false;
+
+    static Request fromJson(const JsonValue &json);
+    static Request fromLine(QByteArrayView utf8);
+    // A dialog answer as the recording platform takes it.
+    static QVariant answer(const JsonValue &json, int index);
+};
+
+} // namespace qor

@@ -1,0 +1,75 @@
+#pragma once
+
+#include "tools/qorgen/jsonvalue.h"
+#include "tools/qorgen/request.h"
+
+#include <QObject>
+
+#include <functional>
+#include <memory>
+
+class clsqorGenLib;
+
+namespace qor {
+
+class Platform;
+class RequestError;
+class RecordingPlatform;
+struct MethodInfo;
+struct PropertyInfo;
+
+// One library object with its module-wide state and a recording platform,
+// living across the requests of a batch. Each request gets its arguments made
+// into library values, the platform and dialog answers it asks for, the call,
+// and a response with the result, the arguments after the call, the object's
+// properties, what the user saw or heard, and the error the call raised.
+class Session
+{
+public:
+    enum class Outcome { Ran, RuntimeError, Unreadable };
+    struct Reply
+    {
+        JsonValue response;
+        Outcome outcome = Outcome::Ran;
+    };
+
+    // Installs the session's recording platform for the calling thread.
+    Session();
+    ~Session();
+    Session(const Session &) = delete;
+    Session &operator=(const Session &) = delete;
+
+    Reply handleLine(QByteArrayView utf8);
+    Reply handleJson(const JsonValue &request);
+    Reply handle(const Request &request);
+    // The response to a request that could not be read: the error alone.
+    static Reply unreadable(const RequestError &error);
+
+    // Where sounds go when a request asks for them ("sound": true); by default nowhere.
+    void setSoundOutput(
+        std::function<void(const QString &, bool)> play, std::function<void()> stop);
+
+    RecordingPlatform &platform() { return *m_platform; }
+    clsqorGenLib &library() { return *m_library; }
+
+private:
+    struct Call;
+
+    Call prepare(const Request &request, QObject *owner) const;
+    void prepareArguments(Call &call, const Request &request, QObject *owner) const;
+    void applyPlatform(const Request &request);
+    void startFresh();
+    JsonValue run(Call &call, Outcome &outcome);
+    JsonValue properties() const;
+    JsonValue shown() const;
+    void keepHeldObjects(QObject *owner);
+
+    std::shared_ptr<RecordingPlatform> m_platform;
+    std::shared_ptr<Platform> m_previous;
+    std::unique_ptr<clsqorGenLib> m_library;
+    std::unique_ptr<QObject> m_keeper; // host objects the library holds between requests
+    std::function<void(const QString &, bool)> m_play;
+    std::function<void()> m_stop;
+};
+
+} // namespace qor

@@ -1,0 +1,356 @@
+#include "tools/qorgen/valuecodec.h"
+
+#include "host/hostfactory.h"
+#include "host/hostobject.h"
+#include "runtime/dates.h"
+#include "runtime/runtimeerror.h"
+#include "runtime/variant.h"
+#include "tools/qorgen/requesterror.h"
+
+#include <QMetaProperty>
+#include <QRegularExpression>
+
+#include <limits>
+
+namespace qor {
+
+namespace {
+
+QString markerOf(const JsonValue &json)
+{
+    for (const JsonValue::Member &member : json.toObject()) {
+        if (member.first.startsWith(QLatin1Char('$')))
+            return member.first;
+    }
+    return QString();
+}
+
+QVariant numberValue(const JsonValue &json)
+{
+    if (json.kind() != JsonValue::Kind::Integer)
+        return json.toDouble();
+    const qint64 number = json.toInteger();
+    if (number >= std::numeric_limits<qint16>::min()
+        && number <= std::numeric_limits<qint16>::max())
+        return integerVariant(qint16(number));
+    if (number >= std::numeric_limits<qint32>::min()
+        && number <= std::numeric_limits<qint32>::max())
+        return longVariant(qint32(number));
+    return double(number);
+}
+
+// Decoding with the context a nested value needs: who owns the objects made,
+// and which class a plain JSON object stands for at this place.
+class Decoder
+{
+public:
+    explicit Decoder(QObject *owner)
+        : m_owner(owner)
+    { }
+
+    QVariant value(const JsonValue &json, const QString &where, const QString &elementClass,
+        int depth, bool allowMissing = false);
+    void populate(HostObject *object, const JsonValue &members, const QString &where, int depth);
+
+private:
+    QVariant marked(const JsonValue &json, const QString &marker, const QString &where, int depth,
+        bool allowMissing);
+    QVariant array(
+        const JsonValue &json, const QString &where, const QString &elementClass, int depth);
+    QVariant hostObject(
+        const QString &className, const JsonValue &json, const QString &where, int depth);
+    void property(HostObject *object, const QString &name, const JsonValue &json,
+        const QString &where, int depth);
+
+    QObject *m_owner;
+};
+
+QVariant Decoder::value(const JsonValue &json, const QString &where, const QString &elementClass,
+    int depth, bool allowMissing)
+{
+    if (depth > ValueCodec::maxDepth)
+        throw RequestError::wrongShape(QStringLiteral("%1: nested deeper than %2 levels")
+                                           .arg(where)
+                                           .arg(ValueCodec::maxDepth));
+    switch (json.kind()) {
+    case JsonValue::Kind::Null: return nullVariant();
+    case JsonValue::Kind::Boolean: return json.toBool();
+    case JsonValue::Kind::Integer:
+    case JsonValue::Kind::Single:
+    case JsonValue::Kind::Double: return numberValue(json);
+    case JsonValue::Kind::String: return json.toString();
+    case JsonValue::Kind::Array: return array(json, where, elementClass, depth);
+    case JsonValue::Kind::Object: break;
+    }
+    const QString marker = markerOf(json);
+    if (!marker.isEmpty())
+        return marked(json, marker, where, depth, allowMissing);
+    if (!elementClass.isEmpty())
+        return hostObject(elementClass, json, where, depth);
+    throw RequestError::wrongShape(
+        QStringLiteral("%1: an object is no value here; use {\"$object\": CLASS, ...}, "
+                       "{\"$date\": ...} or {\"$empty\": true}")
+            .arg(where));
+}
+
+QVariant Decoder::marked(const JsonValue &json, const QString &marker, const QString &where,
+    int depth, bool allowMissing)
+{
+    if (const JsonValue *cls = json.member(u"$object")) {
+        if (!cls->isString())
+            throw RequestError::wrongShape(
+                QStringLiteral("%1: \"$object\" must name a class").arg(where));
+        return hostObject(cls->toString(), json, where, depth);
+    }
+    if (json.size() != 1)
+        throw RequestError::wrongShape(
+            QStringLiteral("%1: \"%2\" stands alone in its object").arg(where, marker));
+    const JsonValue &content = json.toObject().front().second;
+    if (marker == QLatin1String("$empty") && content == JsonValue(true))
+        return emptyVariant();
+    if (marker == QLatin1String("$missing") && content == JsonValue(true)) {
+        if (!allowMissing)
+            throw RequestError::wrongShape(
+                QStringLiteral("%1: only an argument can be left out").arg(where));
+        return missingVariant();
+    }
+    if (marker == QLatin1String("$date")) {
+        if (const auto date = ValueCodec::readDate(content.toString()))
+            return *date;
+        throw RequestError::wrongShape(
+            QStringLiteral("%1: \"$date\" wants \"yyyy-mm-dd\" or \"yyyy-mm-ddThh:mm:ss\"")
+                .arg(where));
+    }
+    if (marker == QLatin1String("$empty") || marker == QLatin1String("$missing"))
+        throw RequestError::wrongShape(
+            QStringLiteral("%1: \"%2\" takes the value true").arg(where, marker));
+    throw RequestError::wrongShape(QStringLiteral("%1: unknown marker \"%2\"").arg(where, marker));
+}
+
+QVariant Decoder::array(
+    const JsonValue &json, const QString &where, const QString &elementClass, int depth)
+{
+    QVariantList list;
+    list.reserve(json.size());
+    int index = 0;
+    for (const JsonValue &element : json.toArray())
+        list.append(value(
+            element, QStringLiteral("%1[%2]").arg(where).arg(index++), elementClass, depth + 1));
+    return list;
+}
+
+QVariant Decoder::hostObject(
+    const QString &className, const JsonValue &json, const QString &where, int depth)
+{
+    HostObject *object = HostFactory::create(className, m_owner);
+    if (!object) {
+        throw RequestError::wrongShape(
+            QStringLiteral("%1: unknown host class \"%2\" (known: %3)")
+                .arg(where, className, HostFactory::classNames().join(QLatin1String(", "))));
+    }
+    QObject *outer = m_owner;
+    m_owner = object; // what it holds lives and dies with it
+    populate(object, json, where, depth);
+    m_owner = outer;
+    return QVariant::fromValue<QObject *>(object);
+}
+
+void Decoder::populate(
+    HostObject *object, const JsonValue &members, const QString &where, int depth)
+{
+    QList<const JsonValue::Member *> rest;
+    for (const JsonValue::Member &member : members.toObject()) {
+        if (member.first == QLatin1String("$object") || member.first == QLatin1String("$calls"))
+            continue;
+        if (member.first.startsWith(QLatin1Char('$')))
+            throw RequestError::wrongShape(
+                QStringLiteral("%1: unknown marker \"%2\"").arg(where, member.first));
+        rest.append(&member);
+    }
+    // Declared properties in their own order: a selection after its text, an index after its list.
+    for (const QString &name : object->propertyNames()) {
+        for (qsizetype i = 0; i < rest.size(); ++i) {
+            if (rest[i]->first.compare(name, Qt::CaseInsensitive) != 0)
+                continue;
+            property(object, name, rest[i]->second, where, depth);
+            rest.removeAt(i);
+            break;
+        }
+    }
+    for (const JsonValue::Member *member : rest)
+        property(object, member->first, member->second, where, depth);
+}
+
+void Decoder::property(
+    HostObject *object, const QString &name, const JsonValue &json, const QString &where, int depth)
+{
+    const QString place = QStringLiteral("%1.%2").arg(where, name);
+    // Values a response lists but nobody sets (a list's count) are left to the object.
+    if (!object->isWritable(name))
+        return;
+    // A plain object for a property that already holds one fills in that one.
+    const QVariant current = object->value(name);
+    if (json.isObject() && markerOf(json).isEmpty() && isObject(current)) {
+        if (auto *child = qobject_cast<HostObject *>(current.value<QObject *>())) {
+            populate(child, json, place, depth + 1);
+            return;
+        }
+    }
+    QObject *outer = m_owner;
+    m_owner = object;
+    const QVariant decoded = value(json, place, object->elementClass(name), depth + 1);
+    m_owner = outer;
+    try {
+        object->assign(name, decoded);
+    } catch (const RuntimeError &error) {
+        throw RequestError::wrongShape(QStringLiteral("%1: %2").arg(place, error.description()));
+    }
+}
+
+// Encoding, with the objects on the way down so that a cycle ends.
+class Encoder
+{
+public:
+    JsonValue value(const QVariant &v, int depth);
+
+private:
+    JsonValue object(QObject *object, int depth);
+    JsonValue calls(const HostObject *object, int depth);
+
+    QList<const QObject *> m_path;
+};
+
+JsonValue Encoder::value(const QVariant &v, int depth)
+{
+    if (isMissing(v))
+        return JsonValue::object().insert(QStringLiteral("$missing"), true);
+    switch (varType(v)) {
+    case VarType::Empty: return JsonValue::object().insert(QStringLiteral("$empty"), true);
+    case VarType::Null: return nullptr;
+    case VarType::Integer:
+    case VarType::Long:
+    case VarType::Currency:
+    case VarType::Byte: return v.toLongLong();
+    case VarType::Single: return JsonValue::single(v.toFloat());
+    case VarType::Double: return v.toDouble();
+    case VarType::Boolean: return v.toBool();
+    case VarType::String: return v.toString();
+    case VarType::Date:
+        return JsonValue::object().insert(QStringLiteral("$date"), ValueCodec::dateText(v));
+    case VarType::Array: break;
+    case VarType::Object: return object(v.value<QObject *>(), depth);
+    }
+    JsonValue array = JsonValue::array();
+    if (depth >= ValueCodec::maxDepth)
+        return array;
+    for (const QVariant &element : v.toList())
+        array.append(value(element, depth + 1));
+    return array;
+}
+
+JsonValue Encoder::object(QObject *object, int depth)
+{
+    if (!object)
+        return nullptr; // Nothing
+    auto *host = qobject_cast<HostObject *>(object);
+    QString className
+        = host ? host->className() : QString::fromLatin1(object->metaObject()->className());
+    className = className.mid(className.lastIndexOf(QLatin1Char(':')) + 1);
+    JsonValue json = JsonValue::object().insert(QStringLiteral("$object"), className);
+    if (!host || m_path.contains(object) || depth >= ValueCodec::maxDepth)
+        return json;
+    m_path.append(object);
+    for (const QString &name : host->propertyNames())
+        json.insert(name, value(host->value(name), depth + 1));
+    json.insert(QStringLiteral("$calls"), calls(host, depth));
+    m_path.removeLast();
+    return json;
+}
+
+JsonValue Encoder::calls(const HostObject *object, int depth)
+{
+    JsonValue list = JsonValue::array();
+    for (const QVariant &call : object->calls()) {
+        const QVariantMap map = call.toMap();
+        JsonValue args = JsonValue::array();
+        for (const QVariant &arg : map.value(QStringLiteral("args")).toList())
+            args.append(value(arg, depth + 2));
+        list.append(
+            JsonValue::object()
+                .insert(QStringLiteral("name"), map.value(QStringLiteral("name")).toString())
+                .insert(QStringLiteral("args"), std::move(args)));
+    }
+    return list;
+}
+
+} // namespace
+
+QVariant ValueCodec::decode(const JsonValue &json, QObject *owner, const QString &where)
+{
+    return Decoder(owner).value(json, where, QString(), 0);
+}
+
+QVariant ValueCodec::decodeArgument(const JsonValue &json, QObject *owner, const QString &where)
+{
+    return Decoder(owner).value(json, where, QString(), 0, true);
+}
+
+void ValueCodec::populate(HostObject *object, const JsonValue &members, const QString &where)
+{
+    Decoder(object).populate(object, members, where, 0);
+}
+
+JsonValue ValueCodec::encode(const QVariant &value)
+{
+    return Encoder().value(value, 0);
+}
+
+JsonValue ValueCodec::typeOf(const QVariant &value)
+{
+    if (isMissing(value))
+        return nullptr;
+    return varTypeName(value);
+}
+
+std::optional<QDateTime> ValueCodec::readDate(const QString &text)
+{
+    static const QRegularExpression dateTime(
+        QStringLiteral("^(\\d{4})-(\\d{2})-(\\d{2})(?:T(\\d{2}):(\\d{2})(?::(\\d{2}))?)?$"));
+    static const QRegularExpression timeOnly(QStringLiteral("^(\\d{2}):(\\d{2})(?::(\\d{2}))?$"));
+    QDate date = zeroDate();
+    QTime time(0, 0);
+    if (const auto m = dateTime.match(text); m.hasMatch()) {
+        date = QDate(m.captured(1).toInt(), m.captured(2).toInt(), m.captured(3).toInt());
+        if (m.hasCaptured(4))
+            time = QTime(m.captured(4).toInt(), m.captured(5).toInt(), m.captured(6).toInt());
+    } else if (const auto t = timeOnly.match(text); t.hasMatch()) {
+        time = QTime(t.captured(1).toInt(), t.captured(2).toInt(), t.captured(3).toInt());
+    } else {
+        return std::nullopt;
+    }
+    // Dates run from the year 100 to 9999.
+    if (!date.isValid() || !time.isValid() || date.year() < 100)
+        return std::nullopt;
+    return QDateTime(date, time, Qt::UTC);
+}
+
+QString ValueCodec::dateText(const QVariant &value)
+{
+    QDate date = zeroDate();
+    QTime time(0, 0);
+    if (value.typeId() == QMetaType::QDate) {
+        date = value.toDate();
+    } else if (value.typeId() == QMetaType::QTime) {
+        time = value.toTime();
+    } else {
+        const QDateTime dt = value.toDateTime();
+        date = dt.date();
+        time = dt.time();
+    }
+    const QString day = date.toString(QStringLiteral("yyyy-MM-dd"));
+    if (time == QTime(0, 0))
+        return day;
+    return day + time.toString(QStringLiteral("'T'HH:mm:ss"));
+}
+
+} // namespace qor
