@@ -1,0 +1,424 @@
+#include "host/hostfactory.h"
+#include "host/hostobject.h"
+#include "host/textbox.h"
+#include "platform/recordingplatform.h"
+#include "runtime/variant.h"
+#include "tools/qorgen/jsonreader.h"
+#include "tools/qorgen/jsonwriter.h"
+#include "tools/qorgen/requesterror.h"
+#include "tools/qorgen/valuecodec.h"
+
+#include <QTest>
+
+#include <cmath>
+#include <limits>
+
+using namespace qor;
+
+Q_DECLARE_METATYPE(qor::JsonValue)
+
+namespace {
+
+JsonValue read(const QByteArray &text)
+{
+    return JsonReader::parse(text);
+}
+QByteArray write(const JsonValue &value)
+{
+    return JsonWriter::compact(value);
+}
+
+QVariant decode(const QByteArray &text, QObject *owner = nullptr)
+{
+    return ValueCodec::decode(read(text), owner, QStringLiteral("value"));
+}
+
+QByteArray encoded(const QVariant &value)
+{
+    return write(ValueCodec::encode(value));
+}
+
+int requestErrorOf(const std::function<void()> &action)
+{
+    try {
+        action();
+    } catch (const RequestError &error) {
+        return error.number();
+    }
+    return 0;
+}
+
+QByteArray nested(int depth)
+{
+    return QByteArray(depth, '[') + QByteArray(depth, ']');
+}
+
+} // namespace
+
+class TestJsonCodec : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase() { Platform::install(std::make_shared<RecordingPlatform>()); }
+
+    // Reading JSON text.
+    void readerKeepsNumberKinds_data()
+    {
+        QTest::addColumn<QByteArray>("text");
+        QTest::addColumn<int>("kind");
+        QTest::addColumn<double>("number");
+        QTest::newRow("whole") << QByteArray("12") << int(JsonValue::Kind::Integer) << 12.0;
+        QTest::newRow("negative whole")
+            << QByteArray("-40000") << int(JsonValue::Kind::Integer) << -40000.0;
+        QTest::newRow("fraction written as zero")
+            << QByteArray("12.0") << int(JsonValue::Kind::Double) << 12.0;
+        QTest::newRow("exponent") << QByteArray("-0.5e2") << int(JsonValue::Kind::Double) << -50.0;
+        QTest::newRow("beyond 64 bits")
+            << QByteArray("100000000000000000000") << int(JsonValue::Kind::Double) << 1e20;
+    }
+    void readerKeepsNumberKinds()
+    {
+        QFETCH(QByteArray, text);
+        const JsonValue value = read(text);
+        QTEST(int(value.kind()), "kind");
+        QTEST(value.toDouble(), "number");
+    }
+
+    void readerReadsStringsAndOrder()
+    {
+        const JsonValue value
+            = read(R"({"z": "a\u00e9\ud83d\ude00\r\n", "a": [true, null], "m": {}})");
+        QCOMPARE(value.toObject().at(0).first, QStringLiteral("z"));
+        QCOMPARE(value.toObject().at(1).first, QStringLiteral("a"));
+        QCOMPARE(value.member(u"z")->toString(),
+            QStringLiteral("a\u00e9") + QString::fromUcs4(U"\U0001F600") + "\r\n");
+        QCOMPARE(value.member(u"a")->size(), 2);
+        QVERIFY(value.member(u"m")->isObject());
+        QCOMPARE(read("\"caf\xc3\xa9\"").toString(), QStringLiteral("caf\u00e9"));
+    }
+
+    void readerRejects_data()
+    {
+        QTest::addColumn<QByteArray>("text");
+        QTest::newRow("nothing") << QByteArray("   ");
+        QTest::newRow("misspelt word") << QByteArray("nul");
+        QTest::newRow("trailing comma") << QByteArray("[1,]");
+        QTest::newRow("text after value") << QByteArray("[1] x");
+        QTest::newRow("leading zero") << QByteArray("01");
+        QTest::newRow("bare fraction") << QByteArray("1.");
+        QTest::newRow("number too big") << QByteArray("1e400");
+        QTest::newRow("key twice") << QByteArray(R"({"a": 1, "a": 2})");
+        QTest::newRow("unquoted key") << QByteArray("{a: 1}");
+        QTest::newRow("unknown escape") << QByteArray(R"("\x")");
+        QTest::newRow("raw control character") << QByteArray("\"a\tb\"");
+        QTest::newRow("half a surrogate pair") << QByteArray(R"("\ud800")");
+        QTest::newRow("lone low surrogate") << QByteArray(R"("\udc00")");
+        QTest::newRow("unclosed string") << QByteArray("\"abc");
+        QTest::newRow("unclosed object") << QByteArray(R"({"a": 1)");
+        QTest::newRow("bad UTF-8") << QByteArray("\"\xff\xfe\"");
+        QTest::newRow("nested 65 deep") << nested(65);
+    }
+    void readerRejects()
+    {
+        QFETCH(QByteArray, text);
+        QCOMPARE(requestErrorOf([&] { read(text); }), 5);
+        QVERIFY(!JsonReader::tryParse(text));
+    }
+
+    void readerLimits()
+    {
+        QVERIFY(JsonReader::tryParse(nested(64)));
+        // The array and its eleven elements are twelve values.
+        const QByteArray many = "[" + QByteArray("0,").repeated(10) + "0]";
+        QVERIFY(JsonReader::tryParse(many, { 64, 12 }));
+        QVERIFY(!JsonReader::tryParse(many, { 64, 11 }));
+        try {
+            read(nested(5000));
+            QFAIL("deep nesting was read");
+        } catch (const RequestError &error) {
+            QVERIFY(error.description().contains(QLatin1String("64 levels")));
+        }
+    }
+
+    // Writing JSON text.
+    void writer_data()
+    {
+        QTest::addColumn<JsonValue>("value");
+        QTest::addColumn<QByteArray>("text");
+        QTest::newRow("integer") << JsonValue(12) << QByteArray("12");
+        QTest::newRow("whole double keeps its fraction") << JsonValue(12.0) << QByteArray("12.0");
+        QTest::newRow("shortest double") << JsonValue(0.1) << QByteArray("0.1");
+        QTest::newRow("large double") << JsonValue(1e20) << QByteArray("1e+20");
+        QTest::newRow("shortest single") << JsonValue::single(0.1f) << QByteArray("0.1");
+        QTest::newRow("whole single") << JsonValue::single(3.0f) << QByteArray("3.0");
+        QTest::newRow("not a number") << JsonValue(std::nan("")) << QByteArray("null");
+        QTest::newRow("infinite") << JsonValue(std::numeric_limits<double>::infinity())
+                                  << QByteArray("null");
+        QTest::newRow("escapes") << JsonValue(QStringLiteral("a\"b\\c\r\n\t\x01\u00e9\u00ad"))
+                                 << QByteArray("\"a\\\"b\\\\c\\r\\n\\t\\u0001\xc3\xa9\xc2\xad\"");
+        QTest::newRow("members in order") << JsonValue::object().insert("z", 1).insert(
+            "a", JsonValue::array().append(true).append(nullptr))
+                                          << QByteArray(R"({"z":1,"a":[true,null]})");
+        QTest::newRow("empty containers")
+            << JsonValue::array().append(JsonValue::object()).append(JsonValue::array())
+            << QByteArray("[{},[]]");
+    }
+    void writer()
+    {
+        QFETCH(JsonValue, value);
+        QTEST(write(value), "text");
+    }
+
+    void writerOutputReadsBack()
+    {
+        const JsonValue value
+            = JsonValue::object()
+                  .insert("text", QStringLiteral("\u20ac \"quoted\"\r\r"))
+                  .insert("numbers", JsonValue::array().append(-3).append(2.5).append(7.0))
+                  .insert("nested", JsonValue::object().insert("flag", false));
+        QCOMPARE(read(write(value)), value);
+        QCOMPARE(read(JsonWriter::indented(value)), value);
+        QVERIFY(JsonWriter::indented(value).contains("\n  \"text\": "));
+    }
+
+    // Library values from JSON.
+    void decodeSubtypes_data()
+    {
+        QTest::addColumn<QByteArray>("text");
+        QTest::addColumn<QString>("subtype");
+        QTest::newRow("16-bit whole number") << QByteArray("-32768") << "Integer";
+        QTest::newRow("32-bit whole number") << QByteArray("40000") << "Long";
+        QTest::newRow("whole number beyond 32 bits") << QByteArray("3000000000") << "Double";
+        QTest::newRow("number with fraction") << QByteArray("12.0") << "Double";
+        QTest::newRow("string") << QByteArray("\"12\"") << "String";
+        QTest::newRow("Boolean") << QByteArray("false") << "Boolean";
+        QTest::newRow("null") << QByteArray("null") << "Null";
+        QTest::newRow("empty") << QByteArray(R"({"$empty": true})") << "Empty";
+        QTest::newRow("date") << QByteArray(R"({"$date": "2004-05-20"})") << "Date";
+        QTest::newRow("array") << QByteArray(R"([1, "a", null])") << "Array";
+        QTest::newRow("host object") << QByteArray(R"({"$object": "TextBox"})") << "Object";
+    }
+    void decodeSubtypes()
+    {
+        QObject owner;
+        QFETCH(QByteArray, text);
+        QTEST(varTypeName(decode(text, &owner)), "subtype");
+    }
+
+    void decodeValues()
+    {
+        QCOMPARE(decode("40000").toInt(), 40000);
+        QCOMPARE(decode("\"x\"").toString(), QStringLiteral("x"));
+        const QDateTime date = decode(R"({"$date": "2004-05-20T08:30:15"})").toDateTime();
+        QCOMPARE(date.date(), QDate(2004, 5, 20));
+        QCOMPARE(date.time(), QTime(8, 30, 15));
+        const QVariantList list = decode(R"([7, [true]])").toList();
+        QCOMPARE(varTypeName(list.at(0)), QStringLiteral("Integer"));
+        QCOMPARE(list.at(1).toList().at(0).toBool(), true);
+    }
+
+    void decodeRejects_data()
+    {
+        QTest::addColumn<QByteArray>("text");
+        QTest::newRow("plain object") << QByteArray(R"({"a": 1})");
+        QTest::newRow("empty object") << QByteArray("{}");
+        QTest::newRow("unknown marker") << QByteArray(R"({"$foo": 1})");
+        QTest::newRow("empty that is false") << QByteArray(R"({"$empty": false})");
+        QTest::newRow("date in the wrong order") << QByteArray(R"({"$date": "20-05-2004"})");
+        QTest::newRow("date that does not exist") << QByteArray(R"({"$date": "2004-02-30"})");
+        QTest::newRow("date before the year 100") << QByteArray(R"({"$date": "0099-01-01"})");
+        QTest::newRow("date with company") << QByteArray(R"({"$date": "2004-05-20", "x": 1})");
+        QTest::newRow("missing outside an argument") << QByteArray(R"({"$missing": true})");
+        QTest::newRow("missing inside an array") << QByteArray(R"([{"$missing": true}])");
+        QTest::newRow("class that is no string") << QByteArray(R"({"$object": 5})");
+        QTest::newRow("unknown class") << QByteArray(R"({"$object": "Nope"})");
+        QTest::newRow("property that does not convert")
+            << QByteArray(R"({"$object": "TextBox", "SelStart": "x"})");
+        QTest::newRow("plain object in a property")
+            << QByteArray(R"({"$object": "TextBox", "Tag": {"a": 1}})");
+    }
+    void decodeRejects()
+    {
+        QObject owner;
+        QFETCH(QByteArray, text);
+        QCOMPARE(requestErrorOf([&] { decode(text, &owner); }), 13);
+    }
+
+    void decodeArgumentMayBeMissing()
+    {
+        const QVariant missing
+            = ValueCodec::decodeArgument(read(R"({"$missing": true})"), nullptr, "args[1]");
+        QVERIFY(isMissing(missing));
+        QCOMPARE(encoded(missing), QByteArray(R"({"$missing":true})"));
+        QVERIFY(ValueCodec::typeOf(missing).isNull());
+    }
+
+    void errorsNameTheirPlace()
+    {
+        QObject owner;
+        try {
+            ValueCodec::decode(
+                read(R"([1, {"$object": "TextBox", "SelStart": "x"}])"), &owner, "args[0]");
+            QFAIL("no error");
+        } catch (const RequestError &error) {
+            QVERIFY2(error.description().startsWith(QLatin1String("args[0][1].SelStart")),
+                qPrintable(error.description()));
+        }
+    }
+
+    // Library values as JSON.
+    void encodeValues_data()
+    {
+        QTest::addColumn<QVariant>("value");
+        QTest::addColumn<QByteArray>("text");
+        QTest::addColumn<QString>("subtype");
+        QTest::newRow("empty") << emptyVariant() << QByteArray(R"({"$empty":true})") << "Empty";
+        QTest::newRow("null") << nullVariant() << QByteArray("null") << "Null";
+        QTest::newRow("integer") << integerVariant(-5) << QByteArray("-5") << "Integer";
+        QTest::newRow("long") << longVariant(40000) << QByteArray("40000") << "Long";
+        QTest::newRow("single") << QVariant::fromValue(0.1f) << QByteArray("0.1") << "Single";
+        QTest::newRow("whole double") << doubleVariant(2) << QByteArray("2.0") << "Double";
+        QTest::newRow("Boolean") << QVariant(true) << QByteArray("true") << "Boolean";
+        QTest::newRow("string") << QVariant(QStringLiteral("x")) << QByteArray("\"x\"") << "String";
+        QTest::newRow("midnight date")
+            << QVariant(QDateTime(QDate(2004, 5, 20), QTime(0, 0), Qt::UTC))
+            << QByteArray(R"({"$date":"2004-05-20"})") << "Date";
+        QTest::newRow("date and time")
+            << QVariant(QDateTime(QDate(2004, 5, 20), QTime(8, 30), Qt::UTC))
+            << QByteArray(R"({"$date":"2004-05-20T08:30:00"})") << "Date";
+        QTest::newRow("array") << QVariant(QVariantList { integerVariant(1), emptyVariant() })
+                               << QByteArray(R"([1,{"$empty":true}])") << "Array";
+        QTest::newRow("nothing") << QVariant::fromValue<QObject *>(nullptr) << QByteArray("null")
+                                 << "Object";
+    }
+    void encodeValues()
+    {
+        QFETCH(QVariant, value);
+        QTEST(encoded(value), "text");
+        QTEST(ValueCodec::typeOf(value).toString(), "subtype");
+    }
+
+    void valuesSurviveTheRoundTrip_data()
+    {
+        QTest::addColumn<QByteArray>("text");
+        QTest::newRow("integer") << QByteArray("7");
+        QTest::newRow("long") << QByteArray("-70000");
+        QTest::newRow("double") << QByteArray("7.0");
+        QTest::newRow("date") << QByteArray(R"({"$date":"1999-12-31T23:59:59"})");
+        QTest::newRow("empty") << QByteArray(R"({"$empty":true})");
+        QTest::newRow("nested array") << QByteArray(R"([[1,2.5],"x",null,false])");
+    }
+    void valuesSurviveTheRoundTrip()
+    {
+        QFETCH(QByteArray, text);
+        QCOMPARE(encoded(decode(text)), text);
+    }
+
+    void readDate_data()
+    {
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<QDateTime>("expected");
+        QTest::newRow("date") << "2004-05-20"
+                              << QDateTime(QDate(2004, 5, 20), QTime(0, 0), Qt::UTC);
+        QTest::newRow("minutes") << "2004-05-20T08:30"
+                                 << QDateTime(QDate(2004, 5, 20), QTime(8, 30), Qt::UTC);
+        QTest::newRow("seconds") << "2004-05-20T08:30:05"
+                                 << QDateTime(QDate(2004, 5, 20), QTime(8, 30, 5), Qt::UTC);
+        QTest::newRow("time alone")
+            << "08:30" << QDateTime(QDate(1899, 12, 30), QTime(8, 30), Qt::UTC);
+        QTest::newRow("hour 24") << "2004-05-20T24:00" << QDateTime();
+        QTest::newRow("space instead of T") << "2004-05-20 08:30" << QDateTime();
+    }
+    void readDate()
+    {
+        QFETCH(QString, text);
+        QFETCH(QDateTime, expected);
+        const auto date = ValueCodec::readDate(text);
+        QCOMPARE(date.has_value(), expected.isValid());
+        if (date)
+            QCOMPARE(*date, expected);
+    }
+
+    // Host objects.
+    void hostObjectTakesDeclaredPropertiesInOrder()
+    {
+        QObject owner;
+        // The selection comes before the text in the JSON; the text is still set first.
+        const QVariant value
+            = decode(R"({"$object": "textbox", "selLength": 2, "SelStart": 1, "text": "abcd",
+                                         "Tag": "mine", "$calls": [{"name": "SetFocus", "args": []}]})",
+                &owner);
+        auto *box = qobject_cast<TextBox *>(value.value<QObject *>());
+        QVERIFY(box);
+        QCOMPARE(box->parent(), &owner);
+        QCOMPARE(box->text(), QStringLiteral("abcd"));
+        QCOMPARE(box->selStart(), 1);
+        QCOMPARE(box->selLength(), 2);
+        QCOMPARE(box->value("Tag").toString(), QStringLiteral("mine"));
+        QVERIFY(box->calls().isEmpty());
+    }
+
+    void hostObjectEncodesAllPropertiesAndCalls()
+    {
+        TextBox box;
+        box.setText(QStringLiteral("ab"));
+        box.assign(QStringLiteral("Tag"), integerVariant(3));
+        box.SetFocus();
+        QCOMPARE(encoded(QVariant::fromValue<QObject *>(&box)),
+            QByteArray(
+                R"({"$object":"TextBox","Text":"ab","SelStart":0,"SelLength":0,"MaxLength":0,)"
+                R"("Enabled":true,"Left":0.0,"Top":0.0,"Width":0.0,"Height":0.0,"Tag":3,)"
+                R"("$calls":[{"name":"SetFocus","args":[]}]})"));
+    }
+
+    void hostObjectResponseReadsBack()
+    {
+        QObject owner;
+        const QByteArray text
+            = R"({"$object":"ListBox","List":["a","b"],"ItemData":[5,6],"ListIndex":1,)"
+              R"("ListCount":2,"NewIndex":-1,"$calls":[]})";
+        QCOMPARE(encoded(decode(text, &owner)), text);
+    }
+
+    void nestedPlainObjectsTakeTheirPlaceClass()
+    {
+        QObject owner;
+        const QVariant grid
+            = decode(R"({"$object": "Grid", "Columns": [{"Caption": "Nr"}, {"$object": "Column"}],
+                                        "Style": {"BackColor": 255}})",
+                &owner);
+        auto *object = qobject_cast<HostObject *>(grid.value<QObject *>());
+        const QVariantList columns = object->value("Columns").toList();
+        QCOMPARE(columns.size(), 2);
+        auto *first = qobject_cast<HostObject *>(columns.at(0).value<QObject *>());
+        QCOMPARE(first->className(), QStringLiteral("Column"));
+        QCOMPARE(first->value("Caption").toString(), QStringLiteral("Nr"));
+        QCOMPARE(first->parent(), object);
+        auto *style = qobject_cast<HostObject *>(object->value("Style").value<QObject *>());
+        QCOMPARE(style->value("BackColor").toInt(), 255);
+
+        const QVariant date = decode(
+            R"({"$object": "DateControl", "Calendar": {"Holidays": "1/1,25/12"}})", &owner);
+        auto *calendar
+            = qobject_cast<HostObject *>(qobject_cast<HostObject *>(date.value<QObject *>())
+                                             ->value("Calendar")
+                                             .value<QObject *>());
+        QCOMPARE(calendar->value("Holidays").toString(), QStringLiteral("1/1,25/12"));
+    }
+
+    void encodingEndsAtACycle()
+    {
+        HostObject *form = HostFactory::create(QStringLiteral("Form"));
+        form->assign(
+            QStringLiteral("Controls"), QVariantList { QVariant::fromValue<QObject *>(form) });
+        const JsonValue json = ValueCodec::encode(QVariant::fromValue<QObject *>(form));
+        const JsonValue &inner = json.member(u"Controls")->toArray().at(0);
+        QCOMPARE(inner.member(u"$object")->toString(), QStringLiteral("Form"));
+        QCOMPARE(inner.size(), 1);
+        delete form;
+    }
+};
+
+QTEST_GUILESS_MAIN(TestJsonCodec)
+#include "tst_jsoncodec.moc"
