@@ -24,19 +24,6 @@ QString withFourDigitYear(QString pattern)
     return pattern;
 }
 
-// A day and month of mixed width ("d/MM/yyyy") take the wider one, so that
-// short dates keep their fields at one width ("dd/MM/yyyy").
-QString withMatchingDayMonthWidth(QString pattern)
-{
-    const bool wideDay = pattern.contains(QLatin1String("dd"));
-    const bool wideMonth = pattern.contains(QLatin1String("MM"));
-    if (wideMonth && !wideDay)
-        pattern.replace(QLatin1Char('d'), QLatin1String("dd"));
-    else if (wideDay && !wideMonth)
-        pattern.replace(QLatin1Char('M'), QLatin1String("MM"));
-    return pattern;
-}
-
 // The long time notation without its time zone; notations with quoted words
 // ("H 'h' mm 'min'") fall back to the short one with seconds added.
 QString timePatternOf(const QLocale &locale, QChar separator)
@@ -63,7 +50,7 @@ RegionalSettings RegionalSettings::fromLocale(const QString &name)
     if (rs.groupSeparator == QChar(0x00A0) || rs.groupSeparator == QChar(0x202F))
         rs.groupSeparator = QLatin1Char(' ');
     rs.shortDatePattern
-        = withMatchingDayMonthWidth(withFourDigitYear(locale.dateFormat(QLocale::ShortFormat)));
+        = withFourDigitYear(locale.dateFormat(QLocale::ShortFormat));
     rs.dateSeparator = firstSeparator(rs.shortDatePattern, QStringLiteral("dMy"), QLatin1Char('/'));
     rs.timeSeparator = firstSeparator(
         locale.timeFormat(QLocale::ShortFormat), QStringLiteral("hHmsaApP"), QLatin1Char(':'));
