@@ -6,18 +6,17 @@ Control::Control(QObject *parent)
     : HostObject(parent)
 { }
 
-void Control::Move(const QVariant &left, const QVariant &top)
+void Control::Move(float left, float top)
 {
     place({ left, top });
 }
 
-void Control::Move(const QVariant &left, const QVariant &top, const QVariant &width)
+void Control::Move(float left, float top, float width)
 {
     place({ left, top, width });
 }
 
-void Control::Move(
-    const QVariant &left, const QVariant &top, const QVariant &width, const QVariant &height)
+void Control::Move(float left, float top, float width, float height)
 {
     place({ left, top, width, height });
 }

@@ -19,10 +19,9 @@ public:
     explicit Control(QObject *parent = nullptr);
 
     // Moves and sizes it at once; what is left out keeps its value.
-    Q_INVOKABLE void Move(const QVariant &left, const QVariant &top);
-    Q_INVOKABLE void Move(const QVariant &left, const QVariant &top, const QVariant &width);
-    Q_INVOKABLE void Move(
-        const QVariant &left, const QVariant &top, const QVariant &width, const QVariant &height);
+    Q_INVOKABLE void Move(float left, float top);
+    Q_INVOKABLE void Move(float left, float top, float width);
+    Q_INVOKABLE void Move(float left, float top, float width, float height);
 
 private:
     void place(const QVariantList &values);

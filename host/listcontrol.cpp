@@ -83,38 +83,36 @@ void ListControl::Clear()
     selectionChanged();
 }
 
-void ListControl::AddItem(const QVariant &item)
+void ListControl::AddItem(const QString &item)
 {
     recordCall(QStringLiteral("AddItem"), { item });
-    insertEntry(entryText(item), listCount());
+    insertEntry(item, listCount());
 }
 
-void ListControl::AddItem(const QVariant &item, const QVariant &index)
+void ListControl::AddItem(const QString &item, qint32 index)
 {
     recordCall(QStringLiteral("AddItem"), { item, index });
-    const int at = indexArgument(index);
-    if (at < 0 || at > listCount())
+    if (index < 0 || index > listCount())
         throw RuntimeError::invalidProcedureCall();
-    insertEntry(entryText(item), at);
+    insertEntry(item, index);
 }
 
-void ListControl::RemoveItem(const QVariant &index)
+void ListControl::RemoveItem(qint32 index)
 {
     recordCall(QStringLiteral("RemoveItem"), { index });
-    const int at = indexArgument(index);
-    if (at < 0 || at >= listCount())
+    if (index < 0 || index >= listCount())
         throw RuntimeError::invalidProcedureCall();
-    m_entries.removeAt(at);
-    m_numbers.removeAt(at);
-    if (m_listIndex == at)
+    m_entries.removeAt(index);
+    m_numbers.removeAt(index);
+    if (m_listIndex == index)
         m_listIndex = -1;
-    else if (m_listIndex > at)
+    else if (m_listIndex > index)
         --m_listIndex;
     m_newIndex = -1;
     selectionChanged();
 }
 
-void ListControl::insertEntry(const QString &entry, int index)
+void ListControl::insertEntry(const QString &entry, qint32 index)
 {
     m_entries.insert(index, entry);
     m_numbers.insert(index, 0);

@@ -31,16 +31,16 @@ public:
     qint32 listCount() const { return qint32(m_entries.size()); }
 
     Q_INVOKABLE void Clear();
-    Q_INVOKABLE void AddItem(const QVariant &item);
-    Q_INVOKABLE void AddItem(const QVariant &item, const QVariant &index);
-    Q_INVOKABLE void RemoveItem(const QVariant &index);
+    Q_INVOKABLE void AddItem(const QString &item);
+    Q_INVOKABLE void AddItem(const QString &item, qint32 index);
+    Q_INVOKABLE void RemoveItem(qint32 index);
 
 protected:
     // Lets a combo box show the selected entry as its text.
     virtual void selectionChanged() { }
 
 private:
-    void insertEntry(const QString &entry, int index);
+    void insertEntry(const QString &entry, qint32 index);
     void alignNumbers();
 
     QStringList m_entries;

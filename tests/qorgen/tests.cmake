@@ -3,3 +3,8 @@
 qor_add_test(tst_jsoncodec ${dir}/tst_jsoncodec.cpp)
 target_link_libraries(tst_jsoncodec PRIVATE qorgenbridge)
 
+
+qor_add_test(tst_hostobjects ${dir}/tst_hostobjects.cpp)
+
+qor_add_test(tst_session ${dir}/tst_session.cpp)
+target_link_libraries(tst_session PRIVATE qorgenbridge)

@@ -1,0 +1,329 @@
+#include "host/combobox.h"
+#include "host/control.h"
+#include "host/hostfactory.h"
+#include "host/listbox.h"
+#include "host/textbox.h"
+#include "platform/recordingplatform.h"
+#include "runtime/callbyname.h"
+#include "runtime/runtimeerror.h"
+#include "runtime/variant.h"
+
+#include <QTest>
+
+#include <memory>
+
+using namespace qor;
+
+namespace {
+
+int errorOf(const std::function<void()> &action)
+{
+    try {
+        action();
+    } catch (const RuntimeError &error) {
+        return error.number();
+    }
+    return 0;
+}
+
+QStringList texts(const QVariantList &list)
+{
+    QStringList out;
+    for (const QVariant &v : list)
+        out.append(v.toString());
+    return out;
+}
+
+QList<int> numbers(const QVariantList &list)
+{
+    QList<int> out;
+    for (const QVariant &v : list)
+        out.append(v.toInt());
+    return out;
+}
+
+QStringList callNames(const HostObject &object)
+{
+    QStringList names;
+    for (const QVariant &call : object.calls())
+        names.append(call.toMap().value(QStringLiteral("name")).toString());
+    return names;
+}
+
+// A list box prepared through the operations a host uses.
+std::unique_ptr<ListBox> listOf(const QStringList &entries, const QList<int> &itemData = {})
+{
+    auto list = std::make_unique<ListBox>();
+    list->setList(QVariantList(entries.begin(), entries.end()));
+    QVariantList data;
+    for (int number : itemData)
+        data.append(number);
+    list->setItemData(data);
+    return list;
+}
+
+} // namespace
+
+class TestHostObjects : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase() { Platform::install(std::make_shared<RecordingPlatform>()); }
+
+    // Making objects by class name.
+    void factoryMakesEveryClass()
+    {
+        const QStringList names = HostFactory::classNames();
+        for (const char *required : { "TextBox", "GridEditor", "ListBox", "ComboBox", "DateControl",
+                 "Grid", "Frame", "Form", "MenuForm", "Application" })
+            QVERIFY2(names.contains(QLatin1String(required)), required);
+        for (const QString &name : names) {
+            std::unique_ptr<HostObject> object(HostFactory::create(name.toLower()));
+            QVERIFY2(object, qPrintable(name));
+            QCOMPARE(object->className(), name);
+        }
+        QVERIFY(!HostFactory::create(QStringLiteral("Nope")));
+    }
+
+    void childrenExistFromTheStart()
+    {
+        std::unique_ptr<HostObject> date(HostFactory::create(QStringLiteral("DateControl")));
+        QVERIFY(isObject(date->value("Calendar")));
+        std::unique_ptr<HostObject> grid(HostFactory::create(QStringLiteral("Grid")));
+        for (const char *style : { "Style", "HighlightRowStyle", "SelectedStyle" })
+            QCOMPARE(qobject_cast<HostObject *>(grid->value(style).value<QObject *>())->className(),
+                "Style");
+        std::unique_ptr<HostObject> menu(HostFactory::create(QStringLiteral("MenuForm")));
+        QCOMPARE(menu->value("ShapeMenu").toList().size(), 8);
+        QCOMPARE(
+            qobject_cast<HostObject *>(menu->value("FrameMenu").value<QObject *>())->className(),
+            "Frame");
+    }
+
+    // Properties by name.
+    void declaredPropertiesComeFirstInOrder()
+    {
+        TextBox box;
+        box.assign(QStringLiteral("Tag"), QStringLiteral("x"));
+        box.assign(QStringLiteral("Alpha"), 1);
+        QCOMPARE(box.propertyNames(),
+            QStringList({ "Text", "SelStart", "SelLength", "MaxLength", "Enabled", "Left", "Top",
+                "Width", "Height", "Tag", "Alpha" }));
+        QVERIFY(box.isDeclared(QStringLiteral("selstart")));
+        QVERIFY(!box.isDeclared(QStringLiteral("Tag")));
+        QCOMPARE(box.resolveName(QStringLiteral("TAG")), QStringLiteral("Tag"));
+    }
+
+    void assignConvertsToTheDeclaredType_data()
+    {
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<QVariant>("value");
+        QTest::addColumn<int>("error");
+        QTest::addColumn<QVariant>("stored");
+        QTest::newRow("number text to Long") << "MaxLength" << QVariant("12") << 0 << QVariant(12);
+        QTest::newRow("number to String")
+            << "Text" << QVariant(integerVariant(5)) << 0 << QVariant("5");
+        QTest::newRow("Boolean to String") << "Text" << QVariant(true) << 0 << QVariant("True");
+        QTest::newRow("any case") << "enabled" << QVariant(false) << 0 << QVariant(false);
+        QTest::newRow("text that is no number")
+            << "MaxLength" << QVariant("x") << 13 << QVariant(0);
+        QTest::newRow("negative length") << "MaxLength" << QVariant(-1) << 380 << QVariant(0);
+        QTest::newRow("undeclared keeps its value") << "Tag" << QVariant(2.5) << 0 << QVariant(2.5);
+    }
+    void assignConvertsToTheDeclaredType()
+    {
+        QFETCH(QString, name);
+        QFETCH(QVariant, value);
+        TextBox box;
+        QTEST(errorOf([&] { box.assign(name, value); }), "error");
+        QTEST(box.value(name), "stored");
+    }
+
+    void readOnlyPropertyRefusesAssignment()
+    {
+        ListBox list;
+        QVERIFY(!list.isWritable(QStringLiteral("ListCount")));
+        QCOMPARE(errorOf([&] { list.assign(QStringLiteral("ListCount"), 3); }), 383);
+    }
+
+    void libraryReachesThemByName()
+    {
+        TextBox box;
+        qor::setProperty(&box, "text", QStringLiteral("abc"));
+        QCOMPARE(getProperty(&box, "TEXT").toString(), QStringLiteral("abc"));
+        ListBox list;
+        callOperation(&list, "AddItem", { QStringLiteral("b") });
+        callOperation(&list, "additem", { QStringLiteral("a"), 0 });
+        QCOMPARE(texts(list.list()), QStringList({ "a", "b" }));
+        QCOMPARE(callNames(list), QStringList({ "AddItem", "AddItem" }));
+        QCOMPARE(list.calls().at(1).toMap().value("args").toList().size(), 2);
+    }
+
+    // The edit control's caret and selection.
+    void selectionFollowsTheClassicControl_data()
+    {
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<int>("start");
+        QTest::addColumn<int>("length");
+        QTest::addColumn<int>("selStart");
+        QTest::addColumn<int>("selLength");
+        QTest::newRow("inside") << "abcdef" << 1 << 2 << 1 << 2;
+        QTest::newRow("caret past the end stops at the end") << "abc" << 9 << 0 << 3 << 0;
+        QTest::newRow("selection past the end is cut") << "abc" << 1 << 9 << 1 << 2;
+        QTest::newRow("empty text") << "" << 0 << 5 << 0 << 0;
+    }
+    void selectionFollowsTheClassicControl()
+    {
+        QFETCH(QString, text);
+        QFETCH(int, start);
+        QFETCH(int, length);
+        TextBox box;
+        box.setText(text);
+        box.setSelStart(start);
+        box.setSelLength(length);
+        QTEST(box.selStart(), "selStart");
+        QTEST(box.selLength(), "selLength");
+    }
+
+    void newTextOrCaretDropsTheSelection()
+    {
+        TextBox box;
+        box.setText(QStringLiteral("abcdef"));
+        box.setSelStart(2);
+        box.setSelLength(3);
+        box.setSelStart(1);
+        QCOMPARE(box.selLength(), 0);
+        box.setSelLength(3);
+        box.setText(QStringLiteral("xy"));
+        QCOMPARE(box.selStart(), 0);
+        QCOMPARE(box.selLength(), 0);
+        QCOMPARE(errorOf([&] { box.setSelStart(-1); }), 380);
+    }
+
+    void setFocusIsRecordedAndNeedsAnEnabledControl()
+    {
+        TextBox box;
+        box.SetFocus();
+        box.assign(QStringLiteral("Enabled"), false);
+        QCOMPARE(errorOf([&] { box.SetFocus(); }), 5);
+        QCOMPARE(callNames(box), QStringList({ "SetFocus", "SetFocus" }));
+    }
+
+    // Lists.
+    void addItem_data()
+    {
+        QTest::addColumn<QStringList>("entries");
+        QTest::addColumn<int>("selected");
+        QTest::addColumn<QString>("item");
+        QTest::addColumn<int>("index"); // -1: appended
+        QTest::addColumn<QStringList>("list");
+        QTest::addColumn<QList<int>>("itemData");
+        QTest::addColumn<int>("newIndex");
+        QTest::addColumn<int>("listIndex");
+        QTest::newRow("append to empty") << QStringList() << -1 << "a" << -1 << QStringList({ "a" })
+                                         << QList<int>({ 0 }) << 0 << -1;
+        QTest::newRow("append") << QStringList({ "a", "b" }) << 1 << "c" << -1
+                                << QStringList({ "a", "b", "c" }) << QList<int>({ 1, 2, 0 }) << 2
+                                << 1;
+        QTest::newRow("insert before the selection moves it")
+            << QStringList({ "a", "b" }) << 1 << "x" << 0 << QStringList({ "x", "a", "b" })
+            << QList<int>({ 0, 1, 2 }) << 0 << 2;
+        QTest::newRow("insert after the selection")
+            << QStringList({ "a", "b" }) << 0 << "x" << 1 << QStringList({ "a", "x", "b" })
+            << QList<int>({ 1, 0, 2 }) << 1 << 0;
+        QTest::newRow("insert at the end")
+            << QStringList({ "a" }) << -1 << "z" << 1 << QStringList({ "a", "z" })
+            << QList<int>({ 1, 0 }) << 1 << -1;
+    }
+    void addItem()
+    {
+        QFETCH(QStringList, entries);
+        QFETCH(int, selected);
+        QFETCH(QString, item);
+        QFETCH(int, index);
+        QList<int> data;
+        for (int i = 0; i < entries.size(); ++i)
+            data.append(i + 1);
+        auto list = listOf(entries, data);
+        list->setListIndex(selected);
+        if (index < 0)
+            list->AddItem(item);
+        else
+            list->AddItem(item, index);
+        QTEST(texts(list->list()), "list");
+        QTEST(numbers(list->itemData()), "itemData");
+        QTEST(int(list->value("NewIndex").toInt()), "newIndex");
+        QTEST(list->listIndex(), "listIndex");
+        QCOMPARE(list->listCount(), entries.size() + 1);
+    }
+
+    void addItemTakesNumbersAsText()
+    {
+        ListBox list;
+        callOperation(&list, "AddItem", { integerVariant(12) });
+        callOperation(&list, "AddItem", { 2.5, QStringLiteral("0") });
+        QCOMPARE(texts(list.list()), QStringList({ "2.5", "12" }));
+    }
+
+    void indexOutsideTheListIsRefused()
+    {
+        auto list = listOf({ "a" });
+        QCOMPARE(errorOf([&] { list->AddItem(QStringLiteral("x"), 2); }), 5);
+        QCOMPARE(errorOf([&] { list->RemoveItem(1); }), 5);
+        QCOMPARE(errorOf([&] { list->setListIndex(1); }), 380);
+        QCOMPARE(errorOf([&] { list->setListIndex(-2); }), 380);
+        QCOMPARE(list->listCount(), 1);
+    }
+
+    void removeAndClear()
+    {
+        auto list = listOf({ "a", "b", "c" }, { 1, 2, 3 });
+        list->setListIndex(2);
+        list->RemoveItem(0);
+        QCOMPARE(texts(list->list()), QStringList({ "b", "c" }));
+        QCOMPARE(numbers(list->itemData()), QList<int>({ 2, 3 }));
+        QCOMPARE(list->listIndex(), 1);
+        list->RemoveItem(1);
+        QCOMPARE(list->listIndex(), -1);
+        list->Clear();
+        QCOMPARE(list->listCount(), 0);
+        QVERIFY(list->itemData().isEmpty());
+        QCOMPARE(list->value("NewIndex").toInt(), -1);
+        QCOMPARE(callNames(*list), QStringList({ "RemoveItem", "RemoveItem", "Clear" }));
+    }
+
+    void itemDataStaysAsLongAsTheList()
+    {
+        auto list = listOf({ "a", "b", "c" }, { 7 });
+        QCOMPARE(numbers(list->itemData()), QList<int>({ 7, 0, 0 }));
+        list->setItemData({ 1, 2, 3, 4 });
+        QCOMPARE(numbers(list->itemData()), QList<int>({ 1, 2, 3 }));
+    }
+
+    void comboTextShowsTheSelection()
+    {
+        ComboBox combo;
+        combo.AddItem(QStringLiteral("Brussel"));
+        combo.AddItem(QStringLiteral("Gent"));
+        combo.setListIndex(1);
+        QCOMPARE(combo.value("Text").toString(), QStringLiteral("Gent"));
+        combo.setListIndex(-1);
+        QCOMPARE(combo.value("Text").toString(), QString());
+    }
+
+    // Placed controls.
+    void moveSetsWhatItIsGiven()
+    {
+        Control shape;
+        shape.Move(10, 20);
+        shape.Move(1, 2, 300, 400);
+        QCOMPARE(shape.value("Left").toFloat(), 1.0f);
+        QCOMPARE(shape.value("Height").toFloat(), 400.0f);
+        QCOMPARE(callNames(shape), QStringList({ "Move", "Move" }));
+        QCOMPARE(shape.calls().at(1).toMap().value("args").toList().size(), 4);
+    }
+};
+
+QTEST_GUILESS_MAIN(TestHostObjects)
+#include "tst_hostobjects.moc"
