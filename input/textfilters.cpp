@@ -6,21 +6,34 @@ namespace {
 
 constexpr char16_t acuteAccent = 0x00B4;
 
-bool inRange(char16_t c, char16_t from, char16_t to) { return c >= from && c <= to; }
+bool inRange(char16_t c, char16_t from, char16_t to)
+{
+    return c >= from && c <= to;
+}
 
 // The replacement of one character, or an empty text when it stays as it is.
 QString plainFormOf(char16_t c)
 {
-    if (inRange(c, 0xC0, 0xC6)) return QStringLiteral("A");
-    if (inRange(c, 0xE0, 0xE6)) return QStringLiteral("a");
-    if (inRange(c, 0xC8, 0xCB)) return QStringLiteral("E");
-    if (inRange(c, 0xE8, 0xEB)) return QStringLiteral("e");
-    if (inRange(c, 0xCC, 0xCF)) return QStringLiteral("I");
-    if (inRange(c, 0xEC, 0xEF)) return QStringLiteral("i");
-    if (inRange(c, 0xD2, 0xD6)) return QStringLiteral("O");
-    if (inRange(c, 0xF2, 0xF6)) return QStringLiteral("o");
-    if (inRange(c, 0xD9, 0xDC)) return QStringLiteral("U");
-    if (inRange(c, 0xF9, 0xFC)) return QStringLiteral("u");
+    if (inRange(c, 0xC0, 0xC6))
+        return QStringLiteral("A");
+    if (inRange(c, 0xE0, 0xE6))
+        return QStringLiteral("a");
+    if (inRange(c, 0xC8, 0xCB))
+        return QStringLiteral("E");
+    if (inRange(c, 0xE8, 0xEB))
+        return QStringLiteral("e");
+    if (inRange(c, 0xCC, 0xCF))
+        return QStringLiteral("I");
+    if (inRange(c, 0xEC, 0xEF))
+        return QStringLiteral("i");
+    if (inRange(c, 0xD2, 0xD6))
+        return QStringLiteral("O");
+    if (inRange(c, 0xF2, 0xF6))
+        return QStringLiteral("o");
+    if (inRange(c, 0xD9, 0xDC))
+        return QStringLiteral("U");
+    if (inRange(c, 0xF9, 0xFC))
+        return QStringLiteral("u");
     switch (c) {
     case 0x0178: return QStringLiteral("Y"); // Ÿ
     case 0xFF: return QStringLiteral("y");
@@ -45,16 +58,15 @@ bool startsWord(QChar c)
     case u',':
     case u'-':
     case u'_':
-    case acuteAccent:
-        return true;
-    default:
-        return false;
+    case acuteAccent: return true;
+    default: return false;
     }
 }
 
 bool isPlainLetter(QChar c)
 {
-    return (c >= QLatin1Char('a') && c <= QLatin1Char('z')) || (c >= QLatin1Char('A') && c <= QLatin1Char('Z'));
+    return (c >= QLatin1Char('a') && c <= QLatin1Char('z'))
+        || (c >= QLatin1Char('A') && c <= QLatin1Char('Z'));
 }
 
 } // namespace
@@ -75,7 +87,8 @@ QString filterAccenten(const QString &text, const QString &onlyThese)
     QString result;
     result.reserve(text.size());
     for (QChar c : text) {
-        const QString plain = (onlyThese.isEmpty() || onlyThese.contains(c)) ? plainFormOf(c.unicode()) : QString();
+        const QString plain
+            = (onlyThese.isEmpty() || onlyThese.contains(c)) ? plainFormOf(c.unicode()) : QString();
         if (plain.isEmpty())
             result.append(c);
         else

@@ -7,7 +7,10 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 
-static void initCatalogueResource() { Q_INIT_RESOURCE(catalogue); }
+static void initCatalogueResource()
+{
+    Q_INIT_RESOURCE(catalogue);
+}
 
 namespace qor {
 
@@ -20,7 +23,12 @@ struct LanguageFile
 };
 
 constexpr LanguageFile languageFiles[] = {
-    { 0, "nl" }, { 10000, "fr" }, { 20000, "en" }, { 30000, "de" }, { 40000, "es" }, { 50000, "it" },
+    { 0, "nl" },
+    { 10000, "fr" },
+    { 20000, "en" },
+    { 30000, "de" },
+    { 40000, "es" },
+    { 50000, "it" },
 };
 
 QHash<qint64, QString> loadAll()
@@ -28,7 +36,8 @@ QHash<qint64, QString> loadAll()
     initCatalogueResource();
     QHash<qint64, QString> texts;
     for (const auto &language : languageFiles) {
-        QFile file(QStringLiteral(":/qorgenlib/catalogue/%1.json").arg(QLatin1String(language.name)));
+        QFile file(
+            QStringLiteral(":/qorgenlib/catalogue/%1.json").arg(QLatin1String(language.name)));
         if (!file.open(QIODevice::ReadOnly))
             continue;
         const QJsonObject entries = QJsonDocument::fromJson(file.readAll()).object();

@@ -26,6 +26,9 @@ public:
 };
 
 // Shorthand for the library's own texts.
-inline QString loadCatalogueText(qint32 baseId) { return Catalogue::load(baseId); }
+inline QString loadCatalogueText(qint32 baseId)
+{
+    return Catalogue::load(baseId);
+}
 
 } // namespace qor

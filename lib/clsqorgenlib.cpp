@@ -22,7 +22,10 @@ using namespace qor;
 
 namespace {
 
-RegionalSettings regional() { return platform().regionalSettings(); }
+RegionalSettings regional()
+{
+    return platform().regionalSettings();
+}
 
 } // namespace
 
@@ -47,8 +50,8 @@ clsqorGenLib::~clsqorGenLib() = default;
 
 const TypeLibrary &clsqorGenLib::typeLibrary()
 {
-    static const TypeLibrary library(&clsqorGenLib::staticMetaObject, { &qorGenLib::staticMetaObject },
-                                     { &qorGenLib::WindowSize::staticMetaObject });
+    static const TypeLibrary library(&clsqorGenLib::staticMetaObject,
+        { &qorGenLib::staticMetaObject }, { &qorGenLib::WindowSize::staticMetaObject });
     return library;
 }
 
@@ -63,9 +66,15 @@ QVariant clsqorGenLib::Invoke(const QString &name, const QVariantList &args)
     return Invoke(name, copy);
 }
 
-void clsqorGenLib::useMyLanguage() const { modGenLib().languageOffset = m_Offset; }
+void clsqorGenLib::useMyLanguage() const
+{
+    modGenLib().languageOffset = m_Offset;
+}
 
-QString clsqorGenLib::LLGenLib(qint32 ResOffsetCode) { return Catalogue::llGenLib(ResOffsetCode); }
+QString clsqorGenLib::LLGenLib(qint32 ResOffsetCode)
+{
+    return Catalogue::llGenLib(ResOffsetCode);
+}
 
 QVariant clsqorGenLib::FilterNumeric(QVariant &Ingave)
 {
@@ -90,18 +99,30 @@ QString clsqorGenLib::SCase(QString &xText)
     return sCase(xText);
 }
 
-void clsqorGenLib::SelEdit(QObject *Obj, bool StartAtEnd, bool Flexgrid) { selEdit(Obj, StartAtEnd, Flexgrid); }
+void clsqorGenLib::SelEdit(QObject *Obj, bool StartAtEnd, bool Flexgrid)
+{
+    selEdit(Obj, StartAtEnd, Flexgrid);
+}
 
-QVariant clsqorGenLib::CGetal(const QVariant &Number) { return cGetal(Number, regional()); }
+QVariant clsqorGenLib::CGetal(const QVariant &Number)
+{
+    return cGetal(Number, regional());
+}
 
 QString clsqorGenLib::SetEuro(float Value, qorGenLib::OstSymbolType AddSymbol)
 {
     return setEuro(Value, AddSymbol, regional());
 }
 
-void clsqorGenLib::SendAKey(short KeyAscii) { sendAKey(KeyAscii); }
+void clsqorGenLib::SendAKey(short KeyAscii)
+{
+    sendAKey(KeyAscii);
+}
 
-bool clsqorGenLib::GetKlantPC() { return getKlantPC(); }
+bool clsqorGenLib::GetKlantPC()
+{
+    return getKlantPC();
+}
 
 // Identifier checks
 

@@ -65,14 +65,15 @@ public:
     // Text filters and case.
     Q_INVOKABLE QVariant FilterNumeric(QVariant &Ingave);
     Q_INVOKABLE QVariant FilterAccenten(QVariant &Text, const QString &OnlyThese = QString());
-    Q_INVOKABLE QString FilterText(const QString &Text, bool FilterAccent = false,
-                                   const QString &DoNotRemove = QString());
+    Q_INVOKABLE QString FilterText(
+        const QString &Text, bool FilterAccent = false, const QString &DoNotRemove = QString());
     Q_INVOKABLE QString SCase(QString &xText);
 
     // Editing and amount helpers.
     Q_INVOKABLE void SelEdit(QObject *Obj, bool StartAtEnd = false, bool Flexgrid = false);
     Q_INVOKABLE QVariant CGetal(const QVariant &Number = QVariant::fromValue<short>(0));
-    Q_INVOKABLE QString SetEuro(float Value, qorGenLib::OstSymbolType AddSymbol = qorGenLib::vbSymbolNone);
+    Q_INVOKABLE QString SetEuro(
+        float Value, qorGenLib::OstSymbolType AddSymbol = qorGenLib::vbSymbolNone);
     Q_INVOKABLE void SendAKey(short KeyAscii);
 
     // Station flags.

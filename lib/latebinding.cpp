@@ -51,8 +51,7 @@ QObject *objectOf(const QVariant &value)
 LateBinding::LateBinding(QObject *object, const TypeLibrary &library)
     : m_object(object)
     , m_library(library)
-{
-}
+{ }
 
 QVariant LateBinding::coerce(const QVariant &value, QMetaType target, const RegionalSettings &rs)
 {
@@ -80,8 +79,7 @@ QVariant LateBinding::coerce(const QVariant &value, QMetaType target, const Regi
             throw RuntimeError::typeMismatch();
         return value.toList();
     }
-    default:
-        break;
+    default: break;
     }
     if (target.flags() & QMetaType::IsEnumeration) {
         const int number = toLong(value, rs);
@@ -148,7 +146,8 @@ QVariant LateBinding::callMethod(const MethodInfo &method, QVariantList &args) c
 QVariant LateBinding::accessProperty(const PropertyInfo &property, QVariantList &args) const
 {
     const QByteArray name = property.name.toLatin1();
-    const QMetaProperty meta = m_object->metaObject()->property(m_object->metaObject()->indexOfProperty(name));
+    const QMetaProperty meta
+        = m_object->metaObject()->property(m_object->metaObject()->indexOfProperty(name));
     if (args.isEmpty())
         return unwrap(meta.read(m_object));
     if (args.size() > 1)

@@ -8,6 +8,9 @@ ModGenLib &ModGenLib::current()
     return state;
 }
 
-void ModGenLib::reset() { current() = ModGenLib(); }
+void ModGenLib::reset()
+{
+    current() = ModGenLib();
+}
 
 } // namespace qor

@@ -28,6 +28,9 @@ struct ModGenLib
 };
 
 // The calling thread's module state.
-inline ModGenLib &modGenLib() { return ModGenLib::current(); }
+inline ModGenLib &modGenLib()
+{
+    return ModGenLib::current();
+}
 
 } // namespace qor

@@ -40,7 +40,7 @@ QVariant defaultValueFor(const QJsonValue &json, QMetaType type)
 } // namespace
 
 TypeLibrary::TypeLibrary(const QMetaObject *cls, const QList<const QMetaObject *> &enumScopes,
-                         const QList<const QMetaObject *> &records)
+    const QList<const QMetaObject *> &records)
 {
     readMethods(cls);
     readProperties(cls);
@@ -82,9 +82,11 @@ QString TypeLibrary::publishedMemberName(const QString &enumName, const QString 
 {
     if (enumName == QLatin1String("OstSymbolType") && cppName == QLatin1String("vbSymbolEuro"))
         return QStringLiteral("vbSymbol\u20AC");
-    if (enumName == QLatin1String("OstBetalingswijze") && cppName.startsWith(QLatin1String("btDomiciliering"))) {
+    if (enumName == QLatin1String("OstBetalingswijze")
+        && cppName.startsWith(QLatin1String("btDomiciliering"))) {
         QString published = cppName;
-        return published.replace(QLatin1String("btDomiciliering"), QStringLiteral("btDomicili\u00EBring"));
+        return published.replace(
+            QLatin1String("btDomiciliering"), QStringLiteral("btDomicili\u00EBring"));
     }
     return cppName;
 }
@@ -94,7 +96,8 @@ void TypeLibrary::readMethods(const QMetaObject *cls)
     for (int i = cls->methodOffset(); i < cls->methodCount(); ++i) {
         const QMetaMethod method = cls->method(i);
         // Overloads that leave out defaulted arguments are generated copies.
-        if (method.methodType() != QMetaMethod::Method || (method.attributes() & QMetaMethod::Cloned))
+        if (method.methodType() != QMetaMethod::Method
+            || (method.attributes() & QMetaMethod::Cloned))
             continue;
         MethodInfo info;
         info.name = QString::fromLatin1(method.name());
@@ -107,7 +110,8 @@ void TypeLibrary::readMethods(const QMetaObject *cls)
             ParameterInfo param;
             param.name = QString::fromLatin1(names.value(p));
             param.metaType = method.parameterMetaType(p);
-            // Arguments written back are declared as references, which have no meta type of their own.
+            // Arguments written back are declared as references, which have no meta type of their
+            // own.
             if (!param.metaType.isValid()) {
                 QByteArray plain = types.value(p);
                 plain.chop(plain.endsWith('&') ? 1 : 0);
@@ -128,7 +132,8 @@ void TypeLibrary::readProperties(const QMetaObject *cls)
 {
     for (int i = cls->propertyOffset(); i < cls->propertyCount(); ++i) {
         const QMetaProperty property = cls->property(i);
-        m_properties.append({ QString::fromLatin1(property.name()), typeName(property.metaType()) });
+        m_properties.append(
+            { QString::fromLatin1(property.name()), typeName(property.metaType()) });
     }
 }
 
@@ -139,7 +144,8 @@ void TypeLibrary::readEnums(const QMetaObject *scope)
         EnumInfo info;
         info.name = QString::fromLatin1(meta.enumName());
         for (int k = 0; k < meta.keyCount(); ++k)
-            info.members.append({ publishedMemberName(info.name, QString::fromLatin1(meta.key(k))), meta.value(k) });
+            info.members.append({ publishedMemberName(info.name, QString::fromLatin1(meta.key(k))),
+                meta.value(k) });
         m_enums.append(info);
     }
 }
@@ -150,7 +156,8 @@ void TypeLibrary::readRecord(const QMetaObject *record)
     info.name = QString::fromLatin1(record->className());
     info.name = info.name.mid(info.name.lastIndexOf(QLatin1Char(':')) + 1);
     for (int i = record->propertyOffset(); i < record->propertyCount(); ++i)
-        info.fields.append({ QString::fromLatin1(record->property(i).name()), typeName(record->property(i).metaType()) });
+        info.fields.append({ QString::fromLatin1(record->property(i).name()),
+            typeName(record->property(i).metaType()) });
     m_records.append(info);
 }
 

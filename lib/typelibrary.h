@@ -12,7 +12,8 @@ namespace qor {
 struct ParameterInfo
 {
     QString name;
-    QString type; // "String", "Boolean", "Long", "Integer", "Single", "Double", "Variant", "Object", "Date", or an enumeration
+    QString type; // "String", "Boolean", "Long", "Integer", "Single", "Double", "Variant",
+                  // "Object", "Date", or an enumeration
     bool byRef = false;
     bool optional = false;
     QVariant defaultValue; // invalid when the optional argument has no default
@@ -60,7 +61,7 @@ class TypeLibrary
 {
 public:
     TypeLibrary(const QMetaObject *cls, const QList<const QMetaObject *> &enumScopes,
-                const QList<const QMetaObject *> &records);
+        const QList<const QMetaObject *> &records);
 
     const QList<MethodInfo> &methods() const { return m_methods; }
     const QList<PropertyInfo> &properties() const { return m_properties; }

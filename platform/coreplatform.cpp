@@ -15,17 +15,25 @@ namespace qor {
 CorePlatform::CorePlatform()
     : m_settings(RegionalSettings::system())
     , m_systemDirectory(QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation))
-{
-}
+{ }
 
 CorePlatform::~CorePlatform()
 {
     qDeleteAll(m_processes);
 }
 
-QDateTime CorePlatform::now() const { return QDateTime::currentDateTime(); }
-RegionalSettings CorePlatform::regionalSettings() const { return m_settings; }
-void CorePlatform::setRegionalSettings(const RegionalSettings &settings) { m_settings = settings; }
+QDateTime CorePlatform::now() const
+{
+    return QDateTime::currentDateTime();
+}
+RegionalSettings CorePlatform::regionalSettings() const
+{
+    return m_settings;
+}
+void CorePlatform::setRegionalSettings(const RegionalSettings &settings)
+{
+    m_settings = settings;
+}
 
 int CorePlatform::messageBoxE(const MessageBoxERequest &request)
 {
@@ -35,7 +43,10 @@ int CorePlatform::messageBoxE(const MessageBoxERequest &request)
     return request.buttons.isEmpty() ? 1 : request.buttons.first().result;
 }
 
-int CorePlatform::systemMessageBox(const SystemMessageBoxRequest &) { return 1; }
+int CorePlatform::systemMessageBox(const SystemMessageBoxRequest &)
+{
+    return 1;
+}
 
 InputBoxEAnswer CorePlatform::inputBoxE(const InputBoxERequest &request)
 {
@@ -77,7 +88,10 @@ bool CorePlatform::directoryExists(const QString &path) const
     return QFileInfo(localPath(path)).isDir();
 }
 
-bool CorePlatform::makeDirectory(const QString &path) { return QDir().mkpath(localPath(path)); }
+bool CorePlatform::makeDirectory(const QString &path)
+{
+    return QDir().mkpath(localPath(path));
+}
 
 QList<FileEntry> CorePlatform::listFiles(const QString &directory, const QString &wildcard) const
 {
@@ -85,8 +99,10 @@ QList<FileEntry> CorePlatform::listFiles(const QString &directory, const QString
     const QDir dir(localPath(directory));
     if (!dir.exists())
         return entries;
-    const QRegularExpression match = QRegularExpression::fromWildcard(wildcard, Qt::CaseInsensitive);
-    const QFileInfoList infos = dir.entryInfoList(QDir::Files | QDir::NoDotAndDotDot, QDir::Unsorted);
+    const QRegularExpression match
+        = QRegularExpression::fromWildcard(wildcard, Qt::CaseInsensitive);
+    const QFileInfoList infos
+        = dir.entryInfoList(QDir::Files | QDir::NoDotAndDotDot, QDir::Unsorted);
     for (const QFileInfo &info : infos) {
         if (!match.match(info.fileName()).hasMatch())
             continue;
@@ -115,8 +131,14 @@ bool CorePlatform::writeFile(const QString &path, const QByteArray &contents)
     return file.write(contents) == contents.size();
 }
 
-QString CorePlatform::systemDirectory() const { return m_systemDirectory; }
-void CorePlatform::setSystemDirectory(const QString &path) { m_systemDirectory = path; }
+QString CorePlatform::systemDirectory() const
+{
+    return m_systemDirectory;
+}
+void CorePlatform::setSystemDirectory(const QString &path)
+{
+    m_systemDirectory = path;
+}
 
 qint64 CorePlatform::startProcess(const QString &commandLine, int)
 {
@@ -149,11 +171,20 @@ void CorePlatform::shutDown()
     QProcess::startDetached(QStringLiteral("systemctl"), { QStringLiteral("poweroff") });
 }
 
-ScreenInfo CorePlatform::screen() const { return ScreenInfo(); }
+ScreenInfo CorePlatform::screen() const
+{
+    return ScreenInfo();
+}
 void CorePlatform::setMousePointer(int) { }
 
-int CorePlatform::virtualKeyOf(int ansiCode) const { return virtualKeyScan(ansiCode); }
-int CorePlatform::scanCodeOf(int ansiCode) const { return oemScanCode(ansiToOem(ansiCode)); }
+int CorePlatform::virtualKeyOf(int ansiCode) const
+{
+    return virtualKeyScan(ansiCode);
+}
+int CorePlatform::scanCodeOf(int ansiCode) const
+{
+    return oemScanCode(ansiToOem(ansiCode));
+}
 void CorePlatform::keyEvent(int, int, int) { }
 
 } // namespace qor

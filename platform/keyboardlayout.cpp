@@ -20,9 +20,17 @@ struct PunctuationKey
 };
 
 constexpr PunctuationKey punctuationKeys[] = {
-    { ';', ':', 0xBA }, { '=', '+', 0xBB }, { ',', '<', 0xBC }, { '-', '_', 0xBD },
-    { '.', '>', 0xBE }, { '/', '?', 0xBF }, { '`', '~', 0xC0 }, { '[', '{', 0xDB },
-    { '\\', '|', 0xDC }, { ']', '}', 0xDD }, { '\'', '"', 0xDE },
+    { ';', ':', 0xBA },
+    { '=', '+', 0xBB },
+    { ',', '<', 0xBC },
+    { '-', '_', 0xBD },
+    { '.', '>', 0xBE },
+    { '/', '?', 0xBF },
+    { '`', '~', 0xC0 },
+    { '[', '{', 0xDB },
+    { '\\', '|', 0xDC },
+    { ']', '}', 0xDD },
+    { '\'', '"', 0xDE },
 };
 
 constexpr char shiftedDigits[] = ")!@#$%^&*(";
@@ -110,8 +118,8 @@ int ansiToOem(int ansiCode)
         return 63;
     if (ansiCode < 128)
         return ansiCode;
-    static const QString oemUpper = QStringLiteral(
-        u"ÇüéâäàåçêëèïîìÄÅÉæÆôöòûùÿÖÜ¢£¥₧ƒáíóúñÑªº¿⌐¬½¼¡«»");
+    static const QString oemUpper
+        = QStringLiteral(u"ÇüéâäàåçêëèïîìÄÅÉæÆôöòûùÿÖÜ¢£¥₧ƒáíóúñÑªº¿⌐¬½¼¡«»");
     const QChar c = QString::fromLatin1(QByteArray(1, char(ansiCode))).at(0);
     const int at = oemUpper.indexOf(c);
     return at >= 0 ? 128 + at : 63;

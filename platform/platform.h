@@ -153,6 +153,9 @@ public:
 };
 
 // Shorthand used throughout the library.
-inline Platform &platform() { return Platform::current(); }
+inline Platform &platform()
+{
+    return Platform::current();
+}
 
 } // namespace qor

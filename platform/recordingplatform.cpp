@@ -19,10 +19,8 @@ bool isNumber(const QVariant &answer)
     case QMetaType::ULongLong:
     case QMetaType::Double:
     case QMetaType::Float:
-    case QMetaType::Short:
-        return true;
-    default:
-        return false;
+    case QMetaType::Short: return true;
+    default: return false;
     }
 }
 
@@ -30,22 +28,34 @@ bool isNumber(const QVariant &answer)
 
 RecordingPlatform::RecordingPlatform() = default;
 
-void RecordingPlatform::setNow(const QDateTime &now) { m_now = now; }
+void RecordingPlatform::setNow(const QDateTime &now)
+{
+    m_now = now;
+}
 void RecordingPlatform::setLocale(const QString &name)
 {
     setRegionalSettings(RegionalSettings::fromLocale(name));
 }
-void RecordingPlatform::setScreen(const ScreenInfo &screen) { m_screen = screen; }
+void RecordingPlatform::setScreen(const ScreenInfo &screen)
+{
+    m_screen = screen;
+}
 
-void RecordingPlatform::setSoundPlayback(std::function<void(const QString &, bool)> play,
-                                         std::function<void()> stop)
+void RecordingPlatform::setSoundPlayback(
+    std::function<void(const QString &, bool)> play, std::function<void()> stop)
 {
     m_play = std::move(play);
     m_stop = std::move(stop);
 }
 
-void RecordingPlatform::setAnswers(const QVariantList &answers) { m_answers = answers; }
-void RecordingPlatform::addAnswer(const QVariant &answer) { m_answers.append(answer); }
+void RecordingPlatform::setAnswers(const QVariantList &answers)
+{
+    m_answers = answers;
+}
+void RecordingPlatform::addAnswer(const QVariant &answer)
+{
+    m_answers.append(answer);
+}
 
 void RecordingPlatform::clearRecords()
 {
@@ -73,7 +83,8 @@ int RecordingPlatform::messageBoxEAnswer(const MessageBoxERequest &request)
         if (isNumber(*answer))
             result = answer->toInt();
         else if (answer->typeId() == QMetaType::QVariantMap && request.resultForScan)
-            result = request.resultForScan(answer->toMap().value(QStringLiteral("scan")).toString());
+            result
+                = request.resultForScan(answer->toMap().value(QStringLiteral("scan")).toString());
         else if (request.resultForKey)
             result = request.resultForKey(answer->toString());
         if (result != 0)
@@ -86,12 +97,9 @@ int RecordingPlatform::messageBoxE(const MessageBoxERequest &request)
 {
     const int answer = messageBoxEAnswer(request);
     record({ { QStringLiteral("kind"), QStringLiteral("MsgBoxE") },
-             { QStringLiteral("prompt"), request.prompt },
-             { QStringLiteral("buttons"), request.style },
-             { QStringLiteral("title"), request.title },
-             { QStringLiteral("caption"), request.caption },
-             { QStringLiteral("type"), request.typeName },
-             { QStringLiteral("answer"), answer } });
+        { QStringLiteral("prompt"), request.prompt }, { QStringLiteral("buttons"), request.style },
+        { QStringLiteral("title"), request.title }, { QStringLiteral("caption"), request.caption },
+        { QStringLiteral("type"), request.typeName }, { QStringLiteral("answer"), answer } });
     return answer;
 }
 
@@ -100,10 +108,8 @@ int RecordingPlatform::systemMessageBox(const SystemMessageBoxRequest &request)
     const auto scripted = takeAnswer();
     const int answer = scripted && isNumber(*scripted) ? scripted->toInt() : 1;
     record({ { QStringLiteral("kind"), QStringLiteral("MsgBox") },
-             { QStringLiteral("prompt"), request.prompt },
-             { QStringLiteral("buttons"), request.style },
-             { QStringLiteral("title"), request.title },
-             { QStringLiteral("answer"), answer } });
+        { QStringLiteral("prompt"), request.prompt }, { QStringLiteral("buttons"), request.style },
+        { QStringLiteral("title"), request.title }, { QStringLiteral("answer"), answer } });
     return answer;
 }
 
@@ -120,13 +126,12 @@ InputBoxEAnswer RecordingPlatform::inputBoxE(const InputBoxERequest &request)
     if (request.maxLength > 0 && answer.text.size() > request.maxLength)
         answer.text.truncate(request.maxLength);
     QVariantMap event { { QStringLiteral("kind"), QStringLiteral("InputBoxE") },
-                        { QStringLiteral("prompt"), request.prompt },
-                        { QStringLiteral("title"), request.title },
-                        { QStringLiteral("default"), request.defaultValue },
-                        { QStringLiteral("maxLength"), request.maxLength } };
+        { QStringLiteral("prompt"), request.prompt }, { QStringLiteral("title"), request.title },
+        { QStringLiteral("default"), request.defaultValue },
+        { QStringLiteral("maxLength"), request.maxLength } };
     event.insert(QStringLiteral("answer"),
-                 answer.cancelled ? QVariant(QVariantMap { { QStringLiteral("cancel"), true } })
-                                  : QVariant(answer.text));
+        answer.cancelled ? QVariant(QVariantMap { { QStringLiteral("cancel"), true } })
+                         : QVariant(answer.text));
     record(event);
     return answer;
 }
@@ -141,28 +146,31 @@ CalculatorAnswer RecordingPlatform::calculator(const CalculatorRequest &request)
             answer.result = scripted->toDouble();
     }
     record({ { QStringLiteral("kind"), QStringLiteral("Calculator") },
-             { QStringLiteral("start"), request.start },
-             { QStringLiteral("answer"),
-               answer.cancelled ? QVariant(QVariantMap { { QStringLiteral("cancel"), true } })
-                                : QVariant(answer.result) } });
+        { QStringLiteral("start"), request.start },
+        { QStringLiteral("answer"),
+            answer.cancelled ? QVariant(QVariantMap { { QStringLiteral("cancel"), true } })
+                             : QVariant(answer.result) } });
     return answer;
 }
 
 void RecordingPlatform::showNote(const QString &text)
 {
-    record({ { QStringLiteral("kind"), QStringLiteral("Note") }, { QStringLiteral("text"), text } });
+    record(
+        { { QStringLiteral("kind"), QStringLiteral("Note") }, { QStringLiteral("text"), text } });
 }
 
-void RecordingPlatform::beep() { record({ { QStringLiteral("kind"), QStringLiteral("beep") } }); }
+void RecordingPlatform::beep()
+{
+    record({ { QStringLiteral("kind"), QStringLiteral("beep") } });
+}
 
 // No events are pending in a recorded session; running them could re-enter the caller.
 void RecordingPlatform::processEvents() { }
 
 void RecordingPlatform::playSound(const QString &file, bool continuous)
 {
-    record({ { QStringLiteral("kind"), QStringLiteral("sound") },
-             { QStringLiteral("file"), file },
-             { QStringLiteral("continuous"), continuous } });
+    record({ { QStringLiteral("kind"), QStringLiteral("sound") }, { QStringLiteral("file"), file },
+        { QStringLiteral("continuous"), continuous } });
     if (m_play)
         m_play(file, continuous);
 }
@@ -177,8 +185,8 @@ void RecordingPlatform::stopSound()
 qint64 RecordingPlatform::startProcess(const QString &commandLine, int windowStyle)
 {
     m_actions.append(QVariantMap { { QStringLiteral("kind"), QStringLiteral("startProcess") },
-                                   { QStringLiteral("commandLine"), commandLine },
-                                   { QStringLiteral("windowStyle"), windowStyle } });
+        { QStringLiteral("commandLine"), commandLine },
+        { QStringLiteral("windowStyle"), windowStyle } });
     return CorePlatform::startProcess(commandLine, windowStyle);
 }
 
@@ -188,20 +196,22 @@ void RecordingPlatform::shutDown()
     m_actions.append(QVariantMap { { QStringLiteral("kind"), QStringLiteral("shutDown") } });
 }
 
-ScreenInfo RecordingPlatform::screen() const { return m_screen; }
+ScreenInfo RecordingPlatform::screen() const
+{
+    return m_screen;
+}
 
 void RecordingPlatform::setMousePointer(int pointer)
 {
     m_actions.append(QVariantMap { { QStringLiteral("kind"), QStringLiteral("mousePointer") },
-                                   { QStringLiteral("pointer"), pointer } });
+        { QStringLiteral("pointer"), pointer } });
 }
 
 void RecordingPlatform::keyEvent(int virtualKey, int scanCode, int flags)
 {
     m_actions.append(QVariantMap { { QStringLiteral("kind"), QStringLiteral("key") },
-                                   { QStringLiteral("virtualKey"), virtualKey },
-                                   { QStringLiteral("scanCode"), scanCode },
-                                   { QStringLiteral("flags"), flags } });
+        { QStringLiteral("virtualKey"), virtualKey }, { QStringLiteral("scanCode"), scanCode },
+        { QStringLiteral("flags"), flags } });
 }
 
 } // namespace qor

@@ -28,8 +28,8 @@ public:
     void setNow(const QDateTime &now); // an invalid value follows the real clock
     void setLocale(const QString &name);
     void setScreen(const ScreenInfo &screen);
-    void setSoundPlayback(std::function<void(const QString &file, bool continuous)> play,
-                          std::function<void()> stop);
+    void setSoundPlayback(
+        std::function<void(const QString &file, bool continuous)> play, std::function<void()> stop);
 
     // The dialog script.
     void setAnswers(const QVariantList &answers);

@@ -61,10 +61,12 @@ void setProperty(QObject *object, const char *name, const QVariant &value)
     if (index >= 0) {
         QVariant converted = value;
         const QMetaProperty property = meta->property(index);
-        if (property.metaType().id() != QMetaType::QVariant && !converted.convert(property.metaType()))
+        if (property.metaType().id() != QMetaType::QVariant
+            && !converted.convert(property.metaType()))
             throw RuntimeError::typeMismatch();
         if (!property.write(object, converted))
-            throw RuntimeError(383, QStringLiteral("'%1' property is read-only").arg(QLatin1String(name)));
+            throw RuntimeError(
+                383, QStringLiteral("'%1' property is read-only").arg(QLatin1String(name)));
         return;
     }
     object->setProperty(resolved.constData(), value);
@@ -75,20 +77,23 @@ QVariant callOperation(QObject *object, const char *name, const QVariantList &ar
     const QMetaObject *meta = requireObject(object)->metaObject();
     for (int i = meta->methodCount() - 1; i >= 0; --i) {
         const QMetaMethod method = meta->method(i);
-        if (qstricmp(method.name().constData(), name) != 0 || method.parameterCount() != args.size())
+        if (qstricmp(method.name().constData(), name) != 0
+            || method.parameterCount() != args.size())
             continue;
         QVariantList converted = args;
         QGenericArgument generic[4];
         for (int a = 0; a < args.size() && a < 4; ++a) {
             if (!converted[a].convert(method.parameterMetaType(a)))
                 throw RuntimeError::typeMismatch();
-            generic[a] = QGenericArgument(method.parameterTypeName(a).constData(), converted[a].constData());
+            generic[a] = QGenericArgument(
+                method.parameterTypeName(a).constData(), converted[a].constData());
         }
         QVariant result(method.returnMetaType(), nullptr);
         QGenericReturnArgument ret;
         if (method.returnMetaType().id() != QMetaType::Void)
             ret = QGenericReturnArgument(method.typeName(), result.data());
-        if (!method.invoke(object, Qt::DirectConnection, ret, generic[0], generic[1], generic[2], generic[3]))
+        if (!method.invoke(
+                object, Qt::DirectConnection, ret, generic[0], generic[1], generic[2], generic[3]))
             throw RuntimeError::notSupportedByObject();
         return method.returnMetaType().id() == QMetaType::Void ? QVariant() : result;
     }

@@ -49,8 +49,7 @@ RegionalSettings RegionalSettings::fromLocale(const QString &name)
     // A no-break space as grouping would never match what people type.
     if (rs.groupSeparator == QChar(0x00A0) || rs.groupSeparator == QChar(0x202F))
         rs.groupSeparator = QLatin1Char(' ');
-    rs.shortDatePattern
-        = withFourDigitYear(locale.dateFormat(QLocale::ShortFormat));
+    rs.shortDatePattern = withFourDigitYear(locale.dateFormat(QLocale::ShortFormat));
     rs.dateSeparator = firstSeparator(rs.shortDatePattern, QStringLiteral("dMy"), QLatin1Char('/'));
     rs.timeSeparator = firstSeparator(
         locale.timeFormat(QLocale::ShortFormat), QStringLiteral("hHmsaApP"), QLatin1Char(':'));

@@ -6,8 +6,7 @@ RuntimeError::RuntimeError(int number, const QString &description)
     : m_number(number)
     , m_description(description.isEmpty() ? classicDescription(number) : description)
     , m_what(QStringLiteral("Run-time error %1: %2").arg(number).arg(m_description).toUtf8())
-{
-}
+{ }
 
 QString RuntimeError::classicDescription(int number)
 {
@@ -32,14 +31,41 @@ QString RuntimeError::classicDescription(int number)
     }
 }
 
-RuntimeError RuntimeError::invalidProcedureCall() { return RuntimeError(5); }
-RuntimeError RuntimeError::overflow() { return RuntimeError(6); }
-RuntimeError RuntimeError::subscriptOutOfRange() { return RuntimeError(9); }
-RuntimeError RuntimeError::divisionByZero() { return RuntimeError(11); }
-RuntimeError RuntimeError::typeMismatch() { return RuntimeError(13); }
-RuntimeError RuntimeError::invalidUseOfNull() { return RuntimeError(94); }
-RuntimeError RuntimeError::objectRequired() { return RuntimeError(424); }
-RuntimeError RuntimeError::notSupportedByObject() { return RuntimeError(438); }
-RuntimeError RuntimeError::wrongArgumentCount() { return RuntimeError(450); }
+RuntimeError RuntimeError::invalidProcedureCall()
+{
+    return RuntimeError(5);
+}
+RuntimeError RuntimeError::overflow()
+{
+    return RuntimeError(6);
+}
+RuntimeError RuntimeError::subscriptOutOfRange()
+{
+    return RuntimeError(9);
+}
+RuntimeError RuntimeError::divisionByZero()
+{
+    return RuntimeError(11);
+}
+RuntimeError RuntimeError::typeMismatch()
+{
+    return RuntimeError(13);
+}
+RuntimeError RuntimeError::invalidUseOfNull()
+{
+    return RuntimeError(94);
+}
+RuntimeError RuntimeError::objectRequired()
+{
+    return RuntimeError(424);
+}
+RuntimeError RuntimeError::notSupportedByObject()
+{
+    return RuntimeError(438);
+}
+RuntimeError RuntimeError::wrongArgumentCount()
+{
+    return RuntimeError(450);
+}
 
 } // namespace qor

@@ -5,12 +5,30 @@
 
 namespace qor {
 
-QVariant emptyVariant() { return QVariant(); }
-QVariant nullVariant() { return QVariant::fromValue(nullptr); }
-bool isEmpty(const QVariant &v) { return !v.isValid(); }
-bool isNull(const QVariant &v) { return v.isValid() && v.typeId() == QMetaType::Nullptr; }
-bool isObject(const QVariant &v) { return varType(v) == VarType::Object; }
-bool isArray(const QVariant &v) { return varType(v) == VarType::Array; }
+QVariant emptyVariant()
+{
+    return QVariant();
+}
+QVariant nullVariant()
+{
+    return QVariant::fromValue(nullptr);
+}
+bool isEmpty(const QVariant &v)
+{
+    return !v.isValid();
+}
+bool isNull(const QVariant &v)
+{
+    return v.isValid() && v.typeId() == QMetaType::Nullptr;
+}
+bool isObject(const QVariant &v)
+{
+    return varType(v) == VarType::Object;
+}
+bool isArray(const QVariant &v)
+{
+    return varType(v) == VarType::Array;
+}
 
 VarType varType(const QVariant &v)
 {
@@ -41,8 +59,7 @@ VarType varType(const QVariant &v)
     case QMetaType::QVariantList:
     case QMetaType::QStringList: return VarType::Array;
     case QMetaType::QObjectStar: return VarType::Object;
-    default:
-        break;
+    default: break;
     }
     if (v.metaType().flags() & QMetaType::PointerToQObject)
         return VarType::Object;
@@ -71,17 +88,35 @@ QString varTypeName(VarType t)
     return QStringLiteral("Empty");
 }
 
-QString varTypeName(const QVariant &v) { return varTypeName(varType(v)); }
+QString varTypeName(const QVariant &v)
+{
+    return varTypeName(varType(v));
+}
 
-QVariant integerVariant(qint16 v) { return QVariant::fromValue<short>(v); }
-QVariant longVariant(qint32 v) { return QVariant::fromValue<int>(v); }
-QVariant doubleVariant(double v) { return QVariant::fromValue<double>(v); }
+QVariant integerVariant(qint16 v)
+{
+    return QVariant::fromValue<short>(v);
+}
+QVariant longVariant(qint32 v)
+{
+    return QVariant::fromValue<int>(v);
+}
+QVariant doubleVariant(double v)
+{
+    return QVariant::fromValue<double>(v);
+}
 
 } // namespace qor
 
 namespace qor {
 
-QVariant missingVariant() { return QVariant::fromValue(MissingArgument()); }
-bool isMissing(const QVariant &v) { return v.metaType() == QMetaType::fromType<MissingArgument>(); }
+QVariant missingVariant()
+{
+    return QVariant::fromValue(MissingArgument());
+}
+bool isMissing(const QVariant &v)
+{
+    return v.metaType() == QMetaType::fromType<MissingArgument>();
+}
 
 } // namespace qor

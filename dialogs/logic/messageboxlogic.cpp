@@ -48,20 +48,24 @@ Type typeOf(int style)
 
 QString typeName(Type type)
 {
-    static const char *names[] = { "Critical", "Exclamation", "Information", "Question", "Message" };
+    static const char *names[]
+        = { "Critical", "Exclamation", "Information", "Question", "Message" };
     return QString::fromLatin1(names[type]);
 }
 
-QString soundFileOf(Type type) { return typeName(type) + QStringLiteral(".wav"); }
+QString soundFileOf(Type type)
+{
+    return typeName(type) + QStringLiteral(".wav");
+}
 
 QList<DialogButton> buttonsOf(int style)
 {
     if (style & 4)
         return { { QStringLiteral("cmdYes"), loadCatalogueText(1028), resultYes },
-                 { QStringLiteral("cmdNo"), loadCatalogueText(1029), resultNo } };
+            { QStringLiteral("cmdNo"), loadCatalogueText(1029), resultNo } };
     if (style & 1)
         return { { QStringLiteral("cmdOK"), QStringLiteral("OK"), resultOK },
-                 { QStringLiteral("cmdCancel"), loadCatalogueText(9500), resultCancel } };
+            { QStringLiteral("cmdCancel"), loadCatalogueText(9500), resultCancel } };
     return { { QStringLiteral("cmdOK"), QStringLiteral("OK"), resultOK } };
 }
 
@@ -70,7 +74,8 @@ int resultForKey(const QList<DialogButton> &buttons, const QString &key)
     const QString upper = key.toUpper();
     if (upper == QLatin1String("ENTER") || upper == QLatin1String("\r"))
         return firstVisible(buttons, { resultYes, resultOK });
-    if (upper == QLatin1String("ESCAPE") || upper == QLatin1String("ESC") || upper == QLatin1String("\x1b"))
+    if (upper == QLatin1String("ESCAPE") || upper == QLatin1String("ESC")
+        || upper == QLatin1String("\x1b"))
         return firstVisible(buttons, { resultNo, resultCancel, resultOK });
     if (upper == QLatin1String("A") || upper == QLatin1String("C"))
         return resultOf(buttons, resultCancel);

@@ -23,11 +23,16 @@ QLineEdit *require(const QPointer<QLineEdit> &field)
 LineEditAdapter::LineEditAdapter(QLineEdit *field, QObject *parent)
     : QObject(parent)
     , m_field(field)
-{
-}
+{ }
 
-QString LineEditAdapter::text() const { return require(m_field)->text(); }
-void LineEditAdapter::setText(const QString &text) { require(m_field)->setText(text); }
+QString LineEditAdapter::text() const
+{
+    return require(m_field)->text();
+}
+void LineEditAdapter::setText(const QString &text)
+{
+    require(m_field)->setText(text);
+}
 
 int LineEditAdapter::selStart() const
 {
@@ -41,7 +46,10 @@ void LineEditAdapter::setSelStart(int start)
     field->setCursorPosition(qBound(0, start, int(field->text().size())));
 }
 
-int LineEditAdapter::selLength() const { return int(require(m_field)->selectedText().size()); }
+int LineEditAdapter::selLength() const
+{
+    return int(require(m_field)->selectedText().size());
+}
 
 void LineEditAdapter::setSelLength(int length)
 {
@@ -60,17 +68,53 @@ int LineEditAdapter::maxLength() const
     return length >= unlimited ? 0 : length;
 }
 
-void LineEditAdapter::setMaxLength(int length) { require(m_field)->setMaxLength(length <= 0 ? unlimited : length); }
-bool LineEditAdapter::enabled() const { return require(m_field)->isEnabled(); }
-void LineEditAdapter::setEnabled(bool enabled) { require(m_field)->setEnabled(enabled); }
-int LineEditAdapter::left() const { return require(m_field)->x(); }
-void LineEditAdapter::setLeft(int left) { require(m_field)->move(left, top()); }
-int LineEditAdapter::top() const { return require(m_field)->y(); }
-void LineEditAdapter::setTop(int top) { require(m_field)->move(left(), top); }
-int LineEditAdapter::width() const { return require(m_field)->width(); }
-void LineEditAdapter::setWidth(int width) { require(m_field)->resize(width, height()); }
-int LineEditAdapter::height() const { return require(m_field)->height(); }
-void LineEditAdapter::setHeight(int height) { require(m_field)->resize(width(), height); }
-void LineEditAdapter::SetFocus() { require(m_field)->setFocus(); }
+void LineEditAdapter::setMaxLength(int length)
+{
+    require(m_field)->setMaxLength(length <= 0 ? unlimited : length);
+}
+bool LineEditAdapter::enabled() const
+{
+    return require(m_field)->isEnabled();
+}
+void LineEditAdapter::setEnabled(bool enabled)
+{
+    require(m_field)->setEnabled(enabled);
+}
+int LineEditAdapter::left() const
+{
+    return require(m_field)->x();
+}
+void LineEditAdapter::setLeft(int left)
+{
+    require(m_field)->move(left, top());
+}
+int LineEditAdapter::top() const
+{
+    return require(m_field)->y();
+}
+void LineEditAdapter::setTop(int top)
+{
+    require(m_field)->move(left(), top);
+}
+int LineEditAdapter::width() const
+{
+    return require(m_field)->width();
+}
+void LineEditAdapter::setWidth(int width)
+{
+    require(m_field)->resize(width, height());
+}
+int LineEditAdapter::height() const
+{
+    return require(m_field)->height();
+}
+void LineEditAdapter::setHeight(int height)
+{
+    require(m_field)->resize(width(), height);
+}
+void LineEditAdapter::SetFocus()
+{
+    require(m_field)->setFocus();
+}
 
 } // namespace qor

@@ -16,14 +16,16 @@ InputBoxDialog::InputBoxDialog(const InputBoxERequest &request, QWidget *parent)
     setObjectName(QStringLiteral("frmInputBoxE"));
     setWindowTitle(request.caption);
     setModal(true);
-    auto *label = new QLabel(QString(request.prompt).replace(QLatin1Char('\r'), QLatin1Char('\n')), this);
+    auto *label
+        = new QLabel(QString(request.prompt).replace(QLatin1Char('\r'), QLatin1Char('\n')), this);
     label->setObjectName(QStringLiteral("Label"));
     label->setWordWrap(true);
     m_text->setObjectName(QStringLiteral("Text"));
     if (request.maxLength > 0)
         m_text->setMaxLength(request.maxLength);
     m_text->setText(request.defaultValue);
-    auto *ok = new QPushButton(request.okCaption.isEmpty() ? QStringLiteral("OK") : request.okCaption, this);
+    auto *ok = new QPushButton(
+        request.okCaption.isEmpty() ? QStringLiteral("OK") : request.okCaption, this);
     ok->setObjectName(QStringLiteral("cmdOK"));
     auto *cancel = new QPushButton(request.cancelCaption, this);
     cancel->setObjectName(QStringLiteral("cmdCancel"));
@@ -62,11 +64,8 @@ void InputBoxDialog::keyPressEvent(QKeyEvent *event)
         m_cancelled = false;
         accept();
         break;
-    case Qt::Key_Escape:
-        reject();
-        break;
-    default:
-        QDialog::keyPressEvent(event);
+    case Qt::Key_Escape: reject(); break;
+    default: QDialog::keyPressEvent(event);
     }
 }
 

@@ -43,7 +43,8 @@ MessageBoxDialog::MessageBoxDialog(const MessageBoxERequest &request, QWidget *p
     auto *icon = new QLabel(this);
     icon->setObjectName(QStringLiteral("Img"));
     icon->setPixmap(style()->standardIcon(iconOf(request.type)).pixmap(32, 32));
-    auto *label = new QLabel(QString(request.prompt).replace(QLatin1Char('\r'), QLatin1Char('\n')), this);
+    auto *label
+        = new QLabel(QString(request.prompt).replace(QLatin1Char('\r'), QLatin1Char('\n')), this);
     label->setObjectName(QStringLiteral("Label"));
     label->setWordWrap(true);
     auto *top = new QHBoxLayout;

@@ -39,7 +39,8 @@ QList<QPair<QMessageBox::StandardButton, int>> buttonsOf(int style)
 {
     switch (style & 7) {
     case 1: return { { QMessageBox::Ok, 1 }, { QMessageBox::Cancel, 2 } };
-    case 2: return { { QMessageBox::Abort, 3 }, { QMessageBox::Retry, 4 }, { QMessageBox::Ignore, 5 } };
+    case 2:
+        return { { QMessageBox::Abort, 3 }, { QMessageBox::Retry, 4 }, { QMessageBox::Ignore, 5 } };
     case 3: return { { QMessageBox::Yes, 6 }, { QMessageBox::No, 7 }, { QMessageBox::Cancel, 2 } };
     case 4: return { { QMessageBox::Yes, 6 }, { QMessageBox::No, 7 } };
     case 5: return { { QMessageBox::Retry, 4 }, { QMessageBox::Cancel, 2 } };
@@ -72,8 +73,7 @@ int qtKeyOf(int virtualKey, const QString &text)
 
 QtPlatform::QtPlatform()
     : d(std::make_unique<Private>())
-{
-}
+{ }
 
 QtPlatform::~QtPlatform() = default;
 
@@ -91,8 +91,8 @@ int QtPlatform::messageBoxE(const MessageBoxERequest &request)
 int QtPlatform::systemMessageBox(const SystemMessageBoxRequest &request)
 {
     QMessageBox box(iconOf(request.style), request.title,
-                    QString(request.prompt).replace(QLatin1Char('\r'), QLatin1Char('\n')), QMessageBox::NoButton,
-                    QApplication::activeWindow());
+        QString(request.prompt).replace(QLatin1Char('\r'), QLatin1Char('\n')),
+        QMessageBox::NoButton, QApplication::activeWindow());
     const auto buttons = buttonsOf(request.style);
     for (const auto &button : buttons)
         box.addButton(button.first);
@@ -111,9 +111,15 @@ InputBoxEAnswer QtPlatform::inputBoxE(const InputBoxERequest &request)
     return dialog.answer();
 }
 
-void QtPlatform::beep() { QApplication::beep(); }
+void QtPlatform::beep()
+{
+    QApplication::beep();
+}
 
-void QtPlatform::processEvents() { QApplication::processEvents(); }
+void QtPlatform::processEvents()
+{
+    QApplication::processEvents();
+}
 
 void QtPlatform::playSound(const QString &file, bool continuous)
 {
@@ -144,13 +150,17 @@ ScreenInfo QtPlatform::screen() const
     // What the desktop keeps for itself along one edge is taken as the task bar.
     if (available != full) {
         if (available.top() > full.top())
-            info.taskbar = QRect(full.left(), full.top(), full.width(), available.top() - full.top());
+            info.taskbar
+                = QRect(full.left(), full.top(), full.width(), available.top() - full.top());
         else if (available.bottom() < full.bottom())
-            info.taskbar = QRect(full.left(), available.bottom() + 1, full.width(), full.bottom() - available.bottom());
+            info.taskbar = QRect(full.left(), available.bottom() + 1, full.width(),
+                full.bottom() - available.bottom());
         else if (available.left() > full.left())
-            info.taskbar = QRect(full.left(), full.top(), available.left() - full.left(), full.height());
+            info.taskbar
+                = QRect(full.left(), full.top(), available.left() - full.left(), full.height());
         else
-            info.taskbar = QRect(available.right() + 1, full.top(), full.right() - available.right(), full.height());
+            info.taskbar = QRect(
+                available.right() + 1, full.top(), full.right() - available.right(), full.height());
     }
     info.cursor = QCursor::pos(const_cast<QScreen *>(screen));
     return info;
@@ -176,8 +186,8 @@ void QtPlatform::keyEvent(int virtualKey, int scanCode, int flags)
         return;
     const QString text = plainTextOf(virtualKey);
     const bool up = flags & 2;
-    auto *event = new QKeyEvent(up ? QEvent::KeyRelease : QEvent::KeyPress, qtKeyOf(virtualKey, text),
-                                Qt::NoModifier, quint32(scanCode), quint32(virtualKey), 0, text);
+    auto *event = new QKeyEvent(up ? QEvent::KeyRelease : QEvent::KeyPress,
+        qtKeyOf(virtualKey, text), Qt::NoModifier, quint32(scanCode), quint32(virtualKey), 0, text);
     QCoreApplication::postEvent(target, event);
 }
 

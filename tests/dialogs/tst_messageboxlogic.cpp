@@ -39,20 +39,26 @@ private slots:
         QTest::addColumn<QStringList>("captions");
         QTest::addColumn<QString>("caption");
         QTest::newRow("plain") << 0 << "Message" << QStringList { "OK" } << "Bericht :";
-        QTest::newRow("question yes no") << 36 << "Question" << QStringList { "Ja", "Nee" } << "Vraag ?";
-        QTest::newRow("critical ok cancel") << 17 << "Critical" << QStringList { "OK", "Annuleren" } << "Fout !";
+        QTest::newRow("question yes no")
+            << 36 << "Question" << QStringList { "Ja", "Nee" } << "Vraag ?";
+        QTest::newRow("critical ok cancel")
+            << 17 << "Critical" << QStringList { "OK", "Annuleren" } << "Fout !";
         QTest::newRow("exclamation") << 48 << "Exclamation" << QStringList { "OK" } << "Opgelet !";
         QTest::newRow("information") << 64 << "Information" << QStringList { "OK" } << "Ter Info :";
-        QTest::newRow("critical wins over information") << 80 << "Critical" << QStringList { "OK" } << "Fout !";
-        QTest::newRow("yes no cancel shows ok cancel") << 3 << "Message" << QStringList { "OK", "Annuleren" }
-                                                       << "Bericht :";
-        QTest::newRow("retry cancel shows yes no") << 5 << "Message" << QStringList { "Ja", "Nee" } << "Bericht :";
-        QTest::newRow("abort retry ignore shows ok") << 2 << "Message" << QStringList { "OK" } << "Bericht :";
+        QTest::newRow("critical wins over information")
+            << 80 << "Critical" << QStringList { "OK" } << "Fout !";
+        QTest::newRow("yes no cancel shows ok cancel")
+            << 3 << "Message" << QStringList { "OK", "Annuleren" } << "Bericht :";
+        QTest::newRow("retry cancel shows yes no")
+            << 5 << "Message" << QStringList { "Ja", "Nee" } << "Bericht :";
+        QTest::newRow("abort retry ignore shows ok")
+            << 2 << "Message" << QStringList { "OK" } << "Bericht :";
     }
     void styleChoosesTypeAndButtons()
     {
         QFETCH(int, style);
-        const MessageBoxERequest request = MessageBoxLogic::prepare(QStringLiteral("p"), style, QStringLiteral("   "));
+        const MessageBoxERequest request
+            = MessageBoxLogic::prepare(QStringLiteral("p"), style, QStringLiteral("   "));
         QTEST(request.typeName, "type");
         QTEST(captionsOf(request.buttons), "captions");
         QTEST(request.caption, "caption");
@@ -102,14 +108,16 @@ private slots:
     {
         QFETCH(int, style);
         QFETCH(QString, scan);
-        const MessageBoxERequest request = MessageBoxLogic::prepare(QStringLiteral("p"), style, QString());
+        const MessageBoxERequest request
+            = MessageBoxLogic::prepare(QStringLiteral("p"), style, QString());
         QTEST(request.resultForScan(scan), "result");
     }
 
     void frenchCaptions()
     {
         modGenLib().languageOffset = 10000;
-        const MessageBoxERequest request = MessageBoxLogic::prepare(QStringLiteral("p"), 4 + 16, QString());
+        const MessageBoxERequest request
+            = MessageBoxLogic::prepare(QStringLiteral("p"), 4 + 16, QString());
         QCOMPARE(captionsOf(request.buttons), (QStringList { "Oui", "Non" }));
         QCOMPARE(request.caption, QStringLiteral("Erreur !"));
     }
@@ -117,14 +125,16 @@ private slots:
     void missingTitleTextShowsItsMarker()
     {
         modGenLib().languageOffset = 30000;
-        const MessageBoxERequest request = MessageBoxLogic::prepare(QStringLiteral("p"), 48, QString());
+        const MessageBoxERequest request
+            = MessageBoxLogic::prepare(QStringLiteral("p"), 48, QString());
         QCOMPARE(request.caption, QStringLiteral(" [LL 31032 ?] "));
     }
 
     void shownThroughThePlatformAndKept()
     {
         machine->setAnswers({ QStringLiteral("X"), QStringLiteral("N") });
-        QCOMPARE(showMessageBoxE(QStringLiteral("Doorgaan ?"), 36, QStringLiteral("Mijn titel")), 7);
+        QCOMPARE(
+            showMessageBoxE(QStringLiteral("Doorgaan ?"), 36, QStringLiteral("Mijn titel")), 7);
         QCOMPARE(modGenLib().msgBoxResult, 7);
         const QVariantMap shown = machine->shown().at(0).toMap();
         QCOMPARE(shown.value("kind").toString(), QStringLiteral("MsgBoxE"));

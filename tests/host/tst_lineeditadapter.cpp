@@ -30,7 +30,8 @@ private slots:
         field.setCursorPosition(2);
         LineEditAdapter adapter(&field);
         clsqorGenLib lib;
-        lib.Invoke(QStringLiteral("SelEdit"), { QVariant::fromValue<QObject *>(&adapter), startAtEnd });
+        lib.Invoke(
+            QStringLiteral("SelEdit"), { QVariant::fromValue<QObject *>(&adapter), startAtEnd });
         QTEST(field.selectedText(), "selected");
         QTEST(field.cursorPosition(), "cursor");
     }

@@ -52,8 +52,8 @@ private slots:
         QFETCH(bool, grid);
         QFETCH(QString, text);
         QFETCH(bool, startAtEnd);
-        auto editor = grid ? control({ { "EditText", text }, { "EditSelStart", 9 }, { "EditSelLength", 9 },
-                                       { "Text", QStringLiteral("other") } })
+        auto editor = grid ? control({ { "EditText", text }, { "EditSelStart", 9 },
+                          { "EditSelLength", 9 }, { "Text", QStringLiteral("other") } })
                            : control({ { "Text", text }, { "SelStart", 9 }, { "SelLength", 9 } });
         clsqorGenLib lib;
         lib.SelEdit(editor.get(), startAtEnd, grid);
@@ -72,7 +72,8 @@ private slots:
             QCOMPARE(error.number(), 438);
         }
         // The edit-control names do not serve a grid editor.
-        auto edit = control({ { "Text", QStringLiteral("x") }, { "SelStart", 0 }, { "SelLength", 0 } });
+        auto edit
+            = control({ { "Text", QStringLiteral("x") }, { "SelStart", 0 }, { "SelLength", 0 } });
         QVERIFY_THROWS_EXCEPTION(RuntimeError, lib.SelEdit(edit.get(), false, true));
     }
 

@@ -56,7 +56,8 @@ private slots:
         clsqorGenLib lib;
         QObject form;
         lib.setProperty("FlowCTL", QVariant::fromValue<QObject *>(&form));
-        lib.setProperty("HoldSysData", QVariant::fromValue(QVariantList { 1, QStringLiteral("x") }));
+        lib.setProperty(
+            "HoldSysData", QVariant::fromValue(QVariantList { 1, QStringLiteral("x") }));
         lib.setProperty("HoldErr", 53);
         lib.setProperty("HoldErrDes", QStringLiteral("File not found"));
         QCOMPARE(lib.property("FlowCTL").value<QObject *>(), &form);

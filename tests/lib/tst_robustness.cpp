@@ -63,7 +63,8 @@ private slots:
         for (const MethodInfo &method : clsqorGenLib::typeLibrary().methods()) {
             for (int p = 0; p < method.parameters.size(); ++p) {
                 for (const auto &[name, value] : oddValues()) {
-                    const QString row = method.name + QLatin1Char('.') + method.parameters[p].name + QLatin1Char(' ') + name;
+                    const QString row = method.name + QLatin1Char('.') + method.parameters[p].name
+                        + QLatin1Char(' ') + name;
                     QTest::newRow(qPrintable(row)) << method.name << p << value;
                 }
             }

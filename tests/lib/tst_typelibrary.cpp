@@ -7,7 +7,10 @@ using namespace qor;
 
 namespace {
 
-const TypeLibrary &library() { return clsqorGenLib::typeLibrary(); }
+const TypeLibrary &library()
+{
+    return clsqorGenLib::typeLibrary();
+}
 
 QStringList memberNames(const QString &enumName)
 {
@@ -31,16 +34,18 @@ private slots:
         QTest::addColumn<QString>("enumName");
         QTest::addColumn<QStringList>("members");
         QTest::newRow("sort order") << "OstSortOrder"
-                                    << QStringList { "soNumeric", "soNumericRev", "soAlphabetic", "soAlphabeticRev",
-                                                     "soLength", "soLengthRev" };
+                                    << QStringList { "soNumeric", "soNumericRev", "soAlphabetic",
+                                           "soAlphabeticRev", "soLength", "soLengthRev" };
         QTest::newRow("symbol with the euro sign")
-            << "OstSymbolType" << QStringList { "vbSymbolNone", "vbSymbolEUR", QStringLiteral("vbSymbol\u20AC") };
+            << "OstSymbolType"
+            << QStringList { "vbSymbolNone", "vbSymbolEUR", QStringLiteral("vbSymbol\u20AC") };
         QTest::newRow("duplicate value zero")
             << "OstSpecificIcon"
-            << QStringList { "spiDefault", "spiDis", "spiGrey", "spiMove", "spiDisMini", "spiGreyMini", "spiMoveMini" };
+            << QStringList { "spiDefault", "spiDis", "spiGrey", "spiMove", "spiDisMini",
+                   "spiGreyMini", "spiMoveMini" };
         QTest::newRow("negative first") << "NotFoundIndexType"
-                                        << QStringList { "SetListIndexMinusOne", "SetListIndexLineZero",
-                                                         "SetListIndexUnchanged" };
+                                        << QStringList { "SetListIndexMinusOne",
+                                               "SetListIndexLineZero", "SetListIndexUnchanged" };
         QTest::newRow("spin keys") << "SpinUpDown" << QStringList { "SpinUp", "SpinDown" };
     }
     void enumerationsInDeclarationOrder()
@@ -61,7 +66,8 @@ private slots:
         QTest::newRow("minus one") << "SetListIndexMinusOne" << -1;
         QTest::newRow("unchanged is 99") << "SetListIndexUnchanged" << 99;
         QTest::newRow("open item credit") << "btOpenStaandCredit" << 199;
-        QTest::newRow("direct debit with diaeresis") << QStringLiteral("btDomicili\u00EBring") << 10;
+        QTest::newRow("direct debit with diaeresis")
+            << QStringLiteral("btDomicili\u00EBring") << 10;
         QTest::newRow("direct debit credit") << QStringLiteral("btDomicili\u00EBringCredit") << 110;
         QTest::newRow("euro symbol") << QStringLiteral("vbSymbol\u20AC") << 2;
         QTest::newRow("last icon") << "iccMapQOR" << 254;
@@ -78,12 +84,11 @@ private slots:
 
     void everyEnumerationIsPublished()
     {
-        const QStringList expected { "OstEenheid", "TranslateEnum", "NotFoundIndexType", "OstSortOrder",
-                                     "OstBetalingswijze", "OstSpecificIcon", "OstPrintStyles", "OstPrFormat",
-                                     "OstLogoLayout", "OstLabelForm", "OstLabelOrient", "OstLabelStyle",
-                                     "OstLabelFontSize", "OstLabelFormat", "OstDisplayLine", "OstDisplayClose",
-                                     "FactGroupMode", "ModuleCol", "OstSymbolType", "OstColors", "SpinUpDown",
-                                     "IconList" };
+        const QStringList expected { "OstEenheid", "TranslateEnum", "NotFoundIndexType",
+            "OstSortOrder", "OstBetalingswijze", "OstSpecificIcon", "OstPrintStyles", "OstPrFormat",
+            "OstLogoLayout", "OstLabelForm", "OstLabelOrient", "OstLabelStyle", "OstLabelFontSize",
+            "OstLabelFormat", "OstDisplayLine", "OstDisplayClose", "FactGroupMode", "ModuleCol",
+            "OstSymbolType", "OstColors", "SpinUpDown", "IconList" };
         QStringList names;
         for (const auto &info : library().enumerations())
             names << info.name;
@@ -126,12 +131,12 @@ private slots:
         for (const auto &property : library().properties())
             names << property.name + QLatin1Char(':') + property.type;
         QCOMPARE(names,
-                 (QStringList { "msg:String", "SQL:String", "FlowCTL:Variant", "UserCancel:Boolean",
-                                "FrmAct:Boolean", "AnEd:Boolean", "HoldSysData:Variant", "HoldErr:Long",
-                                "HoldErrDes:String", "vbCr2:String", "vbSplit:String", "vbRequery:Boolean",
-                                "vbSee:Boolean", "Offset:Long", "FieldExt:String", "DataCH:Boolean",
-                                "KlantPC:Boolean", "BtwTar1:Long", "BtwTar2:Long", "NbrDec:Long",
-                                "NbrDecFmt:String" }));
+            (QStringList { "msg:String", "SQL:String", "FlowCTL:Variant", "UserCancel:Boolean",
+                "FrmAct:Boolean", "AnEd:Boolean", "HoldSysData:Variant", "HoldErr:Long",
+                "HoldErrDes:String", "vbCr2:String", "vbSplit:String", "vbRequery:Boolean",
+                "vbSee:Boolean", "Offset:Long", "FieldExt:String", "DataCH:Boolean",
+                "KlantPC:Boolean", "BtwTar1:Long", "BtwTar2:Long", "NbrDec:Long",
+                "NbrDecFmt:String" }));
     }
 
     void parametersCarryTypeReferenceAndDefault_data()
@@ -143,17 +148,21 @@ private slots:
         QTest::addColumn<bool>("byRef");
         QTest::addColumn<bool>("optional");
         QTest::addColumn<QVariant>("defaultValue");
-        QTest::newRow("written back") << "FilterNumeric" << 0 << "Ingave" << "Variant" << true << false << QVariant();
-        QTest::newRow("optional text") << "FilterAccenten" << 1 << "OnlyThese" << "String" << false << true
-                                       << QVariant(QString());
+        QTest::newRow("written back") << "FilterNumeric" << 0 << "Ingave"
+                                      << "Variant" << true << false << QVariant();
+        QTest::newRow("optional text") << "FilterAccenten" << 1 << "OnlyThese"
+                                       << "String" << false << true << QVariant(QString());
         QTest::newRow("variant default is Integer 0")
-            << "CGetal" << 0 << "Number" << "Variant" << false << true << QVariant::fromValue<short>(0);
-        QTest::newRow("enumeration typed") << "SetEuro" << 1 << "AddSymbol" << "OstSymbolType" << false << true
-                                           << QVariant(0);
-        QTest::newRow("object") << "SelEdit" << 0 << "Obj" << "Object" << false << false << QVariant();
-        QTest::newRow("boolean default") << "SelEdit" << 2 << "Flexgrid" << "Boolean" << false << true
-                                         << QVariant(false);
-        QTest::newRow("integer key") << "SendAKey" << 0 << "KeyAscii" << "Integer" << false << false << QVariant();
+            << "CGetal" << 0 << "Number"
+            << "Variant" << false << true << QVariant::fromValue<short>(0);
+        QTest::newRow("enumeration typed") << "SetEuro" << 1 << "AddSymbol"
+                                           << "OstSymbolType" << false << true << QVariant(0);
+        QTest::newRow("object") << "SelEdit" << 0 << "Obj"
+                                << "Object" << false << false << QVariant();
+        QTest::newRow("boolean default") << "SelEdit" << 2 << "Flexgrid"
+                                         << "Boolean" << false << true << QVariant(false);
+        QTest::newRow("integer key") << "SendAKey" << 0 << "KeyAscii"
+                                     << "Integer" << false << false << QVariant();
     }
     void parametersCarryTypeReferenceAndDefault()
     {

@@ -16,11 +16,13 @@ private slots:
     {
         QTemporaryDir dir;
         CorePlatform machine;
-        const QString windowsStyle = QString(dir.path()).replace(QLatin1Char('/'), QLatin1Char('\\'));
+        const QString windowsStyle
+            = QString(dir.path()).replace(QLatin1Char('/'), QLatin1Char('\\'));
         QVERIFY(machine.writeFile(windowsStyle + QStringLiteral("\\a.txt"), "x"));
         QVERIFY(machine.fileExists(dir.path() + QStringLiteral("/a.txt")));
         QVERIFY(machine.directoryExists(windowsStyle));
-        QCOMPARE(machine.readFile(windowsStyle + QStringLiteral("\\a.txt")).value(), QByteArray("x"));
+        QCOMPARE(
+            machine.readFile(windowsStyle + QStringLiteral("\\a.txt")).value(), QByteArray("x"));
         QVERIFY(!machine.readFile(windowsStyle + QStringLiteral("\\missing.txt")));
     }
 
@@ -40,7 +42,8 @@ private slots:
         }
         names.sort();
         QCOMPARE(names, (QStringList { "B.WAV", "a.wav" }));
-        QVERIFY(machine.listFiles(dir.path() + QStringLiteral("/none"), QStringLiteral("*")).isEmpty());
+        QVERIFY(
+            machine.listFiles(dir.path() + QStringLiteral("/none"), QStringLiteral("*")).isEmpty());
     }
 
     void processesRunAndAreWaitedFor()

@@ -11,11 +11,12 @@ MessageBoxERequest okCancelBox()
     MessageBoxERequest request;
     request.prompt = QStringLiteral("p");
     request.buttons = { { QStringLiteral("cmdOK"), QStringLiteral("OK"), 1 },
-                        { QStringLiteral("cmdCancel"), QStringLiteral("Annuleren"), 2 } };
+        { QStringLiteral("cmdCancel"), QStringLiteral("Annuleren"), 2 } };
     request.resultForKey = [](const QString &key) {
         return key == QLatin1String("Enter") ? 1 : key == QLatin1String("Escape") ? 2 : 0;
     };
-    request.resultForScan = [](const QString &scan) { return scan == QLatin1String("%[ANN]") ? 2 : 0; };
+    request.resultForScan
+        = [](const QString &scan) { return scan == QLatin1String("%[ANN]") ? 2 : 0; };
     return request;
 }
 
@@ -82,19 +83,22 @@ private slots:
         QCOMPARE(machine.now(), fixed);
         QCOMPARE(machine.regionalSettings().decimalSeparator, QLatin1Char(','));
         machine.shutDown();
-        QCOMPARE(machine.actions().first().toMap().value("kind").toString(), QStringLiteral("shutDown"));
+        QCOMPARE(
+            machine.actions().first().toMap().value("kind").toString(), QStringLiteral("shutDown"));
     }
 
     void soundsAreRecordedAndForwarded()
     {
         RecordingPlatform machine;
         QStringList played;
-        machine.setSoundPlayback([&](const QString &file, bool) { played << file; }, [&] { played << "stop"; });
+        machine.setSoundPlayback(
+            [&](const QString &file, bool) { played << file; }, [&] { played << "stop"; });
         machine.playSound(QStringLiteral("C:\\x\\Message.wav"), true);
         machine.stopSound();
         QCOMPARE(played, (QStringList { "C:\\x\\Message.wav", "stop" }));
         QCOMPARE(machine.shown().at(0).toMap().value("continuous").toBool(), true);
-        QCOMPARE(machine.shown().at(1).toMap().value("kind").toString(), QStringLiteral("stopSound"));
+        QCOMPARE(
+            machine.shown().at(1).toMap().value("kind").toString(), QStringLiteral("stopSound"));
     }
 };
 
