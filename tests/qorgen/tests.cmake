@@ -8,3 +8,9 @@ qor_add_test(tst_hostobjects ${dir}/tst_hostobjects.cpp)
 
 qor_add_test(tst_session ${dir}/tst_session.cpp)
 target_link_libraries(tst_session PRIVATE qorgenbridge)
+
+foreach(process_test tst_qorgenbatch tst_qorgencall)
+  qor_add_test(${process_test} ${dir}/${process_test}.cpp ${dir}/qorgenprocess.h)
+  target_compile_definitions(${process_test} PRIVATE QORGEN_PATH="$<TARGET_FILE:qorgen>")
+  add_dependencies(${process_test} qorgen)
+endforeach()

@@ -1,0 +1,71 @@
+#pragma once
+
+// Runs the qorgen program as a separate process, as its users do.
+
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QProcess>
+#include <QTest>
+
+struct QorgenRun
+{
+    bool finished = false;
+    int exitCode = -1;
+    QByteArray out;
+    QByteArray err;
+
+    QList<QByteArray> lines() const
+    {
+        QList<QByteArray> result = out.split('\n');
+        if (!result.isEmpty() && result.last().isEmpty())
+            result.removeLast();
+        return result;
+    }
+};
+
+inline QorgenRun runQorgen(const QStringList &arguments, const QByteArray &input = QByteArray())
+{
+    QProcess process;
+    process.start(QStringLiteral(QORGEN_PATH), arguments);
+    QorgenRun run;
+    if (!process.waitForStarted(10000))
+        return run;
+    process.write(input);
+    process.closeWriteChannel();
+    run.finished = process.waitForFinished(30000);
+    if (!run.finished)
+        process.kill();
+    run.exitCode = process.exitStatus() == QProcess::NormalExit ? process.exitCode() : -1;
+    run.out = process.readAllStandardOutput();
+    run.err = process.readAllStandardError();
+    return run;
+}
+
+// The responses of `qorgen batch` to the lines, in order, each with its raw line.
+struct BatchResult
+{
+    QorgenRun run;
+    QList<QJsonObject> responses;
+    QList<QByteArray> raw;
+};
+
+inline BatchResult runBatch(const QList<QByteArray> &requests)
+{
+    BatchResult result;
+    QByteArray input;
+    for (const QByteArray &line : requests)
+        input += line + '\n';
+    result.run = runQorgen({ QStringLiteral("batch") }, input);
+    for (const QByteArray &line : result.run.lines()) {
+        result.raw.append(line);
+        result.responses.append(QJsonDocument::fromJson(line).object());
+    }
+    return result;
+}
+
+// One request, one response.
+inline QJsonObject respond(const QByteArray &request)
+{
+    const BatchResult result = runBatch({ request });
+    return result.responses.value(0);
+}

@@ -1,0 +1,441 @@
+#include "lib/clsqorgenlib.h"
+#include "lib/typelibrary.h"
+#include "qorgenprocess.h"
+
+#include <QJsonArray>
+
+namespace {
+
+QByteArray compact(const QJsonValue &value)
+{
+    if (value.isObject())
+        return QJsonDocument(value.toObject()).toJson(QJsonDocument::Compact);
+    if (value.isArray())
+        return QJsonDocument(value.toArray()).toJson(QJsonDocument::Compact);
+    const QByteArray wrapped = QJsonDocument(QJsonArray { value }).toJson(QJsonDocument::Compact);
+    return wrapped.mid(1, wrapped.size() - 2);
+}
+
+QStringList keysOf(const QJsonObject &object)
+{
+    return object.keys();
+}
+
+} // namespace
+
+class TestQorgenBatch : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    // Values go in and come back in the same form, with their Variant subtype.
+    void valuesBothWays_data()
+    {
+        QTest::addColumn<QByteArray>("value");
+        QTest::addColumn<QString>("subtype");
+        QTest::newRow("Integer") << QByteArray("12") << "Integer";
+        QTest::newRow("Long") << QByteArray("40000") << "Long";
+        QTest::newRow("Double with a whole value") << QByteArray("12.0") << "Double";
+        QTest::newRow("Double") << QByteArray("0.25") << "Double";
+        QTest::newRow("String") << QByteArray("\"caf\xc3\xa9\\r\\r\"") << "String";
+        QTest::newRow("Boolean") << QByteArray("true") << "Boolean";
+        QTest::newRow("Null") << QByteArray("null") << "Null";
+        QTest::newRow("Empty") << QByteArray(R"({"$empty":true})") << "Empty";
+        QTest::newRow("Date and time")
+            << QByteArray(R"({"$date":"2004-05-20T08:30:00"})") << "Date";
+        QTest::newRow("Date") << QByteArray(R"({"$date":"2004-05-20"})") << "Date";
+        QTest::newRow("Array") << QByteArray(R"([1,"a",null,{"$empty":true},[2.5]])") << "Array";
+    }
+    void valuesBothWays()
+    {
+        QFETCH(QByteArray, value);
+        QFETCH(QString, subtype);
+        // A Variant property keeps what it is given.
+        const BatchResult result = runBatch(
+            { R"({"call": "FlowCTL", "args": [)" + value + "]}", R"({"call": "FlowCTL"})" });
+        QCOMPARE(result.responses.size(), 2);
+        QCOMPARE(result.responses[0].value("argTypes").toArray().at(0).toString(), subtype);
+        QCOMPARE(result.responses[1].value("resultType").toString(), subtype);
+        QVERIFY2(result.raw[1].startsWith("{\"result\":" + value + ",\"resultType\""),
+            result.raw[1].constData());
+    }
+
+    void hostObjectAsAValue()
+    {
+        const BatchResult result = runBatch(
+            { R"({"call": "HoldSysData", "args": [{"$object": "Application", "ProductName": "Kassa", "Major": 3}]})",
+                R"({"call": "HoldSysData"})" });
+        const QJsonObject app = result.responses[1].value("result").toObject();
+        QCOMPARE(result.responses[1].value("resultType").toString(), QStringLiteral("Object"));
+        QCOMPARE(app.value("$object").toString(), QStringLiteral("Application"));
+        QCOMPARE(app.value("ProductName").toString(), QStringLiteral("Kassa"));
+        QCOMPARE(app.value("Major").toInt(), 3);
+        QCOMPARE(app.value("PrevInstance").toBool(true), false);
+        QVERIFY(app.value("$calls").toArray().isEmpty());
+    }
+
+    // Numbers and texts are converted to the declared type of what they are given to.
+    void valuesTakeTheDeclaredType_data()
+    {
+        QTest::addColumn<QByteArray>("property");
+        QTest::addColumn<QByteArray>("value");
+        QTest::addColumn<QByteArray>("stored"); // empty: refused
+        QTest::addColumn<int>("error");
+        QTest::newRow("number text to Long")
+            << QByteArray("BtwTar1") << QByteArray("\"2100\"") << QByteArray("2100") << 0;
+        QTest::newRow("Long rounds half to even")
+            << QByteArray("BtwTar1") << QByteArray("2100.5") << QByteArray("2100") << 0;
+        QTest::newRow("True to Long")
+            << QByteArray("Offset") << QByteArray("true") << QByteArray("-1") << 0;
+        QTest::newRow("number to String")
+            << QByteArray("msg") << QByteArray("12") << QByteArray("\"12\"") << 0;
+        QTest::newRow("text to Boolean")
+            << QByteArray("UserCancel") << QByteArray("\"True\"") << QByteArray("true") << 0;
+        QTest::newRow("Long overflows")
+            << QByteArray("NbrDec") << QByteArray("1e10") << QByteArray() << 6;
+        QTest::newRow("text that is no number")
+            << QByteArray("NbrDec") << QByteArray("\"x\"") << QByteArray() << 13;
+        QTest::newRow("Null to String")
+            << QByteArray("SQL") << QByteArray("null") << QByteArray() << 94;
+    }
+    void valuesTakeTheDeclaredType()
+    {
+        QFETCH(QByteArray, property);
+        QFETCH(QByteArray, value);
+        QFETCH(QByteArray, stored);
+        QFETCH(int, error);
+        const QJsonObject reply
+            = respond(R"({"call": ")" + property + R"(", "args": [)" + value + "]}");
+        QCOMPARE(reply.value("error").toObject().value("number").toInt(), error);
+        if (!stored.isEmpty())
+            QCOMPARE(compact(reply.value("props").toObject().value(QString::fromLatin1(property))),
+                stored);
+    }
+
+    // By-reference arguments come back as the method left them.
+    void byReferenceWriteBack_data()
+    {
+        QTest::addColumn<QByteArray>("request");
+        QTest::addColumn<QByteArray>("result");
+        QTest::addColumn<QByteArray>("args");
+        QTest::newRow("FilterNumeric keeps its argument as text")
+            << QByteArray(R"({"call": "FilterNumeric", "args": [1234]})") << QByteArray("\"1234\"")
+            << QByteArray(R"(["1234"])");
+        QTest::newRow("FilterNumeric text")
+            << QByteArray(R"({"call": "filternumeric", "args": ["BE 12-34"]})")
+            << QByteArray("\"1234\"") << QByteArray(R"(["BE 12-34"])");
+        QTest::newRow("SCase lowers its argument")
+            << QByteArray(R"({"call": "SCase", "args": ["jAN de SMET"]})")
+            << QByteArray("\"Jan De Smet\"") << QByteArray(R"(["jan de smet"])");
+        QTest::newRow("ControleerBankNr cleans its argument")
+            << QByteArray(R"({"call": "ControleerBankNr", "args": ["000-0000000-97", false]})")
+            << QByteArray("\"000-0000000-97\"") << QByteArray(R"(["000000000097",false])");
+        QTest::newRow("by value stays")
+            << QByteArray(R"({"call": "FilterText", "args": ["a-b", true]})")
+            << QByteArray("\"ab\"") << QByteArray(R"(["a-b",true])");
+    }
+    void byReferenceWriteBack()
+    {
+        QFETCH(QByteArray, request);
+        const QJsonObject reply = respond(request);
+        QVERIFY2(!reply.contains("error"), compact(reply.value("error")).constData());
+        QTEST(compact(reply.value("result")), "result");
+        QTEST(compact(reply.value("args")), "args");
+    }
+
+    void variantSubtypesOfResultsAndArguments_data()
+    {
+        QTest::addColumn<QByteArray>("request");
+        QTest::addColumn<QByteArray>("result");
+        QTest::addColumn<QString>("resultType");
+        QTest::addColumn<QByteArray>("argTypes");
+        QTest::newRow("no number is Integer 0")
+            << QByteArray(R"({"call": "CGetal", "args": ["abc"]})") << QByteArray("0") << "Integer"
+            << QByteArray(R"(["String"])");
+        QTest::newRow("decimal comma in nl_BE is Double")
+            << QByteArray(R"({"call": "CGetal", "args": ["12,5"], "env": {"locale": "nl_BE"}})")
+            << QByteArray("12.5") << "Double" << QByteArray(R"(["String"])");
+        QTest::newRow("written-back text")
+            << QByteArray(R"({"call": "FilterNumeric", "args": [12]})") << QByteArray("\"12\"")
+            << "String" << QByteArray(R"(["String"])");
+        QTest::newRow("declared types are not described") << QByteArray(
+            R"({"call": "SetEuro", "args": [2, {"$missing": true}], "env": {"locale": "en_US"}})")
+                                                          << QByteArray("\"2.00\"") << QString()
+                                                          << QByteArray();
+    }
+    void variantSubtypesOfResultsAndArguments()
+    {
+        QFETCH(QByteArray, request);
+        const QJsonObject reply = respond(request);
+        QTEST(compact(reply.value("result")), "result");
+        QTEST(reply.value("resultType").toString(), "resultType");
+        QFETCH(QByteArray, argTypes);
+        if (argTypes.isEmpty())
+            QVERIFY(!reply.contains("argTypes"));
+        else
+            QCOMPARE(compact(reply.value("argTypes")), argTypes);
+    }
+
+    // Properties, set and a fresh start.
+    void propertiesReadAndAssign()
+    {
+        const BatchResult result = runBatch({
+            R"({"call": "Offset"})",
+            R"({"call": "offset", "args": [10000]})",
+            R"({"call": "OFFSET"})",
+            R"({"set": {"BtwTar1": 2100, "msg": "hallo"}, "call": "LLGenLib", "args": [11028]})",
+            R"({"new": true, "call": "Offset"})",
+        });
+        QCOMPARE(result.responses.size(), 5);
+        QCOMPARE(result.responses[0].value("result").toInt(-1), 0);
+        QVERIFY(!result.responses[0].contains("resultType")); // a Long, not a Variant
+        QVERIFY(!result.responses[1].contains("result"));
+        QCOMPARE(compact(result.responses[1].value("args")), QByteArray("[10000]"));
+        QCOMPARE(result.responses[2].value("result").toInt(), 10000);
+        const QJsonObject props = result.responses[3].value("props").toObject();
+        QCOMPARE(result.responses[3].value("result").toString(), QStringLiteral("Oui"));
+        QCOMPARE(props.value("BtwTar1").toInt(), 2100);
+        QCOMPARE(props.value("msg").toString(), QStringLiteral("hallo"));
+        QCOMPARE(props.value("Offset").toInt(), 10000);
+        QCOMPARE(props.value("vbCr2").toString(), QStringLiteral("\r\r"));
+        QCOMPARE(props.value("vbSplit").toString(), QString(2, QChar(0xAD)));
+        QCOMPARE(result.responses[4].value("result").toInt(-1), 0);
+        QCOMPARE(result.responses[4].value("props").toObject().value("msg").toString(), QString());
+    }
+
+    void propsListThePublishedProperties()
+    {
+        const BatchResult result = runBatch({ R"({"call": "GetKlantPC"})" });
+        QStringList published;
+        for (const auto &property : clsqorGenLib::typeLibrary().properties())
+            published.append(property.name);
+        const QByteArray raw = result.raw.value(0);
+        const QJsonObject props = result.responses.value(0).value("props").toObject();
+        QCOMPARE(props.size(), published.size());
+        // In the order of the type information.
+        qsizetype at = raw.indexOf("\"props\":");
+        for (const QString &name : published) {
+            const qsizetype next = raw.indexOf("\"" + name.toUtf8() + "\":", at);
+            QVERIFY2(next > at, qPrintable(name));
+            at = next;
+        }
+    }
+
+    // Model host controls go in, are used by the call, and come back whole.
+    void hostObjectsAreWrittenBack_data()
+    {
+        QTest::addColumn<QByteArray>("request");
+        QTest::addColumn<QByteArray>("written");
+        QTest::newRow("edit control, all selected")
+            << QByteArray(
+                   R"({"call": "SelEdit", "args": [{"$object": "TextBox", "Text": "12,50", "SelStart": 3}]})")
+            << QByteArray(
+                   R"({"$object":"TextBox","Text":"12,50","SelStart":0,"SelLength":5,"MaxLength":0,)"
+                   R"("Enabled":true,"Left":0.0,"Top":0.0,"Width":0.0,"Height":0.0,"$calls":[]})");
+        QTest::newRow("edit control, caret at the end")
+            << QByteArray(
+                   R"({"call": "SelEdit", "args": [{"$object": "TextBox", "Text": "abc", "Tag": 7}, true]})")
+            << QByteArray(
+                   R"({"$object":"TextBox","Text":"abc","SelStart":3,"SelLength":0,"MaxLength":0,)"
+                   R"("Enabled":true,"Left":0.0,"Top":0.0,"Width":0.0,"Height":0.0,"Tag":7,"$calls":[]})");
+        QTest::newRow("grid cell editor")
+            << QByteArray(R"({"call": "SelEdit", "args": [{"$object": "GridEditor", "Text": "x", )"
+                          R"("EditText": "abcd"}, {"$missing": true}, true]})")
+            << QByteArray(
+                   R"({"$object":"GridEditor","Text":"x","EditText":"abcd","EditSelStart":0,)"
+                   R"("EditSelLength":4,"editMaxLength":0,"$calls":[]})");
+    }
+    void hostObjectsAreWrittenBack()
+    {
+        QFETCH(QByteArray, request);
+        const BatchResult result = runBatch({ request });
+        const QJsonObject reply = result.responses.value(0);
+        QVERIFY2(!reply.contains("error"), result.raw.value(0).constData());
+        QFETCH(QByteArray, written);
+        QVERIFY2(result.raw[0].startsWith("{\"args\":[" + written), result.raw[0].constData());
+    }
+
+    void hostObjectErrorsReachTheCaller()
+    {
+        // An edit control has no cell editor properties: the library's own 438.
+        const QJsonObject reply = respond(
+            R"({"call": "SelEdit", "args": [{"$object": "TextBox", "Text": "ab"}, false, true]})");
+        QCOMPARE(reply.value("error").toObject().value("number").toInt(), 438);
+        QCOMPARE(reply.value("args").toArray().at(0).toObject().value("Text").toString(),
+            QStringLiteral("ab"));
+        QVERIFY(reply.contains("props"));
+    }
+
+    // Dialogs: scripted answers and what was shown.
+    void messageBoxIsAnsweredAndRecorded_data()
+    {
+        QTest::addColumn<QByteArray>("extra");
+        QTest::addColumn<QString>("prompt");
+        QTest::addColumn<QString>("title");
+        QTest::addColumn<int>("answer");
+        QTest::newRow("default answer") << QByteArray() << "Ongeldig Bankrekeningnummer"
+                                        << "Fout !" << 1;
+        QTest::newRow("escape") << QByteArray(R"(, "answers": ["Escape"])")
+                                << "Ongeldig Bankrekeningnummer"
+                                << "Fout !" << 1;
+        QTest::newRow("result number")
+            << QByteArray(R"(, "answers": [2])") << "Ongeldig Bankrekeningnummer"
+            << "Fout !" << 2;
+        QTest::newRow("in French")
+            << QByteArray(R"(, "set": {"Offset": 10000})") << "Num\u00e9ro de compte"
+            << "Erreur !" << 1;
+    }
+    void messageBoxIsAnsweredAndRecorded()
+    {
+        QFETCH(QByteArray, extra);
+        const BatchResult result
+            = runBatch({ R"({"call": "ControleerBankNr", "args": ["123"])" + extra + "}" });
+        const QJsonObject reply = result.responses.value(0);
+        QCOMPARE(reply.value("result").toString(QStringLiteral("?")), QString());
+        const QJsonArray shown = reply.value("shown").toArray();
+        QCOMPARE(shown.size(), 1);
+        const QJsonObject box = shown.at(0).toObject();
+        QCOMPARE(keysOf(box),
+            QStringList({ "answer", "buttons", "caption", "kind", "prompt", "title", "type" }));
+        QCOMPARE(box.value("kind").toString(), QStringLiteral("MsgBoxE"));
+        QFETCH(QString, prompt);
+        QVERIFY2(box.value("prompt").toString().startsWith(prompt),
+            qPrintable(box.value("prompt").toString()));
+        QCOMPARE(box.value("buttons").toInt(), 48);
+        QTEST(box.value("title").toString(), "title");
+        QTEST(box.value("caption").toString(), "title");
+        QCOMPARE(box.value("type").toString(), QStringLiteral("Exclamation"));
+        QTEST(box.value("answer").toInt(), "answer");
+        QVERIFY(result.raw[0].contains(R"("shown":[{"kind":"MsgBoxE","prompt":)"));
+    }
+
+    void answersDoNotCarryOver()
+    {
+        const BatchResult result = runBatch({
+            R"({"call": "ControleerBankNr", "args": ["123"], "answers": [2, 2]})",
+            R"({"call": "ControleerBankNr", "args": ["123"]})",
+        });
+        QCOMPARE(
+            result.responses[0].value("shown").toArray().at(0).toObject().value("answer").toInt(),
+            2);
+        QCOMPARE(
+            result.responses[1].value("shown").toArray().at(0).toObject().value("answer").toInt(),
+            1);
+    }
+
+    // Errors.
+    void runTimeErrorComesWithTheUsualFields()
+    {
+        const QJsonObject reply = respond(R"({"call": "SetEuro", "args": [1e40]})");
+        QCOMPARE(reply.value("error").toObject().value("number").toInt(), 6);
+        QCOMPARE(reply.value("error").toObject().value("description").toString(),
+            QStringLiteral("Overflow"));
+        QVERIFY(!reply.contains("result"));
+        QCOMPARE(keysOf(reply), QStringList({ "args", "error", "props", "shown" }));
+    }
+
+    void unreadableRequestsAndTheBatchGoesOn_data()
+    {
+        QTest::addColumn<QByteArray>("line");
+        QTest::addColumn<int>("number");
+        QTest::newRow("not JSON") << QByteArray("not json") << 5;
+        QTest::newRow("not an object") << QByteArray("[1, 2]") << 5;
+        QTest::newRow("bad UTF-8")
+            << QByteArray("{\"call\": \"SCase\", \"args\": [\"\xc3\x28\"]}") << 5;
+        QTest::newRow("args not an array")
+            << QByteArray(R"({"call": "FilterNumeric", "args": "1"})") << 5;
+        QTest::newRow("unknown field")
+            << QByteArray(R"({"call": "FilterNumeric", "args": ["1"], "x": 1})") << 5;
+        QTest::newRow("nested too deep") << QByteArray(R"({"call": "FilterNumeric", "args": )")
+                + QByteArray(100, '[') + QByteArray(100, ']')
+                + "}" << 5;
+        QTest::newRow("unknown method") << QByteArray(R"({"call": "DoesNotExist"})") << 438;
+        QTest::newRow("argument not optional") << QByteArray(R"({"call": "FilterNumeric"})") << 449;
+        QTest::newRow("required argument left out")
+            << QByteArray(R"({"call": "FilterNumeric", "args": [{"$missing": true}]})") << 449;
+        QTest::newRow("too many arguments")
+            << QByteArray(R"({"call": "FilterNumeric", "args": [1, 2]})") << 450;
+        QTest::newRow("property given two values")
+            << QByteArray(R"({"call": "Offset", "args": [1, 2]})") << 450;
+        QTest::newRow("plain object as argument")
+            << QByteArray(R"({"call": "SelEdit", "args": [{"Text": "x"}]})") << 13;
+        QTest::newRow("bad date") << QByteArray(
+            R"({"call": "CGetal", "args": [{"$date": "2004-13-01"}]})")
+                                  << 13;
+        QTest::newRow("unknown host class")
+            << QByteArray(R"({"call": "SelEdit", "args": [{"$object": "Knob"}]})") << 13;
+    }
+    void unreadableRequestsAndTheBatchGoesOn()
+    {
+        QFETCH(QByteArray, line);
+        const BatchResult result
+            = runBatch({ line, R"({"call": "FilterNumeric", "args": ["a1b2"]})" });
+        QCOMPARE(result.responses.size(), 2);
+        const QJsonObject reply = result.responses[0];
+        QCOMPARE(keysOf(reply), QStringList({ "error" }));
+        QTEST(reply.value("error").toObject().value("number").toInt(), "number");
+        QVERIFY(!reply.value("error").toObject().value("description").toString().isEmpty());
+        QCOMPARE(result.responses[1].value("result").toString(), QStringLiteral("12"));
+        QCOMPARE(result.run.exitCode, 0);
+    }
+
+    // Input that is large, odd or cut off.
+    void badInputNeverStopsTheBatch()
+    {
+        const QByteArray hugeString = QByteArray("a1").repeated(2500000);
+        const QByteArray hugeArray = "[" + QByteArray("0,").repeated(1500000) + "0]";
+        const BatchResult result = runBatch({
+            "{\"call\": \"FilterNumeric\", \"args\": [\"" + hugeString + "\"]}",
+            R"({"call": "FilterNumeric", "args": [)" + hugeArray + "]}",
+            "",
+            "   ",
+            R"({"call": "SCase", "args": ["crlf"]})"
+            "\r",
+            R"({"call": "FilterNumeric", "args": ["x9"]})",
+        });
+        QVERIFY(result.run.finished);
+        QCOMPARE(result.responses.size(), 4); // blank lines get no response
+        QCOMPARE(result.responses[0].value("result").toString().size(), 2500000);
+        QCOMPARE(result.responses[1].value("error").toObject().value("number").toInt(), 5);
+        QCOMPARE(result.responses[2].value("result").toString(), QStringLiteral("Crlf"));
+        QCOMPARE(result.responses[3].value("result").toString(), QStringLiteral("9"));
+    }
+
+    void inputClosedInTheMiddleOfALine()
+    {
+        const QorgenRun run = runQorgen({ QStringLiteral("batch") },
+            R"({"call": "FilterNumeric", "args": ["7"]})"
+            "\n"
+            "{\"call\": \"FilterNu");
+        QVERIFY(run.finished);
+        QCOMPARE(run.exitCode, 0);
+        const QList<QByteArray> lines = run.lines();
+        QCOMPARE(lines.size(), 2);
+        QCOMPARE(QJsonDocument::fromJson(lines[1])
+                     .object()
+                     .value("error")
+                     .toObject()
+                     .value("number")
+                     .toInt(),
+            5);
+    }
+
+    // Every method of the type information is reachable by name.
+    void everyPublishedMethodIsCallable()
+    {
+        QList<QByteArray> requests;
+        const auto &methods = clsqorGenLib::typeLibrary().methods();
+        for (const auto &method : methods)
+            requests.append(R"({"call": ")" + method.name.toUtf8() + R"(", "args": []})");
+        const BatchResult result = runBatch(requests);
+        QCOMPARE(result.responses.size(), methods.size());
+        for (qsizetype i = 0; i < methods.size(); ++i) {
+            const int number
+                = result.responses[i].value("error").toObject().value("number").toInt();
+            QVERIFY2(number != 438, qPrintable(methods[i].name));
+        }
+    }
+};
+
+QTEST_GUILESS_MAIN(TestQorgenBatch)
+#include "tst_qorgenbatch.moc"
