@@ -4,6 +4,8 @@
 #include "runtime/runtimeerror.h"
 #include "runtime/variant.h"
 
+#include "tests/common/errornumber.h"
+
 #include <QTest>
 
 using namespace qor;
@@ -16,12 +18,7 @@ class TestLateBinding : public QObject
 
     static int errorOf(clsqorGenLib &lib, const QString &name, QVariantList args)
     {
-        try {
-            lib.Invoke(name, args);
-        } catch (const RuntimeError &error) {
-            return error.number();
-        }
-        return 0;
+        return test::errorNumber([&] { lib.Invoke(name, args); });
     }
 
 private slots:

@@ -1,21 +1,11 @@
 #include "runtime/codepage.h"
 #include "runtime/runtimeerror.h"
 
+#include "tests/common/errornumber.h"
+
 #include <QTest>
 
-namespace {
-
-template <typename F> int errorNumber(F f)
-{
-    try {
-        f();
-    } catch (const qor::RuntimeError &e) {
-        return e.number();
-    }
-    return 0;
-}
-
-} // namespace
+using qor::test::errorNumber;
 
 class TestCodePage : public QObject
 {

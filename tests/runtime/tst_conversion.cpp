@@ -2,23 +2,17 @@
 #include "runtime/runtimeerror.h"
 #include "runtime/variant.h"
 
+#include "tests/common/errornumber.h"
+
 #include <QTest>
 #include <cmath>
 #include <limits>
 
+using qor::test::errorNumber;
+
 using qor::RegionalSettings;
 
 namespace {
-
-template <typename F> int errorNumber(F f)
-{
-    try {
-        f();
-    } catch (const qor::RuntimeError &e) {
-        return e.number();
-    }
-    return 0;
-}
 
 RegionalSettings settings(const QString &locale)
 {

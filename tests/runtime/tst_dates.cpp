@@ -1,25 +1,15 @@
 #include "runtime/dates.h"
 #include "runtime/runtimeerror.h"
 
+#include "tests/common/errornumber.h"
+
 #include <QTest>
 #include <cmath>
 #include <limits>
 
+using qor::test::errorNumber;
+
 using qor::RegionalSettings;
-
-namespace {
-
-template <typename F> int errorNumber(F f)
-{
-    try {
-        f();
-    } catch (const qor::RuntimeError &e) {
-        return e.number();
-    }
-    return 0;
-}
-
-} // namespace
 
 class TestDates : public QObject
 {
