@@ -6,6 +6,7 @@
 #include "tools/qorgen/jsonwriter.h"
 #include "tools/qorgen/session.h"
 
+#include <QTemporaryDir>
 #include <QTest>
 
 using namespace qor;
@@ -192,6 +193,20 @@ private slots:
         QCOMPARE(prop(reply, u"msg"), QByteArray("\"\""));
         QCOMPARE(modGenLib().msgBoxResult, 0);
         QCOMPARE(session.platform().regionalSettings().decimalSeparator, QChar(u','));
+    }
+
+    void freshObjectSeesTheRequestedPlatform()
+    {
+        // The station flag is read when the object is made: from the system folder of this request.
+        QTemporaryDir folder;
+        QFile marker(folder.filePath(QStringLiteral("QorVelChip.dll")));
+        QVERIFY(marker.open(QIODevice::WriteOnly));
+        marker.close();
+        Session session;
+        const auto reply = send(session,
+            R"({"new": true, "env": {"systemDir": ")" + folder.path().toUtf8()
+                + R"("}, "call": "KlantPC"})");
+        QCOMPARE(field(reply, u"result"), QByteArray("false"));
     }
 
     void objectsTheLibraryHoldsOutliveTheirRequest()

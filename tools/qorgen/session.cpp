@@ -185,6 +185,9 @@ Session::Reply Session::handle(const Request &request)
         call = prepare(request, &owner);
     } catch (const RequestError &error) {
         return unreadable(error);
+    } catch (const std::bad_alloc &) {
+        return unreadable(
+            RequestError(7, QStringLiteral("Out of memory: the request is too large")));
     }
     applyPlatform(request);
     Reply reply;
@@ -253,9 +256,10 @@ void Session::prepareArguments(Call &call, const Request &request, QObject *owne
 
 void Session::applyPlatform(const Request &request)
 {
+    // A fresh object already sees the platform the request asks for.
+    request.env.applyTo(*m_platform);
     if (request.fresh)
         startFresh();
-    request.env.applyTo(*m_platform);
     if (const auto sound = request.env.sound()) {
         if (*sound)
             m_platform->setSoundPlayback(m_play, m_stop);
@@ -290,6 +294,8 @@ JsonValue Session::run(Call &call, Outcome &outcome)
     } catch (const std::exception &e) {
         error = errorObject(RuntimeError(
             51, QStringLiteral("Internal error: %1").arg(QString::fromLocal8Bit(e.what()))));
+    } catch (...) {
+        error = errorObject(RuntimeError(51, QStringLiteral("Internal error")));
     }
     outcome = error.isNull() ? Outcome::Ran : Outcome::RuntimeError;
 
