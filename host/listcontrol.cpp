@@ -18,11 +18,6 @@ QString entryText(const QVariant &item)
     return toText(item, platform().regionalSettings());
 }
 
-int indexArgument(const QVariant &index)
-{
-    return toInteger(index, platform().regionalSettings());
-}
-
 } // namespace
 
 ListControl::ListControl(QObject *parent)
