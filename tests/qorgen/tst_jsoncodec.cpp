@@ -1,6 +1,7 @@
 #include "host/hostfactory.h"
 #include "host/hostobject.h"
 #include "host/textbox.h"
+#include "lib/windowsize.h"
 #include "platform/recordingplatform.h"
 #include "runtime/variant.h"
 #include "tools/qorgen/jsonreader.h"
@@ -297,6 +298,12 @@ private slots:
         QFETCH(QVariant, value);
         QTEST(encoded(value), "text");
         QTEST(ValueCodec::typeOf(value).toString(), "subtype");
+    }
+
+    void recordIsAnObjectOfItsFields()
+    {
+        QCOMPARE(encoded(QVariant::fromValue(qorGenLib::WindowSize { 1, 2, 3, 4, 5, 6 })),
+            QByteArray(R"({"Left":1,"Top":2,"Right":3,"Bottom":4,"Width":5,"Height":6})"));
     }
 
     void valuesSurviveTheRoundTrip_data()

@@ -215,6 +215,7 @@ public:
 
 private:
     JsonValue object(QObject *object, int depth);
+    JsonValue record(const QVariant &v, int depth);
     JsonValue calls(const HostObject *object, int depth);
 
     QList<const QObject *> m_path;
@@ -224,6 +225,8 @@ JsonValue Encoder::value(const QVariant &v, int depth)
 {
     if (isMissing(v))
         return JsonValue::object().insert(QStringLiteral("$missing"), true);
+    if (v.metaType().flags() & QMetaType::IsGadget)
+        return record(v, depth);
     switch (varType(v)) {
     case VarType::Empty: return JsonValue::object().insert(QStringLiteral("$empty"), true);
     case VarType::Null: return nullptr;
@@ -264,6 +267,17 @@ JsonValue Encoder::object(QObject *object, int depth)
         json.insert(name, value(host->value(name), depth + 1));
     json.insert(QStringLiteral("$calls"), calls(host, depth));
     m_path.removeLast();
+    return json;
+}
+
+// A record (such as WindowSize) is an object of its fields in their order.
+JsonValue Encoder::record(const QVariant &v, int depth)
+{
+    JsonValue json = JsonValue::object();
+    const QMetaObject *meta = v.metaType().metaObject();
+    for (int i = meta ? meta->propertyOffset() : 0; meta && i < meta->propertyCount(); ++i)
+        json.insert(QString::fromLatin1(meta->property(i).name()),
+            value(meta->property(i).readOnGadget(v.constData()), depth + 1));
     return json;
 }
 

@@ -15,7 +15,8 @@ class HostObject;
 //   String <-> string, Boolean <-> true/false, numbers <-> numbers, Null <-> null,
 //   Empty <-> {"$empty": true}, Date <-> {"$date": "2004-05-20[T08:30:00]"},
 //   array <-> array, host object <-> {"$object": CLASS, ...properties, "$calls": [...]},
-//   a left-out argument <-> {"$missing": true} (arguments only).
+//   a left-out argument <-> {"$missing": true} (arguments only),
+//   a record (WindowSize) -> an object of its fields.
 // A whole number becomes an Integer when 16 bits hold it, else a Long when 32
 // bits do, else a Double; a number with a fraction or exponent is a Double.
 // A value of the wrong shape raises RequestError 13 naming where it sits.
