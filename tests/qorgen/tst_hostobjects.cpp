@@ -8,6 +8,8 @@
 #include "runtime/runtimeerror.h"
 #include "runtime/variant.h"
 
+#include "tests/common/errornumber.h"
+
 #include <QTest>
 
 #include <memory>
@@ -15,16 +17,6 @@
 using namespace qor;
 
 namespace {
-
-int errorOf(const std::function<void()> &action)
-{
-    try {
-        action();
-    } catch (const RuntimeError &error) {
-        return error.number();
-    }
-    return 0;
-}
 
 QStringList texts(const QVariantList &list)
 {
@@ -136,7 +128,7 @@ private slots:
         QFETCH(QString, name);
         QFETCH(QVariant, value);
         TextBox box;
-        QTEST(errorOf([&] { box.assign(name, value); }), "error");
+        QTEST(test::errorNumber([&] { box.assign(name, value); }), "error");
         QTEST(box.value(name), "stored");
     }
 
@@ -144,7 +136,7 @@ private slots:
     {
         ListBox list;
         QVERIFY(!list.isWritable(QStringLiteral("ListCount")));
-        QCOMPARE(errorOf([&] { list.assign(QStringLiteral("ListCount"), 3); }), 383);
+        QCOMPARE(test::errorNumber([&] { list.assign(QStringLiteral("ListCount"), 3); }), 383);
     }
 
     void libraryReachesThemByName()
@@ -198,7 +190,7 @@ private slots:
         box.setText(QStringLiteral("xy"));
         QCOMPARE(box.selStart(), 0);
         QCOMPARE(box.selLength(), 0);
-        QCOMPARE(errorOf([&] { box.setSelStart(-1); }), 380);
+        QCOMPARE(test::errorNumber([&] { box.setSelStart(-1); }), 380);
     }
 
     void setFocusIsRecordedAndNeedsAnEnabledControl()
@@ -206,7 +198,7 @@ private slots:
         TextBox box;
         box.SetFocus();
         box.assign(QStringLiteral("Enabled"), false);
-        QCOMPARE(errorOf([&] { box.SetFocus(); }), 5);
+        QCOMPARE(test::errorNumber([&] { box.SetFocus(); }), 5);
         QCOMPARE(callNames(box), QStringList({ "SetFocus", "SetFocus" }));
     }
 
@@ -269,10 +261,10 @@ private slots:
     void indexOutsideTheListIsRefused()
     {
         auto list = listOf({ "a" });
-        QCOMPARE(errorOf([&] { list->AddItem(QStringLiteral("x"), 2); }), 5);
-        QCOMPARE(errorOf([&] { list->RemoveItem(1); }), 5);
-        QCOMPARE(errorOf([&] { list->setListIndex(1); }), 380);
-        QCOMPARE(errorOf([&] { list->setListIndex(-2); }), 380);
+        QCOMPARE(test::errorNumber([&] { list->AddItem(QStringLiteral("x"), 2); }), 5);
+        QCOMPARE(test::errorNumber([&] { list->RemoveItem(1); }), 5);
+        QCOMPARE(test::errorNumber([&] { list->setListIndex(1); }), 380);
+        QCOMPARE(test::errorNumber([&] { list->setListIndex(-2); }), 380);
         QCOMPARE(list->listCount(), 1);
     }
 

@@ -9,6 +9,8 @@
 #include "tools/qorgen/requesterror.h"
 #include "tools/qorgen/valuecodec.h"
 
+#include "tests/common/errornumber.h"
+
 #include <QTest>
 
 #include <cmath>
@@ -37,16 +39,6 @@ QVariant decode(const QByteArray &text, QObject *owner = nullptr)
 QByteArray encoded(const QVariant &value)
 {
     return write(ValueCodec::encode(value));
-}
-
-int requestErrorOf(const std::function<void()> &action)
-{
-    try {
-        action();
-    } catch (const RequestError &error) {
-        return error.number();
-    }
-    return 0;
 }
 
 QByteArray nested(int depth)
@@ -123,7 +115,7 @@ private slots:
     void readerRejects()
     {
         QFETCH(QByteArray, text);
-        QCOMPARE(requestErrorOf([&] { read(text); }), 5);
+        QCOMPARE(test::errorNumber([&] { read(text); }), 5);
         QVERIFY(!JsonReader::tryParse(text));
     }
 
@@ -243,7 +235,7 @@ private slots:
     {
         QObject owner;
         QFETCH(QByteArray, text);
-        QCOMPARE(requestErrorOf([&] { decode(text, &owner); }), 13);
+        QCOMPARE(test::errorNumber([&] { decode(text, &owner); }), 13);
     }
 
     void decodeArgumentMayBeMissing()
