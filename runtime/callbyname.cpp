@@ -75,27 +75,39 @@ void setProperty(QObject *object, const char *name, const QVariant &value)
 QVariant callOperation(QObject *object, const char *name, const QVariantList &args)
 {
     const QMetaObject *meta = requireObject(object)->metaObject();
+    constexpr int maxArguments = 4;
+    if (args.size() > maxArguments)
+        throw RuntimeError::wrongArgumentCount();
     for (int i = meta->methodCount() - 1; i >= 0; --i) {
         const QMetaMethod method = meta->method(i);
         if (qstricmp(method.name().constData(), name) != 0
             || method.parameterCount() != args.size())
             continue;
+        // Each argument in the declared type; a Variant parameter takes the value as it is.
         QVariantList converted = args;
-        QGenericArgument generic[4];
-        for (int a = 0; a < args.size() && a < 4; ++a) {
-            if (!converted[a].convert(method.parameterMetaType(a)))
+        QList<QByteArray> typeNames;
+        typeNames.reserve(maxArguments);
+        QGenericArgument generic[maxArguments];
+        for (int a = 0; a < args.size(); ++a) {
+            const QMetaType type = method.parameterMetaType(a);
+            if (type.id() == QMetaType::QVariant)
+                converted[a] = QVariant(type, &args[a]);
+            else if (!converted[a].convert(type))
                 throw RuntimeError::typeMismatch();
-            generic[a] = QGenericArgument(
-                method.parameterTypeName(a).constData(), converted[a].constData());
+            typeNames.append(method.parameterTypeName(a));
+            generic[a] = QGenericArgument(typeNames.last().constData(), converted[a].constData());
         }
-        QVariant result(method.returnMetaType(), nullptr);
+        const bool hasResult = method.returnMetaType().id() != QMetaType::Void;
+        QVariant result = hasResult ? QVariant(method.returnMetaType(), nullptr) : QVariant();
         QGenericReturnArgument ret;
-        if (method.returnMetaType().id() != QMetaType::Void)
+        if (hasResult)
             ret = QGenericReturnArgument(method.typeName(), result.data());
         if (!method.invoke(
                 object, Qt::DirectConnection, ret, generic[0], generic[1], generic[2], generic[3]))
             throw RuntimeError::notSupportedByObject();
-        return method.returnMetaType().id() == QMetaType::Void ? QVariant() : result;
+        if (hasResult && result.metaType().id() == QMetaType::QVariant)
+            return *static_cast<const QVariant *>(result.constData());
+        return result;
     }
     throw RuntimeError::notSupportedByObject();
 }

@@ -1,0 +1,87 @@
+#include "runtime/callbyname.h"
+
+#include "tests/common/errornumber.h"
+
+#include <QTest>
+
+using qor::test::errorNumber;
+
+// A control with a declared property, and operations of several shapes.
+class SampleControl : public QObject
+{
+    Q_OBJECT
+    Q_PROPERTY(int ListIndex MEMBER listIndex)
+    Q_PROPERTY(QString Caption READ caption)
+
+public:
+    int listIndex = -1;
+    QVariantList calls;
+
+    QString caption() const { return QStringLiteral("c"); }
+    Q_INVOKABLE void Clear() { calls << QStringLiteral("Clear"); }
+    Q_INVOKABLE void AddItem(const QString &item, const QVariant &index) { calls << item << index; }
+    Q_INVOKABLE QVariant Echo(const QVariant &value) { return value; }
+    Q_INVOKABLE int Twice(int value) { return 2 * value; }
+};
+
+class TestCallByName : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void propertiesByNameRegardlessOfCase()
+    {
+        SampleControl control;
+        control.setProperty("Text", QStringLiteral("abc"));
+        QCOMPARE(qor::getProperty(&control, "text").toString(), QStringLiteral("abc"));
+        qor::setProperty(&control, "LISTINDEX", QStringLiteral("3"));
+        QCOMPARE(control.listIndex, 3);
+        QVERIFY(qor::hasProperty(&control, "caption"));
+        QVERIFY(!qor::hasProperty(&control, "SelStart"));
+        QVERIFY(!qor::hasProperty(nullptr, "Text"));
+    }
+
+    void errors_data()
+    {
+        QTest::addColumn<int>("which");
+        QTest::addColumn<int>("number");
+        QTest::newRow("read a missing property") << 0 << 438;
+        QTest::newRow("write a missing property") << 1 << 438;
+        QTest::newRow("no object") << 2 << 91;
+        QTest::newRow("text into a number") << 3 << 13;
+        QTest::newRow("read-only property") << 4 << 383;
+        QTest::newRow("unknown operation") << 5 << 438;
+        QTest::newRow("operation with too many arguments") << 6 << 450;
+    }
+    void errors()
+    {
+        QFETCH(int, which);
+        SampleControl control;
+        const std::function<void()> actions[] = {
+            [&] { qor::getProperty(&control, "SelStart"); },
+            [&] { qor::setProperty(&control, "SelStart", 1); },
+            [&] { qor::getProperty(nullptr, "Text"); },
+            [&] { qor::setProperty(&control, "ListIndex", QStringLiteral("abc")); },
+            [&] { qor::setProperty(&control, "Caption", QStringLiteral("x")); },
+            [&] { qor::callOperation(&control, "Refresh"); },
+            [&] {
+                qor::callOperation(&control, "Clear", { 1, 2, 3, 4, 5 });
+            },
+        };
+        QTEST(errorNumber(actions[which]), "number");
+    }
+
+    void operationsByName()
+    {
+        SampleControl control;
+        qor::callOperation(&control, "clear");
+        qor::callOperation(&control, "AddItem", { QStringLiteral("Contant"), QVariant() });
+        QCOMPARE(control.calls,
+            (QVariantList { QStringLiteral("Clear"), QStringLiteral("Contant"), QVariant() }));
+        QCOMPARE(qor::callOperation(&control, "Echo", { 2.5 }), QVariant(2.5));
+        QCOMPARE(qor::callOperation(&control, "Twice", { QStringLiteral("21") }).toInt(), 42);
+    }
+};
+
+QTEST_GUILESS_MAIN(TestCallByName)
+#include "tst_callbyname.moc"
