@@ -132,7 +132,9 @@ void TestCatalogueData::addLanguageRows()
 {
     QTest::addColumn<QString>("language");
     for (const QString &language : languages)
+        // clang-format off
         QTest::newRow(qPrintable(language)) << language;
+    // clang-format on
 }
 
 void TestCatalogueData::fileIsOneSortedEntryPerLine_data()
@@ -160,12 +162,14 @@ void TestCatalogueData::countsPerRange_data()
     QTest::addColumn<QString>("language");
     QTest::addColumn<int>("messages");
     QTest::addColumn<int>("dictionary");
+    // clang-format off
     QTest::newRow("Dutch") << "nl" << 140 << 286;
     QTest::newRow("French") << "fr" << 136 << 285;
     QTest::newRow("English") << "en" << 57 << 81;
     QTest::newRow("German") << "de" << 0 << 61;
     QTest::newRow("Spanish") << "es" << 0 << 61;
     QTest::newRow("Italian") << "it" << 0 << 61;
+    // clang-format on
 }
 
 void TestCatalogueData::countsPerRange()
@@ -196,10 +200,12 @@ void TestCatalogueData::smallLanguagesHoldExactlyTheirBlocks_data()
     QTest::addColumn<QList<int>>("dictionary");
     QList<int> english = range(9500, 9519) + commonIds();
     std::sort(english.begin(), english.end());
+    // clang-format off
     QTest::newRow("English adds the button words") << "en" << english;
     QTest::newRow("German") << "de" << commonIds();
     QTest::newRow("Spanish") << "es" << commonIds();
     QTest::newRow("Italian") << "it" << commonIds();
+    // clang-format on
 }
 
 void TestCatalogueData::smallLanguagesHoldExactlyTheirBlocks()
@@ -213,7 +219,9 @@ void TestCatalogueData::translationsHaveADutchSource_data()
 {
     QTest::addColumn<QString>("language");
     for (const QString &language : languages.mid(1))
+        // clang-format off
         QTest::newRow(qPrintable(language)) << language;
+    // clang-format on
 }
 
 void TestCatalogueData::translationsHaveADutchSource()
@@ -258,10 +266,10 @@ void TestCatalogueData::exactTexts_data()
     QTest::addColumn<QString>("language");
     QTest::addColumn<int>("id");
     QTest::addColumn<QString>("text");
+    // clang-format off
     QTest::newRow("trailing blank kept") << "nl" << 1005 << "Formaat : ";
     QTest::newRow("leading blank kept") << "nl" << 1016 << " is ongeldig gecodeerd !";
-    QTest::newRow("inner blank runs kept")
-        << "nl" << 1001 << "Schrijfwijze  000000000000  of  000-0000000-00";
+    QTest::newRow("inner blank runs kept") << "nl" << 1001 << "Schrijfwijze  000000000000  of  000-0000000-00";
     QTest::newRow("yes button") << "nl" << 1028 << "Ja";
     QTest::newRow("error title") << "nl" << 1031 << "Fout !";
     QTest::newRow("cancel button") << "nl" << 9500 << "Annuleren";
@@ -275,6 +283,7 @@ void TestCatalogueData::exactTexts_data()
     QTest::newRow("English yes") << "en" << 1028 << "Yes";
     QTest::newRow("German date label") << "de" << 9534 << "Datum";
     QTest::newRow("brand kept in Italian") << "it" << 9904 << "Bancontact";
+    // clang-format on
 }
 
 void TestCatalogueData::exactTexts()
@@ -326,9 +335,11 @@ void TestCatalogueData::labelIsBareWordWithColon()
 void TestCatalogueData::weekdayInitialsKeepTheirShape_data()
 {
     QTest::addColumn<QString>("language");
+    // clang-format off
     QTest::newRow("Dutch") << "nl";
     QTest::newRow("French") << "fr";
     QTest::newRow("English") << "en";
+    // clang-format on
 }
 
 void TestCatalogueData::weekdayInitialsKeepTheirShape()

@@ -38,21 +38,17 @@ private slots:
         QTest::addColumn<QString>("type");
         QTest::addColumn<QStringList>("captions");
         QTest::addColumn<QString>("caption");
+        // clang-format off
         QTest::newRow("plain") << 0 << "Message" << QStringList { "OK" } << "Bericht :";
-        QTest::newRow("question yes no")
-            << 36 << "Question" << QStringList { "Ja", "Nee" } << "Vraag ?";
-        QTest::newRow("critical ok cancel")
-            << 17 << "Critical" << QStringList { "OK", "Annuleren" } << "Fout !";
+        QTest::newRow("question yes no") << 36 << "Question" << QStringList { "Ja", "Nee" } << "Vraag ?";
+        QTest::newRow("critical ok cancel") << 17 << "Critical" << QStringList { "OK", "Annuleren" } << "Fout !";
         QTest::newRow("exclamation") << 48 << "Exclamation" << QStringList { "OK" } << "Opgelet !";
         QTest::newRow("information") << 64 << "Information" << QStringList { "OK" } << "Ter Info :";
-        QTest::newRow("critical wins over information")
-            << 80 << "Critical" << QStringList { "OK" } << "Fout !";
-        QTest::newRow("yes no cancel shows ok cancel")
-            << 3 << "Message" << QStringList { "OK", "Annuleren" } << "Bericht :";
-        QTest::newRow("retry cancel shows yes no")
-            << 5 << "Message" << QStringList { "Ja", "Nee" } << "Bericht :";
-        QTest::newRow("abort retry ignore shows ok")
-            << 2 << "Message" << QStringList { "OK" } << "Bericht :";
+        QTest::newRow("critical wins over information") << 80 << "Critical" << QStringList { "OK" } << "Fout !";
+        QTest::newRow("yes no cancel shows ok cancel") << 3 << "Message" << QStringList { "OK", "Annuleren" } << "Bericht :";
+        QTest::newRow("retry cancel shows yes no") << 5 << "Message" << QStringList { "Ja", "Nee" } << "Bericht :";
+        QTest::newRow("abort retry ignore shows ok") << 2 << "Message" << QStringList { "OK" } << "Bericht :";
+        // clang-format on
     }
     void styleChoosesTypeAndButtons()
     {
@@ -69,6 +65,7 @@ private slots:
         QTest::addColumn<int>("style");
         QTest::addColumn<QString>("key");
         QTest::addColumn<int>("result");
+        // clang-format off
         QTest::newRow("ok: enter") << 0 << "Enter" << 1;
         QTest::newRow("ok: escape") << 0 << "Escape" << 1;
         QTest::newRow("ok: letter o") << 0 << "o" << 1;
@@ -84,6 +81,7 @@ private slots:
         QTest::newRow("ok cancel: escape") << 17 << "Escape" << 2;
         QTest::newRow("ok cancel: enter") << 17 << "Enter" << 1;
         QTest::newRow("other letter") << 17 << "X" << 0;
+        // clang-format on
     }
     void keysChooseVisibleButtons()
     {
@@ -97,12 +95,14 @@ private slots:
         QTest::addColumn<int>("style");
         QTest::addColumn<QString>("scan");
         QTest::addColumn<int>("result");
+        // clang-format off
         QTest::newRow("ok on yes no") << 36 << "%[OK]" << 6;
         QTest::newRow("ok on ok") << 0 << "%[OK]" << 1;
         QTest::newRow("ann on yes no") << 36 << "%[ANN]" << 7;
         QTest::newRow("ann on ok cancel") << 1 << "%[ANN]" << 2;
         QTest::newRow("ann with ok alone") << 0 << "%[ANN]" << 0;
         QTest::newRow("other code") << 0 << "%[123]" << 0;
+        // clang-format on
     }
     void scannerCodesAnswer()
     {

@@ -20,8 +20,10 @@ private slots:
         QTest::addColumn<bool>("startAtEnd");
         QTest::addColumn<QString>("selected");
         QTest::addColumn<int>("cursor");
+        // clang-format off
         QTest::newRow("whole text selected") << false << "123,45" << 6;
         QTest::newRow("caret after the text") << true << "" << 6;
+        // clang-format on
     }
     void selEditOnARealField()
     {

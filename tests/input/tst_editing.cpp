@@ -39,6 +39,7 @@ private slots:
         QTest::addColumn<bool>("startAtEnd");
         QTest::addColumn<int>("selStart");
         QTest::addColumn<int>("selLength");
+        // clang-format off
         QTest::newRow("edit selects all") << false << "12,50" << false << 0 << 5;
         QTest::newRow("edit caret at end") << false << "12,50" << true << 5 << 0;
         QTest::newRow("edit empty") << false << "" << false << 0 << 0;
@@ -46,6 +47,7 @@ private slots:
         QTest::newRow("grid selects all") << true << "abc" << false << 0 << 3;
         QTest::newRow("grid caret at end") << true << "abc" << true << 3 << 0;
         QTest::newRow("grid empty") << true << "" << false << 0 << 0;
+        // clang-format on
     }
     void selEdit()
     {
@@ -82,6 +84,7 @@ private slots:
         QTest::addColumn<int>("key");
         QTest::addColumn<int>("virtualKey");
         QTest::addColumn<int>("scanCode");
+        // clang-format off
         QTest::newRow("lower-case letter") << int('a') << 0x41 << 0x1E;
         QTest::newRow("upper-case letter sent unshifted") << int('A') << 0x41 << 0x1E;
         QTest::newRow("digit") << int('5') << 0x35 << 0x06;
@@ -90,6 +93,7 @@ private slots:
         QTest::newRow("enter") << 13 << 0x0D << 0x1C;
         QTest::newRow("shifted star on the eight key") << int('*') << 0x38 << 0x09;
         QTest::newRow("no key types it") << 0xE9 << 0xFF << 0xFF;
+        // clang-format on
     }
     void sendAKey()
     {

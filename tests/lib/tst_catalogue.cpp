@@ -17,6 +17,7 @@ private slots:
     {
         QTest::addColumn<int>("id");
         QTest::addColumn<QString>("expected");
+        // clang-format off
         QTest::newRow("dutch yes") << 1028 << "Ja";
         QTest::newRow("french yes") << 11028 << "Oui";
         QTest::newRow("english yes") << 21028 << "Yes";
@@ -28,6 +29,7 @@ private slots:
         QTest::newRow("no fallback to dutch") << 31054 << " [LLGenLib 31054 ?] ";
         QTest::newRow("negative id") << -5 << " [LLGenLib -5 ?] ";
         QTest::newRow("largest id") << 2147483647 << " [LLGenLib 2147483647 ?] ";
+        // clang-format on
     }
     void hostLookUp()
     {
@@ -43,6 +45,7 @@ private slots:
         QTest::addColumn<int>("offset");
         QTest::addColumn<int>("baseId");
         QTest::addColumn<QString>("expected");
+        // clang-format off
         QTest::newRow("dutch title") << 0 << 1031 << "Fout !";
         QTest::newRow("german message missing") << 30000 << 1054 << " [LL 31054 ?] ";
         QTest::newRow("german dictionary present") << 30000 << 9534 << "Datum";
@@ -50,6 +53,7 @@ private slots:
         QTest::newRow("italian message missing") << 50000 << 1002 << " [LL 51002 ?] ";
         QTest::newRow("french lacks 1006") << 10000 << 1006 << " [LL 11006 ?] ";
         QTest::newRow("sum beyond the long range") << 50000 << 2147483647 << " [LL 2147533647 ?] ";
+        // clang-format on
     }
     void libraryLookUpFollowsModuleLanguage()
     {
@@ -65,12 +69,14 @@ private slots:
         QTest::addColumn<int>("offset");
         QTest::addColumn<int>("messages");
         QTest::addColumn<int>("dictionary");
+        // clang-format off
         QTest::newRow("dutch") << 0 << 140 << 286;
         QTest::newRow("french") << 10000 << 136 << 285;
         QTest::newRow("english") << 20000 << 57 << 81;
         QTest::newRow("german") << 30000 << 0 << 61;
         QTest::newRow("spanish") << 40000 << 0 << 61;
         QTest::newRow("italian") << 50000 << 0 << 61;
+        // clang-format on
     }
     void countsPerLanguage()
     {

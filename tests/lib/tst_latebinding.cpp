@@ -100,25 +100,21 @@ private slots:
         QTest::addColumn<QString>("name");
         QTest::addColumn<QVariantList>("args");
         QTest::addColumn<int>("number");
+        // clang-format off
         QTest::newRow("unknown name") << "NoSuchMethod" << QVariantList {} << 438;
         QTest::newRow("too many arguments") << "LLGenLib" << QVariantList { 1, 2 } << 450;
         QTest::newRow("required argument left out") << "LLGenLib" << QVariantList {} << 449;
-        QTest::newRow("required argument missing")
-            << "SCase" << QVariantList { missingVariant() } << 449;
-        QTest::newRow("text where a number is declared")
-            << "LLGenLib" << QVariantList { "abc" } << 13;
+        QTest::newRow("required argument missing") << "SCase" << QVariantList { missingVariant() } << 449;
+        QTest::newRow("text where a number is declared") << "LLGenLib" << QVariantList { "abc" } << 13;
         QTest::newRow("long overflow") << "LLGenLib" << QVariantList { 3e9 } << 6;
-        QTest::newRow("null where a number is declared")
-            << "LLGenLib" << QVariantList { nullVariant() } << 94;
-        QTest::newRow("number where an object is declared")
-            << "SelEdit" << QVariantList { 5 } << 13;
-        QTest::newRow("no object")
-            << "SelEdit" << QVariantList { QVariant::fromValue<QObject *>(nullptr) } << 91;
+        QTest::newRow("null where a number is declared") << "LLGenLib" << QVariantList { nullVariant() } << 94;
+        QTest::newRow("number where an object is declared") << "SelEdit" << QVariantList { 5 } << 13;
+        QTest::newRow("no object") << "SelEdit" << QVariantList { QVariant::fromValue<QObject *>(nullptr) } << 91;
         QTest::newRow("property with two values") << "Offset" << QVariantList { 1, 2 } << 450;
         QTest::newRow("key code beyond a byte") << "SendAKey" << QVariantList { 300 } << 5;
         QTest::newRow("integer overflow") << "SendAKey" << QVariantList { 40000 } << 6;
-        QTest::newRow("null text to filter")
-            << "FilterNumeric" << QVariantList { nullVariant() } << 94;
+        QTest::newRow("null text to filter") << "FilterNumeric" << QVariantList { nullVariant() } << 94;
+        // clang-format on
     }
     void errorsReachTheCaller()
     {

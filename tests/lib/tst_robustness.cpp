@@ -65,7 +65,9 @@ private slots:
                 for (const auto &[name, value] : oddValues()) {
                     const QString row = method.name + QLatin1Char('.') + method.parameters[p].name
                         + QLatin1Char(' ') + name;
+                    // clang-format off
                     QTest::newRow(qPrintable(row)) << method.name << p << value;
+                    // clang-format on
                 }
             }
         }

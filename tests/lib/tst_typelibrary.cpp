@@ -33,20 +33,13 @@ private slots:
     {
         QTest::addColumn<QString>("enumName");
         QTest::addColumn<QStringList>("members");
-        QTest::newRow("sort order") << "OstSortOrder"
-                                    << QStringList { "soNumeric", "soNumericRev", "soAlphabetic",
-                                           "soAlphabeticRev", "soLength", "soLengthRev" };
-        QTest::newRow("symbol with the euro sign")
-            << "OstSymbolType"
-            << QStringList { "vbSymbolNone", "vbSymbolEUR", QStringLiteral("vbSymbol\u20AC") };
-        QTest::newRow("duplicate value zero")
-            << "OstSpecificIcon"
-            << QStringList { "spiDefault", "spiDis", "spiGrey", "spiMove", "spiDisMini",
-                   "spiGreyMini", "spiMoveMini" };
-        QTest::newRow("negative first") << "NotFoundIndexType"
-                                        << QStringList { "SetListIndexMinusOne",
-                                               "SetListIndexLineZero", "SetListIndexUnchanged" };
+        // clang-format off
+        QTest::newRow("sort order") << "OstSortOrder" << QStringList { "soNumeric", "soNumericRev", "soAlphabetic", "soAlphabeticRev", "soLength", "soLengthRev" };
+        QTest::newRow("symbol with the euro sign") << "OstSymbolType" << QStringList { "vbSymbolNone", "vbSymbolEUR", QStringLiteral("vbSymbol\u20AC") };
+        QTest::newRow("duplicate value zero") << "OstSpecificIcon" << QStringList { "spiDefault", "spiDis", "spiGrey", "spiMove", "spiDisMini", "spiGreyMini", "spiMoveMini" };
+        QTest::newRow("negative first") << "NotFoundIndexType" << QStringList { "SetListIndexMinusOne", "SetListIndexLineZero", "SetListIndexUnchanged" };
         QTest::newRow("spin keys") << "SpinUpDown" << QStringList { "SpinUp", "SpinDown" };
+        // clang-format on
     }
     void enumerationsInDeclarationOrder()
     {
@@ -59,6 +52,7 @@ private slots:
     {
         QTest::addColumn<QString>("member");
         QTest::addColumn<int>("value");
+        // clang-format off
         QTest::newRow("system grey") << "vbGrey" << -2147483633;
         QTest::newRow("system blue") << "vbBlueWin" << -2147483635;
         QTest::newRow("cyan") << "vbCyan" << 12632064;
@@ -66,14 +60,14 @@ private slots:
         QTest::newRow("minus one") << "SetListIndexMinusOne" << -1;
         QTest::newRow("unchanged is 99") << "SetListIndexUnchanged" << 99;
         QTest::newRow("open item credit") << "btOpenStaandCredit" << 199;
-        QTest::newRow("direct debit with diaeresis")
-            << QStringLiteral("btDomicili\u00EBring") << 10;
+        QTest::newRow("direct debit with diaeresis") << QStringLiteral("btDomicili\u00EBring") << 10;
         QTest::newRow("direct debit credit") << QStringLiteral("btDomicili\u00EBringCredit") << 110;
         QTest::newRow("euro symbol") << QStringLiteral("vbSymbol\u20AC") << 2;
         QTest::newRow("last icon") << "iccMapQOR" << 254;
         QTest::newRow("icon after the gap") << "iccTelefoonGroen" << 218;
         QTest::newRow("module column") << "mocArtikelTypeNr" << 17;
         QTest::newRow("label euro format") << "posPrEur4DN" << 42;
+        // clang-format on
     }
     void memberValues()
     {
@@ -148,21 +142,15 @@ private slots:
         QTest::addColumn<bool>("byRef");
         QTest::addColumn<bool>("optional");
         QTest::addColumn<QVariant>("defaultValue");
-        QTest::newRow("written back") << "FilterNumeric" << 0 << "Ingave"
-                                      << "Variant" << true << false << QVariant();
-        QTest::newRow("optional text") << "FilterAccenten" << 1 << "OnlyThese"
-                                       << "String" << false << true << QVariant(QString());
-        QTest::newRow("variant default is Integer 0")
-            << "CGetal" << 0 << "Number"
-            << "Variant" << false << true << QVariant::fromValue<short>(0);
-        QTest::newRow("enumeration typed") << "SetEuro" << 1 << "AddSymbol"
-                                           << "OstSymbolType" << false << true << QVariant(0);
-        QTest::newRow("object") << "SelEdit" << 0 << "Obj"
-                                << "Object" << false << false << QVariant();
-        QTest::newRow("boolean default") << "SelEdit" << 2 << "Flexgrid"
-                                         << "Boolean" << false << true << QVariant(false);
-        QTest::newRow("integer key") << "SendAKey" << 0 << "KeyAscii"
-                                     << "Integer" << false << false << QVariant();
+        // clang-format off
+        QTest::newRow("written back") << "FilterNumeric" << 0 << "Ingave" << "Variant" << true << false << QVariant();
+        QTest::newRow("optional text") << "FilterAccenten" << 1 << "OnlyThese" << "String" << false << true << QVariant(QString());
+        QTest::newRow("variant default is Integer 0") << "CGetal" << 0 << "Number" << "Variant" << false << true << QVariant::fromValue<short>(0);
+        QTest::newRow("enumeration typed") << "SetEuro" << 1 << "AddSymbol" << "OstSymbolType" << false << true << QVariant(0);
+        QTest::newRow("object") << "SelEdit" << 0 << "Obj" << "Object" << false << false << QVariant();
+        QTest::newRow("boolean default") << "SelEdit" << 2 << "Flexgrid" << "Boolean" << false << true << QVariant(false);
+        QTest::newRow("integer key") << "SendAKey" << 0 << "KeyAscii" << "Integer" << false << false << QVariant();
+        // clang-format on
     }
     void parametersCarryTypeReferenceAndDefault()
     {

@@ -62,9 +62,11 @@ private slots:
         QTest::addColumn<QChar>("decimal");
         QTest::addColumn<QChar>("group");
         QTest::addColumn<QChar>("dateSeparator");
+        // clang-format off
         QTest::newRow("dutch belgium") << "nl_BE" << QChar(',') << QChar('.') << QChar('/');
         QTest::newRow("english us") << "en_US" << QChar('.') << QChar(',') << QChar('/');
         QTest::newRow("german") << "de_DE" << QChar(',') << QChar('.') << QChar('.');
+        // clang-format on
     }
     void regionalSettingsFromLocaleNames()
     {

@@ -32,12 +32,14 @@ private slots:
         QTest::addColumn<QVariantList>("answers");
         QTest::addColumn<int>("result");
         QTest::addColumn<int>("left");
+        // clang-format off
         QTest::newRow("default is enter") << QVariantList {} << 1 << 0;
         QTest::newRow("result number") << QVariantList { 2 } << 2 << 0;
         QTest::newRow("key") << QVariantList { "Escape" } << 2 << 0;
         QTest::newRow("swallowed key then next") << QVariantList { "Q", "Escape", 1 } << 2 << 1;
         QTest::newRow("only swallowed keys fall back to enter") << QVariantList { "Q" } << 1 << 0;
         QTest::newRow("scanner") << QVariantList { QVariantMap { { "scan", "%[ANN]" } } } << 2 << 0;
+        // clang-format on
     }
     void messageBoxAnswers()
     {

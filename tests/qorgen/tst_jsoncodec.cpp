@@ -61,14 +61,13 @@ private slots:
         QTest::addColumn<QByteArray>("text");
         QTest::addColumn<int>("kind");
         QTest::addColumn<double>("number");
+        // clang-format off
         QTest::newRow("whole") << QByteArray("12") << int(JsonValue::Kind::Integer) << 12.0;
-        QTest::newRow("negative whole")
-            << QByteArray("-40000") << int(JsonValue::Kind::Integer) << -40000.0;
-        QTest::newRow("fraction written as zero")
-            << QByteArray("12.0") << int(JsonValue::Kind::Double) << 12.0;
+        QTest::newRow("negative whole") << QByteArray("-40000") << int(JsonValue::Kind::Integer) << -40000.0;
+        QTest::newRow("fraction written as zero") << QByteArray("12.0") << int(JsonValue::Kind::Double) << 12.0;
         QTest::newRow("exponent") << QByteArray("-0.5e2") << int(JsonValue::Kind::Double) << -50.0;
-        QTest::newRow("beyond 64 bits")
-            << QByteArray("100000000000000000000") << int(JsonValue::Kind::Double) << 1e20;
+        QTest::newRow("beyond 64 bits") << QByteArray("100000000000000000000") << int(JsonValue::Kind::Double) << 1e20;
+        // clang-format on
     }
     void readerKeepsNumberKinds()
     {
@@ -94,6 +93,7 @@ private slots:
     void readerRejects_data()
     {
         QTest::addColumn<QByteArray>("text");
+        // clang-format off
         QTest::newRow("nothing") << QByteArray("   ");
         QTest::newRow("misspelt word") << QByteArray("nul");
         QTest::newRow("trailing comma") << QByteArray("[1,]");
@@ -111,6 +111,7 @@ private slots:
         QTest::newRow("unclosed object") << QByteArray(R"({"a": 1)");
         QTest::newRow("bad UTF-8") << QByteArray("\"\xff\xfe\"");
         QTest::newRow("nested 65 deep") << nested(65);
+        // clang-format on
     }
     void readerRejects()
     {
@@ -139,6 +140,7 @@ private slots:
     {
         QTest::addColumn<JsonValue>("value");
         QTest::addColumn<QByteArray>("text");
+        // clang-format off
         QTest::newRow("integer") << JsonValue(12) << QByteArray("12");
         QTest::newRow("whole double keeps its fraction") << JsonValue(12.0) << QByteArray("12.0");
         QTest::newRow("shortest double") << JsonValue(0.1) << QByteArray("0.1");
@@ -146,16 +148,11 @@ private slots:
         QTest::newRow("shortest single") << JsonValue::single(0.1f) << QByteArray("0.1");
         QTest::newRow("whole single") << JsonValue::single(3.0f) << QByteArray("3.0");
         QTest::newRow("not a number") << JsonValue(std::nan("")) << QByteArray("null");
-        QTest::newRow("infinite") << JsonValue(std::numeric_limits<double>::infinity())
-                                  << QByteArray("null");
-        QTest::newRow("escapes") << JsonValue(QStringLiteral("a\"b\\c\r\n\t\x01\u00e9\u00ad"))
-                                 << QByteArray("\"a\\\"b\\\\c\\r\\n\\t\\u0001\xc3\xa9\xc2\xad\"");
-        QTest::newRow("members in order") << JsonValue::object().insert("z", 1).insert(
-            "a", JsonValue::array().append(true).append(nullptr))
-                                          << QByteArray(R"({"z":1,"a":[true,null]})");
-        QTest::newRow("empty containers")
-            << JsonValue::array().append(JsonValue::object()).append(JsonValue::array())
-            << QByteArray("[{},[]]");
+        QTest::newRow("infinite") << JsonValue(std::numeric_limits<double>::infinity()) << QByteArray("null");
+        QTest::newRow("escapes") << JsonValue(QStringLiteral("a\"b\\c\r\n\t\x01\u00e9\u00ad")) << QByteArray("\"a\\\"b\\\\c\\r\\n\\t\\u0001\xc3\xa9\xc2\xad\"");
+        QTest::newRow("members in order") << JsonValue::object().insert("z", 1).insert( "a", JsonValue::array().append(true).append(nullptr)) << QByteArray(R"({"z":1,"a":[true,null]})");
+        QTest::newRow("empty containers") << JsonValue::array().append(JsonValue::object()).append(JsonValue::array()) << QByteArray("[{},[]]");
+        // clang-format on
     }
     void writer()
     {
@@ -180,6 +177,7 @@ private slots:
     {
         QTest::addColumn<QByteArray>("text");
         QTest::addColumn<QString>("subtype");
+        // clang-format off
         QTest::newRow("16-bit whole number") << QByteArray("-32768") << "Integer";
         QTest::newRow("32-bit whole number") << QByteArray("40000") << "Long";
         QTest::newRow("whole number beyond 32 bits") << QByteArray("3000000000") << "Double";
@@ -191,6 +189,7 @@ private slots:
         QTest::newRow("date") << QByteArray(R"({"$date": "2004-05-20"})") << "Date";
         QTest::newRow("array") << QByteArray(R"([1, "a", null])") << "Array";
         QTest::newRow("host object") << QByteArray(R"({"$object": "TextBox"})") << "Object";
+        // clang-format on
     }
     void decodeSubtypes()
     {
@@ -214,6 +213,7 @@ private slots:
     void decodeRejects_data()
     {
         QTest::addColumn<QByteArray>("text");
+        // clang-format off
         QTest::newRow("plain object") << QByteArray(R"({"a": 1})");
         QTest::newRow("empty object") << QByteArray("{}");
         QTest::newRow("unknown marker") << QByteArray(R"({"$foo": 1})");
@@ -226,10 +226,9 @@ private slots:
         QTest::newRow("missing inside an array") << QByteArray(R"([{"$missing": true}])");
         QTest::newRow("class that is no string") << QByteArray(R"({"$object": 5})");
         QTest::newRow("unknown class") << QByteArray(R"({"$object": "Nope"})");
-        QTest::newRow("property that does not convert")
-            << QByteArray(R"({"$object": "TextBox", "SelStart": "x"})");
-        QTest::newRow("plain object in a property")
-            << QByteArray(R"({"$object": "TextBox", "Tag": {"a": 1}})");
+        QTest::newRow("property that does not convert") << QByteArray(R"({"$object": "TextBox", "SelStart": "x"})");
+        QTest::newRow("plain object in a property") << QByteArray(R"({"$object": "TextBox", "Tag": {"a": 1}})");
+        // clang-format on
     }
     void decodeRejects()
     {
@@ -266,6 +265,7 @@ private slots:
         QTest::addColumn<QVariant>("value");
         QTest::addColumn<QByteArray>("text");
         QTest::addColumn<QString>("subtype");
+        // clang-format off
         QTest::newRow("empty") << emptyVariant() << QByteArray(R"({"$empty":true})") << "Empty";
         QTest::newRow("null") << nullVariant() << QByteArray("null") << "Null";
         QTest::newRow("integer") << integerVariant(-5) << QByteArray("-5") << "Integer";
@@ -274,16 +274,11 @@ private slots:
         QTest::newRow("whole double") << doubleVariant(2) << QByteArray("2.0") << "Double";
         QTest::newRow("Boolean") << QVariant(true) << QByteArray("true") << "Boolean";
         QTest::newRow("string") << QVariant(QStringLiteral("x")) << QByteArray("\"x\"") << "String";
-        QTest::newRow("midnight date")
-            << QVariant(QDateTime(QDate(2004, 5, 20), QTime(0, 0), Qt::UTC))
-            << QByteArray(R"({"$date":"2004-05-20"})") << "Date";
-        QTest::newRow("date and time")
-            << QVariant(QDateTime(QDate(2004, 5, 20), QTime(8, 30), Qt::UTC))
-            << QByteArray(R"({"$date":"2004-05-20T08:30:00"})") << "Date";
-        QTest::newRow("array") << QVariant(QVariantList { integerVariant(1), emptyVariant() })
-                               << QByteArray(R"([1,{"$empty":true}])") << "Array";
-        QTest::newRow("nothing") << QVariant::fromValue<QObject *>(nullptr) << QByteArray("null")
-                                 << "Object";
+        QTest::newRow("midnight date") << QVariant(QDateTime(QDate(2004, 5, 20), QTime(0, 0), Qt::UTC)) << QByteArray(R"({"$date":"2004-05-20"})") << "Date";
+        QTest::newRow("date and time") << QVariant(QDateTime(QDate(2004, 5, 20), QTime(8, 30), Qt::UTC)) << QByteArray(R"({"$date":"2004-05-20T08:30:00"})") << "Date";
+        QTest::newRow("array") << QVariant(QVariantList { integerVariant(1), emptyVariant() }) << QByteArray(R"([1,{"$empty":true}])") << "Array";
+        QTest::newRow("nothing") << QVariant::fromValue<QObject *>(nullptr) << QByteArray("null") << "Object";
+        // clang-format on
     }
     void encodeValues()
     {
@@ -301,12 +296,14 @@ private slots:
     void valuesSurviveTheRoundTrip_data()
     {
         QTest::addColumn<QByteArray>("text");
+        // clang-format off
         QTest::newRow("integer") << QByteArray("7");
         QTest::newRow("long") << QByteArray("-70000");
         QTest::newRow("double") << QByteArray("7.0");
         QTest::newRow("date") << QByteArray(R"({"$date":"1999-12-31T23:59:59"})");
         QTest::newRow("empty") << QByteArray(R"({"$empty":true})");
         QTest::newRow("nested array") << QByteArray(R"([[1,2.5],"x",null,false])");
+        // clang-format on
     }
     void valuesSurviveTheRoundTrip()
     {
@@ -318,16 +315,14 @@ private slots:
     {
         QTest::addColumn<QString>("text");
         QTest::addColumn<QDateTime>("expected");
-        QTest::newRow("date") << "2004-05-20"
-                              << QDateTime(QDate(2004, 5, 20), QTime(0, 0), Qt::UTC);
-        QTest::newRow("minutes") << "2004-05-20T08:30"
-                                 << QDateTime(QDate(2004, 5, 20), QTime(8, 30), Qt::UTC);
-        QTest::newRow("seconds") << "2004-05-20T08:30:05"
-                                 << QDateTime(QDate(2004, 5, 20), QTime(8, 30, 5), Qt::UTC);
-        QTest::newRow("time alone")
-            << "08:30" << QDateTime(QDate(1899, 12, 30), QTime(8, 30), Qt::UTC);
+        // clang-format off
+        QTest::newRow("date") << "2004-05-20" << QDateTime(QDate(2004, 5, 20), QTime(0, 0), Qt::UTC);
+        QTest::newRow("minutes") << "2004-05-20T08:30" << QDateTime(QDate(2004, 5, 20), QTime(8, 30), Qt::UTC);
+        QTest::newRow("seconds") << "2004-05-20T08:30:05" << QDateTime(QDate(2004, 5, 20), QTime(8, 30, 5), Qt::UTC);
+        QTest::newRow("time alone") << "08:30" << QDateTime(QDate(1899, 12, 30), QTime(8, 30), Qt::UTC);
         QTest::newRow("hour 24") << "2004-05-20T24:00" << QDateTime();
         QTest::newRow("space instead of T") << "2004-05-20 08:30" << QDateTime();
+        // clang-format on
     }
     void readDate()
     {

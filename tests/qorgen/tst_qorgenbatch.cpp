@@ -33,6 +33,7 @@ private slots:
     {
         QTest::addColumn<QByteArray>("value");
         QTest::addColumn<QString>("subtype");
+        // clang-format off
         QTest::newRow("Integer") << QByteArray("12") << "Integer";
         QTest::newRow("Long") << QByteArray("40000") << "Long";
         QTest::newRow("Double with a whole value") << QByteArray("12.0") << "Double";
@@ -41,10 +42,10 @@ private slots:
         QTest::newRow("Boolean") << QByteArray("true") << "Boolean";
         QTest::newRow("Null") << QByteArray("null") << "Null";
         QTest::newRow("Empty") << QByteArray(R"({"$empty":true})") << "Empty";
-        QTest::newRow("Date and time")
-            << QByteArray(R"({"$date":"2004-05-20T08:30:00"})") << "Date";
+        QTest::newRow("Date and time") << QByteArray(R"({"$date":"2004-05-20T08:30:00"})") << "Date";
         QTest::newRow("Date") << QByteArray(R"({"$date":"2004-05-20"})") << "Date";
         QTest::newRow("Array") << QByteArray(R"([1,"a",null,{"$empty":true},[2.5]])") << "Array";
+        // clang-format on
     }
     void valuesBothWays()
     {
@@ -81,22 +82,16 @@ private slots:
         QTest::addColumn<QByteArray>("value");
         QTest::addColumn<QByteArray>("stored"); // empty: refused
         QTest::addColumn<int>("error");
-        QTest::newRow("number text to Long")
-            << QByteArray("BtwTar1") << QByteArray("\"2100\"") << QByteArray("2100") << 0;
-        QTest::newRow("Long rounds half to even")
-            << QByteArray("BtwTar1") << QByteArray("2100.5") << QByteArray("2100") << 0;
-        QTest::newRow("True to Long")
-            << QByteArray("Offset") << QByteArray("true") << QByteArray("-1") << 0;
-        QTest::newRow("number to String")
-            << QByteArray("msg") << QByteArray("12") << QByteArray("\"12\"") << 0;
-        QTest::newRow("text to Boolean")
-            << QByteArray("UserCancel") << QByteArray("\"True\"") << QByteArray("true") << 0;
-        QTest::newRow("Long overflows")
-            << QByteArray("NbrDec") << QByteArray("1e10") << QByteArray() << 6;
-        QTest::newRow("text that is no number")
-            << QByteArray("NbrDec") << QByteArray("\"x\"") << QByteArray() << 13;
-        QTest::newRow("Null to String")
-            << QByteArray("SQL") << QByteArray("null") << QByteArray() << 94;
+        // clang-format off
+        QTest::newRow("number text to Long") << QByteArray("BtwTar1") << QByteArray("\"2100\"") << QByteArray("2100") << 0;
+        QTest::newRow("Long rounds half to even") << QByteArray("BtwTar1") << QByteArray("2100.5") << QByteArray("2100") << 0;
+        QTest::newRow("True to Long") << QByteArray("Offset") << QByteArray("true") << QByteArray("-1") << 0;
+        QTest::newRow("number to String") << QByteArray("msg") << QByteArray("12") << QByteArray("\"12\"") << 0;
+        QTest::newRow("text to Boolean") << QByteArray("UserCancel") << QByteArray("\"True\"") << QByteArray("true") << 0;
+        QTest::newRow("Long overflows") << QByteArray("NbrDec") << QByteArray("1e10") << QByteArray() << 6;
+        QTest::newRow("text that is no number") << QByteArray("NbrDec") << QByteArray("\"x\"") << QByteArray() << 13;
+        QTest::newRow("Null to String") << QByteArray("SQL") << QByteArray("null") << QByteArray() << 94;
+        // clang-format on
     }
     void valuesTakeTheDeclaredType()
     {
@@ -118,21 +113,13 @@ private slots:
         QTest::addColumn<QByteArray>("request");
         QTest::addColumn<QByteArray>("result");
         QTest::addColumn<QByteArray>("args");
-        QTest::newRow("FilterNumeric keeps its argument as text")
-            << QByteArray(R"({"call": "FilterNumeric", "args": [1234]})") << QByteArray("\"1234\"")
-            << QByteArray(R"(["1234"])");
-        QTest::newRow("FilterNumeric text")
-            << QByteArray(R"({"call": "filternumeric", "args": ["BE 12-34"]})")
-            << QByteArray("\"1234\"") << QByteArray(R"(["BE 12-34"])");
-        QTest::newRow("SCase lowers its argument")
-            << QByteArray(R"({"call": "SCase", "args": ["jAN de SMET"]})")
-            << QByteArray("\"Jan De Smet\"") << QByteArray(R"(["jan de smet"])");
-        QTest::newRow("ControleerBankNr cleans its argument")
-            << QByteArray(R"({"call": "ControleerBankNr", "args": ["000-0000000-97", false]})")
-            << QByteArray("\"000-0000000-97\"") << QByteArray(R"(["000000000097",false])");
-        QTest::newRow("by value stays")
-            << QByteArray(R"({"call": "FilterText", "args": ["a-b", true]})")
-            << QByteArray("\"ab\"") << QByteArray(R"(["a-b",true])");
+        // clang-format off
+        QTest::newRow("FilterNumeric keeps its argument as text") << QByteArray(R"({"call": "FilterNumeric", "args": [1234]})") << QByteArray("\"1234\"") << QByteArray(R"(["1234"])");
+        QTest::newRow("FilterNumeric text") << QByteArray(R"({"call": "filternumeric", "args": ["BE 12-34"]})") << QByteArray("\"1234\"") << QByteArray(R"(["BE 12-34"])");
+        QTest::newRow("SCase lowers its argument") << QByteArray(R"({"call": "SCase", "args": ["jAN de SMET"]})") << QByteArray("\"Jan De Smet\"") << QByteArray(R"(["jan de smet"])");
+        QTest::newRow("ControleerBankNr cleans its argument") << QByteArray(R"({"call": "ControleerBankNr", "args": ["000-0000000-97", false]})") << QByteArray("\"000-0000000-97\"") << QByteArray(R"(["000000000097",false])");
+        QTest::newRow("by value stays") << QByteArray(R"({"call": "FilterText", "args": ["a-b", true]})") << QByteArray("\"ab\"") << QByteArray(R"(["a-b",true])");
+        // clang-format on
     }
     void byReferenceWriteBack()
     {
@@ -149,19 +136,12 @@ private slots:
         QTest::addColumn<QByteArray>("result");
         QTest::addColumn<QString>("resultType");
         QTest::addColumn<QByteArray>("argTypes");
-        QTest::newRow("no number is Integer 0")
-            << QByteArray(R"({"call": "CGetal", "args": ["abc"]})") << QByteArray("0") << "Integer"
-            << QByteArray(R"(["String"])");
-        QTest::newRow("decimal comma in nl_BE is Double")
-            << QByteArray(R"({"call": "CGetal", "args": ["12,5"], "env": {"locale": "nl_BE"}})")
-            << QByteArray("12.5") << "Double" << QByteArray(R"(["String"])");
-        QTest::newRow("written-back text")
-            << QByteArray(R"({"call": "FilterNumeric", "args": [12]})") << QByteArray("\"12\"")
-            << "String" << QByteArray(R"(["String"])");
-        QTest::newRow("declared types are not described") << QByteArray(
-            R"({"call": "SetEuro", "args": [2, {"$missing": true}], "env": {"locale": "en_US"}})")
-                                                          << QByteArray("\"2.00\"") << QString()
-                                                          << QByteArray();
+        // clang-format off
+        QTest::newRow("no number is Integer 0") << QByteArray(R"({"call": "CGetal", "args": ["abc"]})") << QByteArray("0") << "Integer" << QByteArray(R"(["String"])");
+        QTest::newRow("decimal comma in nl_BE is Double") << QByteArray(R"({"call": "CGetal", "args": ["12,5"], "env": {"locale": "nl_BE"}})") << QByteArray("12.5") << "Double" << QByteArray(R"(["String"])");
+        QTest::newRow("written-back text") << QByteArray(R"({"call": "FilterNumeric", "args": [12]})") << QByteArray("\"12\"") << "String" << QByteArray(R"(["String"])");
+        QTest::newRow("declared types are not described") << QByteArray( R"({"call": "SetEuro", "args": [2, {"$missing": true}], "env": {"locale": "en_US"}})") << QByteArray("\"2.00\"") << QString() << QByteArray();
+        // clang-format on
     }
     void variantSubtypesOfResultsAndArguments()
     {
@@ -226,24 +206,11 @@ private slots:
     {
         QTest::addColumn<QByteArray>("request");
         QTest::addColumn<QByteArray>("written");
-        QTest::newRow("edit control, all selected")
-            << QByteArray(
-                   R"({"call": "SelEdit", "args": [{"$object": "TextBox", "Text": "12,50", "SelStart": 3}]})")
-            << QByteArray(
-                   R"({"$object":"TextBox","Text":"12,50","SelStart":0,"SelLength":5,"MaxLength":0,)"
-                   R"("Enabled":true,"Left":0.0,"Top":0.0,"Width":0.0,"Height":0.0,"$calls":[]})");
-        QTest::newRow("edit control, caret at the end")
-            << QByteArray(
-                   R"({"call": "SelEdit", "args": [{"$object": "TextBox", "Text": "abc", "Tag": 7}, true]})")
-            << QByteArray(
-                   R"({"$object":"TextBox","Text":"abc","SelStart":3,"SelLength":0,"MaxLength":0,)"
-                   R"("Enabled":true,"Left":0.0,"Top":0.0,"Width":0.0,"Height":0.0,"Tag":7,"$calls":[]})");
-        QTest::newRow("grid cell editor")
-            << QByteArray(R"({"call": "SelEdit", "args": [{"$object": "GridEditor", "Text": "x", )"
-                          R"("EditText": "abcd"}, {"$missing": true}, true]})")
-            << QByteArray(
-                   R"({"$object":"GridEditor","Text":"x","EditText":"abcd","EditSelStart":0,)"
-                   R"("EditSelLength":4,"editMaxLength":0,"$calls":[]})");
+        // clang-format off
+        QTest::newRow("edit control, all selected") << QByteArray( R"({"call": "SelEdit", "args": [{"$object": "TextBox", "Text": "12,50", "SelStart": 3}]})") << QByteArray( R"({"$object":"TextBox","Text":"12,50","SelStart":0,"SelLength":5,"MaxLength":0,)" R"("Enabled":true,"Left":0.0,"Top":0.0,"Width":0.0,"Height":0.0,"$calls":[]})");
+        QTest::newRow("edit control, caret at the end") << QByteArray( R"({"call": "SelEdit", "args": [{"$object": "TextBox", "Text": "abc", "Tag": 7}, true]})") << QByteArray( R"({"$object":"TextBox","Text":"abc","SelStart":3,"SelLength":0,"MaxLength":0,)" R"("Enabled":true,"Left":0.0,"Top":0.0,"Width":0.0,"Height":0.0,"Tag":7,"$calls":[]})");
+        QTest::newRow("grid cell editor") << QByteArray(R"({"call": "SelEdit", "args": [{"$object": "GridEditor", "Text": "x", )" R"("EditText": "abcd"}, {"$missing": true}, true]})") << QByteArray( R"({"$object":"GridEditor","Text":"x","EditText":"abcd","EditSelStart":0,)" R"("EditSelLength":4,"editMaxLength":0,"$calls":[]})");
+        // clang-format on
     }
     void hostObjectsAreWrittenBack()
     {
@@ -273,17 +240,12 @@ private slots:
         QTest::addColumn<QString>("prompt");
         QTest::addColumn<QString>("title");
         QTest::addColumn<int>("answer");
-        QTest::newRow("default answer") << QByteArray() << "Ongeldig Bankrekeningnummer"
-                                        << "Fout !" << 1;
-        QTest::newRow("escape") << QByteArray(R"(, "answers": ["Escape"])")
-                                << "Ongeldig Bankrekeningnummer"
-                                << "Fout !" << 1;
-        QTest::newRow("result number")
-            << QByteArray(R"(, "answers": [2])") << "Ongeldig Bankrekeningnummer"
-            << "Fout !" << 2;
-        QTest::newRow("in French")
-            << QByteArray(R"(, "set": {"Offset": 10000})") << "Num\u00e9ro de compte"
-            << "Erreur !" << 1;
+        // clang-format off
+        QTest::newRow("default answer") << QByteArray() << "Ongeldig Bankrekeningnummer" << "Fout !" << 1;
+        QTest::newRow("escape") << QByteArray(R"(, "answers": ["Escape"])") << "Ongeldig Bankrekeningnummer" << "Fout !" << 1;
+        QTest::newRow("result number") << QByteArray(R"(, "answers": [2])") << "Ongeldig Bankrekeningnummer" << "Fout !" << 2;
+        QTest::newRow("in French") << QByteArray(R"(, "set": {"Offset": 10000})") << "Num\u00e9ro de compte" << "Erreur !" << 1;
+        // clang-format on
     }
     void messageBoxIsAnsweredAndRecorded()
     {
@@ -338,32 +300,22 @@ private slots:
     {
         QTest::addColumn<QByteArray>("line");
         QTest::addColumn<int>("number");
+        // clang-format off
         QTest::newRow("not JSON") << QByteArray("not json") << 5;
         QTest::newRow("not an object") << QByteArray("[1, 2]") << 5;
-        QTest::newRow("bad UTF-8")
-            << QByteArray("{\"call\": \"SCase\", \"args\": [\"\xc3\x28\"]}") << 5;
-        QTest::newRow("args not an array")
-            << QByteArray(R"({"call": "FilterNumeric", "args": "1"})") << 5;
-        QTest::newRow("unknown field")
-            << QByteArray(R"({"call": "FilterNumeric", "args": ["1"], "x": 1})") << 5;
-        QTest::newRow("nested too deep") << QByteArray(R"({"call": "FilterNumeric", "args": )")
-                + QByteArray(100, '[') + QByteArray(100, ']')
-                + "}" << 5;
+        QTest::newRow("bad UTF-8") << QByteArray("{\"call\": \"SCase\", \"args\": [\"\xc3\x28\"]}") << 5;
+        QTest::newRow("args not an array") << QByteArray(R"({"call": "FilterNumeric", "args": "1"})") << 5;
+        QTest::newRow("unknown field") << QByteArray(R"({"call": "FilterNumeric", "args": ["1"], "x": 1})") << 5;
+        QTest::newRow("nested too deep") << QByteArray(R"({"call": "FilterNumeric", "args": )") + QByteArray(100, '[') + QByteArray(100, ']') + "}" << 5;
         QTest::newRow("unknown method") << QByteArray(R"({"call": "DoesNotExist"})") << 438;
         QTest::newRow("argument not optional") << QByteArray(R"({"call": "FilterNumeric"})") << 449;
-        QTest::newRow("required argument left out")
-            << QByteArray(R"({"call": "FilterNumeric", "args": [{"$missing": true}]})") << 449;
-        QTest::newRow("too many arguments")
-            << QByteArray(R"({"call": "FilterNumeric", "args": [1, 2]})") << 450;
-        QTest::newRow("property given two values")
-            << QByteArray(R"({"call": "Offset", "args": [1, 2]})") << 450;
-        QTest::newRow("plain object as argument")
-            << QByteArray(R"({"call": "SelEdit", "args": [{"Text": "x"}]})") << 13;
-        QTest::newRow("bad date") << QByteArray(
-            R"({"call": "CGetal", "args": [{"$date": "2004-13-01"}]})")
-                                  << 13;
-        QTest::newRow("unknown host class")
-            << QByteArray(R"({"call": "SelEdit", "args": [{"$object": "Knob"}]})") << 13;
+        QTest::newRow("required argument left out") << QByteArray(R"({"call": "FilterNumeric", "args": [{"$missing": true}]})") << 449;
+        QTest::newRow("too many arguments") << QByteArray(R"({"call": "FilterNumeric", "args": [1, 2]})") << 450;
+        QTest::newRow("property given two values") << QByteArray(R"({"call": "Offset", "args": [1, 2]})") << 450;
+        QTest::newRow("plain object as argument") << QByteArray(R"({"call": "SelEdit", "args": [{"Text": "x"}]})") << 13;
+        QTest::newRow("bad date") << QByteArray( R"({"call": "CGetal", "args": [{"$date": "2004-13-01"}]})") << 13;
+        QTest::newRow("unknown host class") << QByteArray(R"({"call": "SelEdit", "args": [{"$object": "Knob"}]})") << 13;
+        // clang-format on
     }
     void unreadableRequestsAndTheBatchGoesOn()
     {

@@ -57,22 +57,20 @@ private slots:
     {
         QTest::addColumn<QStringList>("arguments");
         QTest::addColumn<int>("status");
+        // clang-format off
         QTest::newRow("the call ran") << QStringList({ "call", "FilterNumeric", "a1" }) << 0;
-        QTest::newRow("the call ran and reported")
-            << QStringList({ "call", "ControleerBankNr", "123" }) << 0;
+        QTest::newRow("the call ran and reported") << QStringList({ "call", "ControleerBankNr", "123" }) << 0;
         QTest::newRow("run-time error") << QStringList({ "call", "SetEuro", "abc" }) << 1;
         QTest::newRow("unknown method") << QStringList({ "call", "Nope" }) << 2;
         QTest::newRow("argument not optional") << QStringList({ "call", "FilterNumeric" }) << 2;
-        QTest::newRow("argument of the wrong shape")
-            << QStringList({ "call", "SelEdit", R"({"Text": 1})" }) << 2;
+        QTest::newRow("argument of the wrong shape") << QStringList({ "call", "SelEdit", R"({"Text": 1})" }) << 2;
         QTest::newRow("no method") << QStringList({ "call", "--json" }) << 2;
-        QTest::newRow("unknown option")
-            << QStringList({ "call", "--loud", "FilterNumeric", "1" }) << 2;
+        QTest::newRow("unknown option") << QStringList({ "call", "--loud", "FilterNumeric", "1" }) << 2;
         QTest::newRow("option without value") << QStringList({ "call", "--locale" }) << 2;
-        QTest::newRow("bad locale")
-            << QStringList({ "call", "--locale", "xx_QQ", "FilterNumeric", "1" }) << 2;
+        QTest::newRow("bad locale") << QStringList({ "call", "--locale", "xx_QQ", "FilterNumeric", "1" }) << 2;
         QTest::newRow("unknown command") << QStringList({ "frobnicate" }) << 2;
         QTest::newRow("no command") << QStringList() << 2;
+        // clang-format on
     }
     void exitStatus()
     {
@@ -107,20 +105,15 @@ private slots:
     {
         QTest::addColumn<QString>("argument");
         QTest::addColumn<QString>("subtype");
-        QTest::newRow("number") << "12"
-                                << "Integer";
-        QTest::newRow("number with fraction") << "12.5"
-                                              << "Double";
-        QTest::newRow("quoted text") << "\"12\""
-                                     << "String";
-        QTest::newRow("text that is no JSON") << "12,5"
-                                              << "String";
-        QTest::newRow("bank account notation") << "000-0000000-97"
-                                               << "String";
-        QTest::newRow("null") << "null"
-                              << "Null";
-        QTest::newRow("empty") << R"({"$empty": true})"
-                               << "Empty";
+        // clang-format off
+        QTest::newRow("number") << "12" << "Integer";
+        QTest::newRow("number with fraction") << "12.5" << "Double";
+        QTest::newRow("quoted text") << "\"12\"" << "String";
+        QTest::newRow("text that is no JSON") << "12,5" << "String";
+        QTest::newRow("bank account notation") << "000-0000000-97" << "String";
+        QTest::newRow("null") << "null" << "Null";
+        QTest::newRow("empty") << R"({"$empty": true})" << "Empty";
+        // clang-format on
     }
     void argumentsAreJsonOrText()
     {
@@ -173,25 +166,13 @@ private slots:
         QTest::addColumn<QString>("method");
         QTest::addColumn<int>("index");
         QTest::addColumn<QByteArray>("parameter");
-        QTest::newRow("by reference Variant")
-            << "FilterNumeric" << 0
-            << QByteArray(R"({"byRef":true,"name":"Ingave","optional":false,)"
-                          R"("type":"Variant"})");
-        QTest::newRow("object")
-            << "SelEdit" << 0
-            << QByteArray(R"({"byRef":false,"name":"Obj","optional":false,"type":"Object"})");
-        QTest::newRow("optional with default")
-            << "SelEdit" << 1
-            << QByteArray(R"({"byRef":false,"default":false,"name":"StartAtEnd",)"
-                          R"("optional":true,"type":"Boolean"})");
-        QTest::newRow("enumeration")
-            << "SetEuro" << 1
-            << QByteArray(R"({"byRef":false,"default":0,"name":"AddSymbol","optional":true,)"
-                          R"("type":"OstSymbolType"})");
-        QTest::newRow("optional Variant")
-            << "CGetal" << 0
-            << QByteArray(R"({"byRef":false,"default":0,"name":"Number",)"
-                          R"("optional":true,"type":"Variant"})");
+        // clang-format off
+        QTest::newRow("by reference Variant") << "FilterNumeric" << 0 << QByteArray(R"({"byRef":true,"name":"Ingave","optional":false,)" R"("type":"Variant"})");
+        QTest::newRow("object") << "SelEdit" << 0 << QByteArray(R"({"byRef":false,"name":"Obj","optional":false,"type":"Object"})");
+        QTest::newRow("optional with default") << "SelEdit" << 1 << QByteArray(R"({"byRef":false,"default":false,"name":"StartAtEnd",)" R"("optional":true,"type":"Boolean"})");
+        QTest::newRow("enumeration") << "SetEuro" << 1 << QByteArray(R"({"byRef":false,"default":0,"name":"AddSymbol","optional":true,)" R"("type":"OstSymbolType"})");
+        QTest::newRow("optional Variant") << "CGetal" << 0 << QByteArray(R"({"byRef":false,"default":0,"name":"Number",)" R"("optional":true,"type":"Variant"})");
+        // clang-format on
     }
     void methodParameters()
     {
@@ -230,27 +211,13 @@ private slots:
         QTest::addColumn<int>("from");
         QTest::addColumn<QStringList>("members");
         QTest::addColumn<QList<int>>("values");
-        QTest::newRow("published euro sign")
-            << "OstSymbolType" << 0
-            << QStringList({ "vbSymbolNone", "vbSymbolEUR", "vbSymbol\u20ac" })
-            << QList<int>({ 0, 1, 2 });
-        QTest::newRow("payment methods start out of order")
-            << "OstBetalingswijze" << 0
-            << QStringList({ "btKasticket", "btAdminFactuur", "btZero" })
-            << QList<int>({ 20, 21, 0 });
-        QTest::newRow("published diaeresis")
-            << "OstBetalingswijze" << 22
-            << QStringList({ "btDomicili\u00ebring", "btDomicili\u00ebringCredit" })
-            << QList<int>({ 10, 110 });
-        QTest::newRow("negative value first")
-            << "NotFoundIndexType" << 0
-            << QStringList(
-                   { "SetListIndexMinusOne", "SetListIndexLineZero", "SetListIndexUnchanged" })
-            << QList<int>({ -1, 0, 99 });
-        QTest::newRow("shared values")
-            << "OstSpecificIcon" << 0
-            << QStringList({ "spiDefault", "spiDis", "spiGrey", "spiMove" })
-            << QList<int>({ 0, 2000, 1000, 0 });
+        // clang-format off
+        QTest::newRow("published euro sign") << "OstSymbolType" << 0 << QStringList({ "vbSymbolNone", "vbSymbolEUR", "vbSymbol\u20ac" }) << QList<int>({ 0, 1, 2 });
+        QTest::newRow("payment methods start out of order") << "OstBetalingswijze" << 0 << QStringList({ "btKasticket", "btAdminFactuur", "btZero" }) << QList<int>({ 20, 21, 0 });
+        QTest::newRow("published diaeresis") << "OstBetalingswijze" << 22 << QStringList({ "btDomicili\u00ebring", "btDomicili\u00ebringCredit" }) << QList<int>({ 10, 110 });
+        QTest::newRow("negative value first") << "NotFoundIndexType" << 0 << QStringList( { "SetListIndexMinusOne", "SetListIndexLineZero", "SetListIndexUnchanged" }) << QList<int>({ -1, 0, 99 });
+        QTest::newRow("shared values") << "OstSpecificIcon" << 0 << QStringList({ "spiDefault", "spiDis", "spiGrey", "spiMove" }) << QList<int>({ 0, 2000, 1000, 0 });
+        // clang-format on
     }
     void enumerationsInDeclarationOrder()
     {

@@ -40,20 +40,15 @@ private slots:
     {
         QTest::addColumn<QByteArray>("line");
         QTest::addColumn<int>("outcome");
-        QTest::newRow("a call that runs")
-            << QByteArray(R"({"call": "FilterNumeric", "args": ["a1"]})")
-            << int(Session::Outcome::Ran);
-        QTest::newRow("nothing to call")
-            << QByteArray(R"({"set": {"Offset": 10000}})") << int(Session::Outcome::Ran);
-        QTest::newRow("a run-time error") << QByteArray(R"({"call": "SetEuro", "args": ["x"]})")
-                                          << int(Session::Outcome::RuntimeError);
+        // clang-format off
+        QTest::newRow("a call that runs") << QByteArray(R"({"call": "FilterNumeric", "args": ["a1"]})") << int(Session::Outcome::Ran);
+        QTest::newRow("nothing to call") << QByteArray(R"({"set": {"Offset": 10000}})") << int(Session::Outcome::Ran);
+        QTest::newRow("a run-time error") << QByteArray(R"({"call": "SetEuro", "args": ["x"]})") << int(Session::Outcome::RuntimeError);
         QTest::newRow("bad JSON") << QByteArray("{") << int(Session::Outcome::Unreadable);
-        QTest::newRow("unknown method")
-            << QByteArray(R"({"call": "Nope"})") << int(Session::Outcome::Unreadable);
-        QTest::newRow("unknown property in set")
-            << QByteArray(R"({"set": {"Nope": 1}})") << int(Session::Outcome::Unreadable);
-        QTest::newRow("args without call")
-            << QByteArray(R"({"args": [1]})") << int(Session::Outcome::Unreadable);
+        QTest::newRow("unknown method") << QByteArray(R"({"call": "Nope"})") << int(Session::Outcome::Unreadable);
+        QTest::newRow("unknown property in set") << QByteArray(R"({"set": {"Nope": 1}})") << int(Session::Outcome::Unreadable);
+        QTest::newRow("args without call") << QByteArray(R"({"args": [1]})") << int(Session::Outcome::Unreadable);
+        // clang-format on
     }
     void outcomes()
     {
@@ -97,11 +92,13 @@ private slots:
     void badAnswersAreUnreadable_data()
     {
         QTest::addColumn<QByteArray>("answers");
+        // clang-format off
         QTest::newRow("not an array") << QByteArray("6");
         QTest::newRow("null") << QByteArray("[null]");
         QTest::newRow("cancel that is false") << QByteArray(R"([{"cancel": false}])");
         QTest::newRow("scan that is no text") << QByteArray(R"([{"scan": 1}])");
         QTest::newRow("unknown answer") << QByteArray(R"([{"press": "J"}])");
+        // clang-format on
     }
     void badAnswersAreUnreadable()
     {
@@ -151,15 +148,15 @@ private slots:
     void badEnvironmentIsUnreadable_data()
     {
         QTest::addColumn<QByteArray>("env");
+        // clang-format off
         QTest::newRow("unknown locale") << QByteArray(R"({"locale": "xx_QQ"})");
         QTest::newRow("clock that is no date") << QByteArray(R"({"now": "tomorrow"})");
         QTest::newRow("sound that is no flag") << QByteArray(R"({"sound": "off"})");
         QTest::newRow("unknown field") << QByteArray(R"({"timezone": "CET"})");
         QTest::newRow("twips of zero") << QByteArray(R"({"screen": {"twipsPerPixelX": 0}})");
         QTest::newRow("cursor with one number") << QByteArray(R"({"screen": {"cursor": [1]}})");
-        QTest::newRow("taskbar without bottom")
-            << QByteArray(R"({"screen": {"taskbar": {"left": 0, "top": 0,
-                                                                  "right": 1, "x": 2}}})");
+        QTest::newRow("taskbar without bottom") << QByteArray(R"({"screen": {"taskbar": {"left": 0, "top": 0, "right": 1, "x": 2}}})");
+        // clang-format on
     }
     void badEnvironmentIsUnreadable()
     {

@@ -45,6 +45,7 @@ private slots:
     {
         QTest::addColumn<int>("which");
         QTest::addColumn<int>("number");
+        // clang-format off
         QTest::newRow("read a missing property") << 0 << 438;
         QTest::newRow("write a missing property") << 1 << 438;
         QTest::newRow("no object") << 2 << 91;
@@ -52,6 +53,7 @@ private slots:
         QTest::newRow("read-only property") << 4 << 383;
         QTest::newRow("unknown operation") << 5 << 438;
         QTest::newRow("operation with too many arguments") << 6 << 450;
+        // clang-format on
     }
     void errors()
     {

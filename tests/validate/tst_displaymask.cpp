@@ -15,18 +15,12 @@ private slots:
         QTest::addColumn<QString>("pattern");
         QTest::addColumn<QString>("text");
         QTest::addColumn<QString>("shown");
-        QTest::newRow("bank account") << "&&&\\-&&&&&&&\\-&&"
-                                      << "123456789002"
-                                      << "123-4567890-02";
-        QTest::newRow("short text leaves the first placeholders empty") << "&&&\\-&&&&&&&\\-&&"
-                                                                        << "5"
-                                                                        << "--5";
-        QTest::newRow("long text puts the surplus in front") << "&&&&\\.&&&\\.&&&"
-                                                             << "040317070101"
-                                                             << "040317.070.101";
-        QTest::newRow("empty text shows the literals") << "&&&&&&\\.&&&\\.&&"
-                                                       << ""
-                                                       << "..";
+        // clang-format off
+        QTest::newRow("bank account") << "&&&\\-&&&&&&&\\-&&" << "123456789002" << "123-4567890-02";
+        QTest::newRow("short text leaves the first placeholders empty") << "&&&\\-&&&&&&&\\-&&" << "5" << "--5";
+        QTest::newRow("long text puts the surplus in front") << "&&&&\\.&&&\\.&&&" << "040317070101" << "040317.070.101";
+        QTest::newRow("empty text shows the literals") << "&&&&&&\\.&&&\\.&&" << "" << "..";
+        // clang-format on
     }
     void examples()
     {
@@ -40,9 +34,11 @@ private slots:
     void showsWhatFormatShows_data()
     {
         QTest::addColumn<QString>("pattern");
+        // clang-format off
         QTest::newRow("bank account") << "&&&\\-&&&&&&&\\-&&";
         QTest::newRow("enterprise number") << "&&&&\\.&&&\\.&&&";
         QTest::newRow("national number") << "&&&&&&\\.&&&\\.&&";
+        // clang-format on
     }
     void showsWhatFormatShows()
     {

@@ -58,49 +58,18 @@ private slots:
         QTest::addColumn<QVariantMap>("message");
         const QString fout = QStringLiteral("Fout !");
         const QString lang = QStringLiteral(" [LL 31031 ?] ");
-        QTest::newRow("bank, dutch") << "ControleerBankNr"
-                                     << "123-4567890-12" << 0 << "123456789012"
-                                     << messageBox("Ongeldig Bankrekeningnummer :" + cr2
-                                                + "Schrijfwijze  000000000000  of  000-0000000-00",
-                                            48, fout);
-        QTest::newRow("bank, german markers")
-            << "ControleerBankNr"
-            << "abc" << 30000 << ""
-            << messageBox(" [LL 31002 ?] " + cr2 + " [LL 31001 ?] ", 48, lang);
-        QTest::newRow("vat, dutch") << "ControleerVAT"
-                                    << "0123.456.748" << 0 << "0123456748"
-                                    << messageBox("Ongeldig Ondernemingsnummer :" + cr2
-                                               + "Schrijfwijze  0000000000  of  0000.000.000",
-                                           48, fout);
-        QTest::newRow("vat, german markers")
-            << "ControleerVAT"
-            << "123456749" << 30000 << "123456749"
-            << messageBox(" [LL 31010 ?] " + cr2 + " [LL 31011 ?] ", 48, lang);
-        QTest::newRow("national number, dutch")
-            << "ControleerNatNr"
-            << "85.07.30-033.29" << 0 << "85073003329"
-            << messageBox("Ongeldig Nationaal Nummer :" + cr2
-                       + "Schrijfwijze  00000000000  of  000000.000.00",
-                   48, fout);
-        QTest::newRow("national number, german markers")
-            << "ControleerNatNr"
-            << "x" << 30000 << ""
-            << messageBox(" [LL 31026 ?] " + cr2 + " [LL 31027 ?] ", 48, lang);
-        QTest::newRow("identity card, rewritten number as prompt")
-            << "ControleerIdentNr"
-            << "123456789097" << 0 << "123456789000"
-            << messageBox("123456789000", -1, "Controle Nummer Identiteitskaart");
-        QTest::newRow("identity card, german marker title")
-            << "ControleerIdentNr"
-            << "591-2345678-29" << 30000 << "591-2345678-29"
-            << messageBox("591-2345678-29", -1, " [LL 31040 ?] ");
-        QTest::newRow("payment reference, typed text in prompt")
-            << "ControleerOGM"
-            << "+++000/0000/09797+++" << 0 << ""
-            << messageBox("+++000/0000/09797+++ is een ongeldige OGM...", 48, fout);
-        QTest::newRow("payment reference, german markers")
-            << "ControleerOGM"
-            << "12" << 30000 << "" << messageBox("12 [LL 31012 ?] ", 48, lang);
+        // clang-format off
+        QTest::newRow("bank, dutch") << "ControleerBankNr" << "123-4567890-12" << 0 << "123456789012" << messageBox("Ongeldig Bankrekeningnummer :" + cr2 + "Schrijfwijze  000000000000  of  000-0000000-00", 48, fout);
+        QTest::newRow("bank, german markers") << "ControleerBankNr" << "abc" << 30000 << "" << messageBox(" [LL 31002 ?] " + cr2 + " [LL 31001 ?] ", 48, lang);
+        QTest::newRow("vat, dutch") << "ControleerVAT" << "0123.456.748" << 0 << "0123456748" << messageBox("Ongeldig Ondernemingsnummer :" + cr2 + "Schrijfwijze  0000000000  of  0000.000.000", 48, fout);
+        QTest::newRow("vat, german markers") << "ControleerVAT" << "123456749" << 30000 << "123456749" << messageBox(" [LL 31010 ?] " + cr2 + " [LL 31011 ?] ", 48, lang);
+        QTest::newRow("national number, dutch") << "ControleerNatNr" << "85.07.30-033.29" << 0 << "85073003329" << messageBox("Ongeldig Nationaal Nummer :" + cr2 + "Schrijfwijze  00000000000  of  000000.000.00", 48, fout);
+        QTest::newRow("national number, german markers") << "ControleerNatNr" << "x" << 30000 << "" << messageBox(" [LL 31026 ?] " + cr2 + " [LL 31027 ?] ", 48, lang);
+        QTest::newRow("identity card, rewritten number as prompt") << "ControleerIdentNr" << "123456789097" << 0 << "123456789000" << messageBox("123456789000", -1, "Controle Nummer Identiteitskaart");
+        QTest::newRow("identity card, german marker title") << "ControleerIdentNr" << "591-2345678-29" << 30000 << "591-2345678-29" << messageBox("591-2345678-29", -1, " [LL 31040 ?] ");
+        QTest::newRow("payment reference, typed text in prompt") << "ControleerOGM" << "+++000/0000/09797+++" << 0 << "" << messageBox("+++000/0000/09797+++ is een ongeldige OGM...", 48, fout);
+        QTest::newRow("payment reference, german markers") << "ControleerOGM" << "12" << 30000 << "" << messageBox("12 [LL 31012 ?] ", 48, lang);
+        // clang-format on
     }
     void wrongNumberMessages()
     {
@@ -138,45 +107,20 @@ private slots:
         QTest::addColumn<bool>("mbox");
         QTest::addColumn<QString>("after");
         QTest::addColumn<QString>("result");
-        QTest::newRow("bank valid") << "ControleerBankNr"
-                                    << "539 0075470 34" << true << "539007547034"
-                                    << "539-0075470-34";
-        QTest::newRow("bank wrong, MBox False") << "ControleerBankNr"
-                                                << "123-4567890-12" << false << "123456789012"
-                                                << "";
-        QTest::newRow("bank blank untouched") << "ControleerBankNr"
-                                              << "   " << true << "   "
-                                              << "";
-        QTest::newRow("vat valid") << "ControleerVAT"
-                                   << "BE 0403.170.701" << true << "0403170701"
-                                   << "0403.170.701";
-        QTest::newRow("vat zero shortcut") << "ControleerVAT"
-                                           << "0" << true << "0"
-                                           << "0000.000.000";
-        QTest::newRow("national number from 2000") << "ControleerNatNr"
-                                                   << "17.07.30-033.84" << true << "17073003384"
-                                                   << "170730.033.84";
-        QTest::newRow("national number wrong, MBox False")
-            << "ControleerNatNr"
-            << "85073003329" << false << "85073003329"
-            << "";
-        QTest::newRow("identity card valid after rewrite")
-            << "ControleerIdentNr"
-            << "000000009797" << true << "000000009700"
-            << "000000009700";
-        QTest::newRow("identity card wrong, MBox False")
-            << "ControleerIdentNr"
-            << "591234567828" << false << "591234567828"
-            << "";
-        QTest::newRow("payment reference valid") << "ControleerOGM"
-                                                 << "***000/0000/01919***" << true << "000000001919"
-                                                 << "000/0000/01919";
-        QTest::newRow("payment reference wrong, MBox False") << "ControleerOGM"
-                                                             << "000/0000/09797" << false << ""
-                                                             << "";
-        QTest::newRow("payment reference blank untouched") << "ControleerOGM"
-                                                           << " " << true << " "
-                                                           << "";
+        // clang-format off
+        QTest::newRow("bank valid") << "ControleerBankNr" << "539 0075470 34" << true << "539007547034" << "539-0075470-34";
+        QTest::newRow("bank wrong, MBox False") << "ControleerBankNr" << "123-4567890-12" << false << "123456789012" << "";
+        QTest::newRow("bank blank untouched") << "ControleerBankNr" << "   " << true << "   " << "";
+        QTest::newRow("vat valid") << "ControleerVAT" << "BE 0403.170.701" << true << "0403170701" << "0403.170.701";
+        QTest::newRow("vat zero shortcut") << "ControleerVAT" << "0" << true << "0" << "0000.000.000";
+        QTest::newRow("national number from 2000") << "ControleerNatNr" << "17.07.30-033.84" << true << "17073003384" << "170730.033.84";
+        QTest::newRow("national number wrong, MBox False") << "ControleerNatNr" << "85073003329" << false << "85073003329" << "";
+        QTest::newRow("identity card valid after rewrite") << "ControleerIdentNr" << "000000009797" << true << "000000009700" << "000000009700";
+        QTest::newRow("identity card wrong, MBox False") << "ControleerIdentNr" << "591234567828" << false << "591234567828" << "";
+        QTest::newRow("payment reference valid") << "ControleerOGM" << "***000/0000/01919***" << true << "000000001919" << "000/0000/01919";
+        QTest::newRow("payment reference wrong, MBox False") << "ControleerOGM" << "000/0000/09797" << false << "" << "";
+        QTest::newRow("payment reference blank untouched") << "ControleerOGM" << " " << true << " " << "";
+        // clang-format on
     }
     void noMessage()
     {
@@ -239,9 +183,11 @@ private slots:
     {
         QTest::addColumn<QVariant>("answer");
         QTest::addColumn<QString>("result");
+        // clang-format off
         QTest::newRow("answer 1 accepts the number") << QVariant(1) << "591-2345678-29";
         QTest::newRow("answer 2 keeps it refused") << QVariant(2) << "";
         QTest::newRow("enter chooses no acceptance") << QVariant(QStringLiteral("Enter")) << "";
+        // clang-format on
     }
     void identityCardAcceptedAsForeign()
     {
@@ -272,17 +218,11 @@ private slots:
         QTest::addColumn<int>("offset");
         QTest::addColumn<QString>("vbCr2");
         QTest::addColumn<QString>("prompt");
-        QTest::newRow("dutch")
-            << 0 << cr2
-            << "ReferentieNummer 12345678901 bij bepalen van OGM overschrijdt 9 tekens !" + cr2
-                + "Neem contact op met Velantis Help-Desk.";
-        QTest::newRow("german markers")
-            << 30000 << cr2 << " [LL 31221 ?] 12345678901 [LL 31222 ?] " + cr2 + " [LL 39700 ?] ";
-        QTest::newRow("host's paragraph break")
-            << 0 << "\r\n"
-            << "ReferentieNummer 12345678901 bij bepalen van OGM "
-               "overschrijdt 9 tekens !\r\nNeem contact op met Velantis "
-               "Help-Desk.";
+        // clang-format off
+        QTest::newRow("dutch") << 0 << cr2 << "ReferentieNummer 12345678901 bij bepalen van OGM overschrijdt 9 tekens !" + cr2 + "Neem contact op met Velantis Help-Desk.";
+        QTest::newRow("german markers") << 30000 << cr2 << " [LL 31221 ?] 12345678901 [LL 31222 ?] " + cr2 + " [LL 39700 ?] ";
+        QTest::newRow("host's paragraph break") << 0 << "\r\n" << "ReferentieNummer 12345678901 bij bepalen van OGM " "overschrijdt 9 tekens !\r\nNeem contact op met Velantis " "Help-Desk.";
+        // clang-format on
     }
     void getOgmReportsAndGoesOn()
     {
@@ -324,16 +264,14 @@ private slots:
     {
         QTest::addColumn<QString>("method");
         QTest::addColumn<QStringList>("parameters"); // name:optional default:byRef
+        // clang-format off
         QTest::newRow("bank") << "ControleerBankNr" << QStringList { "BankNr::ref", "MBox:true:" };
-        QTest::newRow("vat") << "ControleerVAT"
-                             << QStringList { "VATnr::ref", "MBox:false:", "LandCode::ref" };
-        QTest::newRow("national") << "ControleerNatNr"
-                                  << QStringList { "NatNr::ref", "MBox:true:", "LandCode::" };
-        QTest::newRow("identity") << "ControleerIdentNr"
-                                  << QStringList { "IdentNr::ref", "MBox:true:" };
+        QTest::newRow("vat") << "ControleerVAT" << QStringList { "VATnr::ref", "MBox:false:", "LandCode::ref" };
+        QTest::newRow("national") << "ControleerNatNr" << QStringList { "NatNr::ref", "MBox:true:", "LandCode::" };
+        QTest::newRow("identity") << "ControleerIdentNr" << QStringList { "IdentNr::ref", "MBox:true:" };
         QTest::newRow("make reference") << "GetOGM" << QStringList { "ReferentieNummer::ref" };
-        QTest::newRow("check reference")
-            << "ControleerOGM" << QStringList { "OGM::ref", "MBox:true:" };
+        QTest::newRow("check reference") << "ControleerOGM" << QStringList { "OGM::ref", "MBox:true:" };
+        // clang-format on
     }
     void publishedOnceWithTheirDefaults()
     {

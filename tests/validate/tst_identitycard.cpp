@@ -17,46 +17,21 @@ private slots:
         QTest::addColumn<QString>("after");
         QTest::addColumn<QString>("display");
         // 5912345678 modulo 97 is 29; 1234567890 modulo 97 is 2.
-        QTest::newRow("valid") << "591234567829"
-                               << "591234567829"
-                               << "591234567829";
-        QTest::newRow("remainder below 10") << "123456789002"
-                                            << "123456789002"
-                                            << "123456789002";
-        QTest::newRow("remainder 0 written 00") << "000000009700"
-                                                << "000000009700"
-                                                << "000000009700";
-        QTest::newRow("97 rewritten to 00, valid") << "000000009797"
-                                                   << "000000009700"
-                                                   << "000000009700";
-        QTest::newRow("97 rewritten to 00, still wrong") << "123456789097"
-                                                         << "123456789000"
-                                                         << "";
-        QTest::newRow("wrong check digits") << "591234567828"
-                                            << "591234567828"
-                                            << "";
-        QTest::newRow("separators are not cleaned") << "591-2345678-29"
-                                                    << "591-2345678-29"
-                                                    << "";
-        QTest::newRow("eleven digits") << "59123456782"
-                                       << "59123456782"
-                                       << "";
-        QTest::newRow("thirteen digits") << "5912345678290"
-                                         << "5912345678290"
-                                         << "";
-        QTest::newRow("full-width digits read as 0 on both sides")
-            << QStringLiteral(
-                   "\uFF15\uFF19\uFF11\uFF12\uFF13\uFF14\uFF15\uFF16\uFF17\uFF18\uFF12\uFF19")
-            << QStringLiteral(
-                   "\uFF15\uFF19\uFF11\uFF12\uFF13\uFF14\uFF15\uFF16\uFF17\uFF18\uFF12\uFF19")
-            << QStringLiteral(
-                   "\uFF15\uFF19\uFF11\uFF12\uFF13\uFF14\uFF15\uFF16\uFF17\uFF18\uFF12\uFF19");
+        // clang-format off
+        QTest::newRow("valid") << "591234567829" << "591234567829" << "591234567829";
+        QTest::newRow("remainder below 10") << "123456789002" << "123456789002" << "123456789002";
+        QTest::newRow("remainder 0 written 00") << "000000009700" << "000000009700" << "000000009700";
+        QTest::newRow("97 rewritten to 00, valid") << "000000009797" << "000000009700" << "000000009700";
+        QTest::newRow("97 rewritten to 00, still wrong") << "123456789097" << "123456789000" << "";
+        QTest::newRow("wrong check digits") << "591234567828" << "591234567828" << "";
+        QTest::newRow("separators are not cleaned") << "591-2345678-29" << "591-2345678-29" << "";
+        QTest::newRow("eleven digits") << "59123456782" << "59123456782" << "";
+        QTest::newRow("thirteen digits") << "5912345678290" << "5912345678290" << "";
+        QTest::newRow("full-width digits read as 0 on both sides") << QStringLiteral( "\uFF15\uFF19\uFF11\uFF12\uFF13\uFF14\uFF15\uFF16\uFF17\uFF18\uFF12\uFF19") << QStringLiteral( "\uFF15\uFF19\uFF11\uFF12\uFF13\uFF14\uFF15\uFF16\uFF17\uFF18\uFF12\uFF19") << QStringLiteral( "\uFF15\uFF19\uFF11\uFF12\uFF13\uFF14\uFF15\uFF16\uFF17\uFF18\uFF12\uFF19");
         // Twelve characters that are not numeric both read as 0, and 0 = 0.
-        QTest::newRow("twelve letters read as 0 on both sides") << "abcdefghijkl"
-                                                                << "abcdefghijkl"
-                                                                << "abcdefghijkl";
-        QTest::newRow("embedded NUL reads the part as 0")
-            << QStringLiteral("59123456\u0000829") << QStringLiteral("59123456\u0000829") << "";
+        QTest::newRow("twelve letters read as 0 on both sides") << "abcdefghijkl" << "abcdefghijkl" << "abcdefghijkl";
+        QTest::newRow("embedded NUL reads the part as 0") << QStringLiteral("59123456\u0000829") << QStringLiteral("59123456\u0000829") << "";
+        // clang-format on
     }
     void checks()
     {

@@ -18,35 +18,18 @@ private slots:
         QTest::addColumn<QString>("ogm");
         QTest::addColumn<bool>("tooLong");
         // 12345 modulo 97 is 26; 2345678901 modulo 97 is 69.
-        QTest::newRow("empty reference: remainder 0 written 97") << ""
-                                                                 << "0"
-                                                                 << "000/0000/00097" << false;
-        QTest::newRow("reference 19") << "19"
-                                      << "19"
-                                      << "000/0000/01919" << false;
-        QTest::newRow("reference 12345") << "12345"
-                                         << "12345"
-                                         << "000/0012/34526" << false;
-        QTest::newRow("leading zeros dropped from the variable") << "0000012345"
-                                                                 << "12345"
-                                                                 << "000/0012/34526" << false;
-        QTest::newRow("multiple of 97 gets 97") << "97"
-                                                << "97"
-                                                << "000/0000/09797" << false;
-        QTest::newRow("invoice number with letters") << "F-12345"
-                                                     << "12345"
-                                                     << "000/0012/34526" << false;
-        QTest::newRow("ten digits fit") << "9999999999"
-                                        << "9999999999"
-                                        << "999/9999/99948" << false;
-        QTest::newRow("eleven digits keep the last ten") << "12345678901"
-                                                         << "2345678901"
-                                                         << "234/5678/90169" << true;
-        QTest::newRow("letters only") << "REF"
-                                      << "0"
-                                      << "000/0000/00097" << false;
-        QTest::newRow("arabic-indic digits dropped") << QStringLiteral("\u0661\u0662") << "0"
-                                                     << "000/0000/00097" << false;
+        // clang-format off
+        QTest::newRow("empty reference: remainder 0 written 97") << "" << "0" << "000/0000/00097" << false;
+        QTest::newRow("reference 19") << "19" << "19" << "000/0000/01919" << false;
+        QTest::newRow("reference 12345") << "12345" << "12345" << "000/0012/34526" << false;
+        QTest::newRow("leading zeros dropped from the variable") << "0000012345" << "12345" << "000/0012/34526" << false;
+        QTest::newRow("multiple of 97 gets 97") << "97" << "97" << "000/0000/09797" << false;
+        QTest::newRow("invoice number with letters") << "F-12345" << "12345" << "000/0012/34526" << false;
+        QTest::newRow("ten digits fit") << "9999999999" << "9999999999" << "999/9999/99948" << false;
+        QTest::newRow("eleven digits keep the last ten") << "12345678901" << "2345678901" << "234/5678/90169" << true;
+        QTest::newRow("letters only") << "REF" << "0" << "000/0000/00097" << false;
+        QTest::newRow("arabic-indic digits dropped") << QStringLiteral("\u0661\u0662") << "0" << "000/0000/00097" << false;
+        // clang-format on
     }
     void make()
     {
@@ -76,41 +59,20 @@ private slots:
         QTest::addColumn<QString>("typed");
         QTest::addColumn<QString>("after");
         QTest::addColumn<QString>("display");
-        QTest::newRow("with plus signs") << "+++000/0000/01919+++"
-                                         << "000000001919"
-                                         << "000/0000/01919";
-        QTest::newRow("with asterisks") << "***000/0012/34526***"
-                                        << "000001234526"
-                                        << "000/0012/34526";
-        QTest::newRow("plain digits") << "000001234526"
-                                      << "000001234526"
-                                      << "000/0012/34526";
-        QTest::newRow("control characters dropped")
-            << QStringLiteral("000/0012/\u000034526\r\n") << "000001234526"
-            << "000/0012/34526";
-        QTest::newRow("largest first part") << "214/7483/64765"
-                                            << "214748364765"
-                                            << "214/7483/64765";
-        QTest::newRow("multiple of 97 with 97 fails") << "000/0000/09797"
-                                                      << ""
-                                                      << "";
-        QTest::newRow("multiple of 97 with 00 passes") << "000/0000/09700"
-                                                       << "000000009700"
-                                                       << "000/0000/09700";
-        QTest::newRow("wrong check digits") << "000/0012/34527"
-                                            << ""
-                                            << "";
-        QTest::newRow("eleven digits") << "00/0012/34526"
-                                       << ""
-                                       << "";
-        QTest::newRow("thirteen large digits do not overflow") << "9999/9999/99948"
-                                                               << ""
-                                                               << "";
-        QTest::newRow("letters only") << "OGM"
-                                      << ""
-                                      << "";
-        QTest::newRow("full-width digits dropped") << QStringLiteral("\uFF11\uFF19") << ""
-                                                   << "";
+        // clang-format off
+        QTest::newRow("with plus signs") << "+++000/0000/01919+++" << "000000001919" << "000/0000/01919";
+        QTest::newRow("with asterisks") << "***000/0012/34526***" << "000001234526" << "000/0012/34526";
+        QTest::newRow("plain digits") << "000001234526" << "000001234526" << "000/0012/34526";
+        QTest::newRow("control characters dropped") << QStringLiteral("000/0012/\u000034526\r\n") << "000001234526" << "000/0012/34526";
+        QTest::newRow("largest first part") << "214/7483/64765" << "214748364765" << "214/7483/64765";
+        QTest::newRow("multiple of 97 with 97 fails") << "000/0000/09797" << "" << "";
+        QTest::newRow("multiple of 97 with 00 passes") << "000/0000/09700" << "000000009700" << "000/0000/09700";
+        QTest::newRow("wrong check digits") << "000/0012/34527" << "" << "";
+        QTest::newRow("eleven digits") << "00/0012/34526" << "" << "";
+        QTest::newRow("thirteen large digits do not overflow") << "9999/9999/99948" << "" << "";
+        QTest::newRow("letters only") << "OGM" << "" << "";
+        QTest::newRow("full-width digits dropped") << QStringLiteral("\uFF11\uFF19") << "" << "";
+        // clang-format on
     }
     void check()
     {
@@ -137,8 +99,10 @@ private slots:
     void firstPartBeyond32BitsOverflows_data()
     {
         QTest::addColumn<QString>("typed");
+        // clang-format off
         QTest::newRow("one past the largest") << "214/7483/64800";
         QTest::newRow("largest ten digits") << "+++999/9999/99948+++";
+        // clang-format on
     }
     void firstPartBeyond32BitsOverflows()
     {

@@ -16,54 +16,20 @@ private slots:
         QTest::addColumn<QString>("cleaned");
         QTest::addColumn<QString>("display");
         // 1234567 modulo 97 is 48, so its check digits are 49; 4031707 needs 01.
-        QTest::newRow("prefix and points") << "BE 0123.456.749"
-                                           << "BE"
-                                           << "0123456749"
-                                           << "0123.456.749";
-        QTest::newRow("empty land code means BE") << "0123456749"
-                                                  << ""
-                                                  << "0123456749"
-                                                  << "0123.456.749";
-        QTest::newRow("blanks") << "0403 170 701"
-                                << "BE"
-                                << "0403170701"
-                                << "0403.170.701";
-        QTest::newRow("dashes and control characters")
-            << QStringLiteral("0403-170\u0000-701\r") << "BE"
-            << "0403170701"
-            << "0403.170.701";
-        QTest::newRow("multiple of 97 needs 97") << "0000.009.797"
-                                                 << "BE"
-                                                 << "0000009797"
-                                                 << "0000.009.797";
-        QTest::newRow("no length test") << "040317070101"
-                                        << "BE"
-                                        << "040317070101"
-                                        << "040317.070.101";
-        QTest::newRow("nine digits read wrongly") << "123456749"
-                                                  << "BE"
-                                                  << "123456749"
-                                                  << "";
-        QTest::newRow("wrong check digits") << "0123.456.748"
-                                            << "BE"
-                                            << "0123456748"
-                                            << "";
-        QTest::newRow("00 is not the 0 shortcut") << "00"
-                                                  << "BE"
-                                                  << "00"
-                                                  << "";
-        QTest::newRow("blank before 0 is not the shortcut") << " 0"
-                                                            << "BE"
-                                                            << "0"
-                                                            << "";
-        QTest::newRow("letters only") << "BTW"
-                                      << "BE"
-                                      << ""
-                                      << "";
-        QTest::newRow("full-width digits dropped")
-            << QStringLiteral("\uFF10\uFF14\uFF10\uFF13\uFF11\uFF17\uFF10\uFF17\uFF10\uFF11") << ""
-            << ""
-            << "";
+        // clang-format off
+        QTest::newRow("prefix and points") << "BE 0123.456.749" << "BE" << "0123456749" << "0123.456.749";
+        QTest::newRow("empty land code means BE") << "0123456749" << "" << "0123456749" << "0123.456.749";
+        QTest::newRow("blanks") << "0403 170 701" << "BE" << "0403170701" << "0403.170.701";
+        QTest::newRow("dashes and control characters") << QStringLiteral("0403-170\u0000-701\r") << "BE" << "0403170701" << "0403.170.701";
+        QTest::newRow("multiple of 97 needs 97") << "0000.009.797" << "BE" << "0000009797" << "0000.009.797";
+        QTest::newRow("no length test") << "040317070101" << "BE" << "040317070101" << "040317.070.101";
+        QTest::newRow("nine digits read wrongly") << "123456749" << "BE" << "123456749" << "";
+        QTest::newRow("wrong check digits") << "0123.456.748" << "BE" << "0123456748" << "";
+        QTest::newRow("00 is not the 0 shortcut") << "00" << "BE" << "00" << "";
+        QTest::newRow("blank before 0 is not the shortcut") << " 0" << "BE" << "0" << "";
+        QTest::newRow("letters only") << "BTW" << "BE" << "" << "";
+        QTest::newRow("full-width digits dropped") << QStringLiteral("\uFF10\uFF14\uFF10\uFF13\uFF11\uFF17\uFF10\uFF17\uFF10\uFF11") << "" << "" << "";
+        // clang-format on
     }
     void belgianNumbers()
     {
@@ -85,18 +51,12 @@ private slots:
         QTest::addColumn<QString>("input");
         QTest::addColumn<QString>("landCode");
         QTest::addColumn<QString>("display");
-        QTest::newRow("zero shortcut skips the check") << "0"
-                                                       << "BE"
-                                                       << "0000.000.000";
-        QTest::newRow("zero shortcut with empty land code") << "0"
-                                                            << ""
-                                                            << "0000.000.000";
-        QTest::newRow("foreign number unchecked") << "NL 8043.64.789.B01"
-                                                  << "NL"
-                                                  << "NL 8043.64.789.B01";
-        QTest::newRow("land code is case-sensitive") << "0123.456.748"
-                                                     << "be"
-                                                     << "0123.456.748";
+        // clang-format off
+        QTest::newRow("zero shortcut skips the check") << "0" << "BE" << "0000.000.000";
+        QTest::newRow("zero shortcut with empty land code") << "0" << "" << "0000.000.000";
+        QTest::newRow("foreign number unchecked") << "NL 8043.64.789.B01" << "NL" << "NL 8043.64.789.B01";
+        QTest::newRow("land code is case-sensitive") << "0123.456.748" << "be" << "0123.456.748";
+        // clang-format on
     }
     void passedThrough()
     {
