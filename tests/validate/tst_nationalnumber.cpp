@@ -1,8 +1,12 @@
 #include "validate/nationalnumber.h"
 
+#include "identifiermethod.h"
+
 #include <QTest>
 
 using namespace qor;
+using test::cr2;
+using test::messageBox;
 
 class TestNationalNumber : public QObject
 {
@@ -25,11 +29,9 @@ private slots:
         QTest::newRow("remainder 0, from 2000") << "00000009729" << "00000009729" << "000000.097.29";
         QTest::newRow("check1 68 gives check2 97") << "00000002997" << "00000002997" << "000000.029.97";
         QTest::newRow("check1 69 gives check2 1") << "00000002801" << "00000002801" << "000000.028.01";
-        QTest::newRow("control characters dropped") << QStringLiteral("850730\u0000033\t28\n") << "85073003328" << "850730.033.28";
         QTest::newRow("length not enforced") << "97" << "97" << "..97";
         QTest::newRow("wrong check digits") << "85.07.30-033.29" << "85073003329" << "";
         QTest::newRow("letters only") << "geen" << "" << "";
-        QTest::newRow("arabic-indic digits dropped") << QStringLiteral("\u0668\u0665\u0660\u0667") << "" << "";
         // clang-format on
     }
     void checksAndCleans()
@@ -85,6 +87,19 @@ private slots:
         QCOMPARE(check.display.size(), natNr.size() + 2);
         QVERIFY(check.display.endsWith(QLatin1String(".777.28")));
     }
+
+    void throughTheLibrary_data()
+    {
+        test::addMethodCallColumns();
+        const QVariantMap german { { "Offset", 30000 } };
+        // clang-format off
+        QTest::newRow("another land: untouched") << QVariantMap() << QVariantList { "85.07.30-033.29", true, "NL" } << "85.07.30-033.29" << QVariantList { "85.07.30-033.29", true, "NL" } << QVariantMap();
+        QTest::newRow("wrong: the message by default") << QVariantMap() << QVariantList { "85.07.30-033.29" } << "" << QVariantList { "85073003329" } << messageBox("Ongeldig Nationaal Nummer :" + cr2 + "Schrijfwijze  00000000000  of  000000.000.00", 48, "Fout !");
+        QTest::newRow("wrong: markers of the missing German texts") << german << QVariantList { "x" } << "" << QVariantList { "" } << messageBox(" [LL 31026 ?] " + cr2 + " [LL 31027 ?] ", 48, " [LL 31031 ?] ");
+        QTest::newRow("wrong, MBox False: silent") << QVariantMap() << QVariantList { "85073003329", false } << "" << QVariantList { "85073003329", false } << QVariantMap();
+        // clang-format on
+    }
+    void throughTheLibrary() { test::compareMethodCall(QStringLiteral("ControleerNatNr")); }
 };
 
 QTEST_APPLESS_MAIN(TestNationalNumber)

@@ -1,0 +1,40 @@
+#pragma once
+
+// The library's identifier methods called by name, as a host calls them.
+
+#include "lib/clsqorgenlib.h"
+#include "tests/common/recordingmachine.h"
+
+#include <QTest>
+
+namespace qor::test {
+
+inline const QString cr2 = QString(2, QChar(13));
+
+// A table of calls: properties set first, the arguments, the result, the
+// arguments as written back and the one message shown (empty: none).
+inline void addMethodCallColumns()
+{
+    QTest::addColumn<QVariantMap>("properties");
+    QTest::addColumn<QVariantList>("args");
+    QTest::addColumn<QString>("result");
+    QTest::addColumn<QVariantList>("after");
+    QTest::addColumn<QVariantMap>("message");
+}
+
+inline void compareMethodCall(const QString &method)
+{
+    QFETCH(QVariantMap, properties);
+    QFETCH(QVariantList, args);
+    const auto machine = installRecordingPlatform(QStringLiteral("nl_BE"));
+    clsqorGenLib lib;
+    for (auto it = properties.cbegin(); it != properties.cend(); ++it)
+        lib.setProperty(it.key().toLatin1().constData(), it.value());
+    QTEST(lib.Invoke(method, args).toString(), "result");
+    QTEST(args, "after");
+    QTEST(onlyMessage(*machine), "message");
+    // The method speaks the language of the object it was called on.
+    QCOMPARE(modGenLib().languageOffset, properties.value(QStringLiteral("Offset")).toInt());
+}
+
+} // namespace qor::test
