@@ -6,6 +6,42 @@
 
 using namespace qor;
 
+namespace {
+
+QList<int> range(int first, int last)
+{
+    QList<int> ids;
+    for (int id = first; id <= last; ++id)
+        ids.append(id);
+    return ids;
+}
+
+// The base ids from first to last that the language at this offset holds.
+QList<int> idsIn(int offset, int first, int last)
+{
+    QList<int> ids;
+    for (int id = first; id <= last; ++id) {
+        if (Catalogue::text(offset + id))
+            ids.append(id);
+    }
+    return ids;
+}
+
+bool containsAll(const QList<int> &ids, const QList<int> &wanted)
+{
+    return std::all_of(wanted.begin(), wanted.end(), [&](int id) { return ids.contains(id); });
+}
+
+// Present in every language: date, contact and invoice labels, totals, VAT and payment methods.
+QList<int> commonIds()
+{
+    return QList<int> { 9534, 9535 } + range(9548, 9561) + QList<int> { 9566, 9567 }
+    + range(9574, 9577) + range(9580, 9583) + range(9588, 9599) + QList<int> { 9604, 9605 }
+    + range(9900, 9919) + QList<int> { 9999 };
+}
+
+} // namespace
+
 class TestCatalogue : public QObject
 {
     Q_OBJECT
@@ -22,7 +58,10 @@ private slots:
         QTest::newRow("french yes") << 11028 << "Oui";
         QTest::newRow("english yes") << 21028 << "Yes";
         QTest::newRow("leading and trailing blanks kept") << 1016 << " is ongeldig gecodeerd !";
-        QTest::newRow("trailing blank kept") << 1005 << "Formaat : ";
+        QTest::newRow("inner blank runs kept") << 1001 << "Schrijfwijze  000000000000  of  000-0000000-00";
+        QTest::newRow("two trailing blanks kept") << 9731 << "Fout Code :  ";
+        QTest::newRow("a single blank") << 9900 << " ";
+        QTest::newRow("diaeresis") << 9910 << QStringLiteral("Domicili\u00EBring");
         QTest::newRow("dictionary word") << 9534 << "Datum";
         QTest::newRow("no such text") << 1023 << " [LLGenLib 1023 ?] ";
         QTest::newRow("absent dictionary id") << 9018 << " [LLGenLib 9018 ?] ";
@@ -86,6 +125,87 @@ private slots:
         QCOMPARE(Catalogue::count(offset + 1000, offset + 1239), messages);
         QCOMPARE(Catalogue::count(offset + 9500, offset + 9999), dictionary);
         QCOMPARE(Catalogue::count(offset, offset + 9999), messages + dictionary);
+    }
+
+    // Each translation holds Dutch ids only; an empty dictionary column: the
+    // common words and some more Dutch ones.
+    void translationsFollowTheDutchIds_data()
+    {
+        QTest::addColumn<int>("offset");
+        QTest::addColumn<QList<int>>("messages");
+        QTest::addColumn<QList<int>>("dictionary");
+        const QList<int> dutchMessages = idsIn(0, 1000, 1239);
+        QList<int> french = dutchMessages;
+        for (int reserved : range(1006, 1009))
+            french.removeAll(reserved);
+        QList<int> english = range(9500, 9519) + commonIds();
+        std::sort(english.begin(), english.end());
+        // clang-format off
+        QTest::newRow("French: the Dutch messages without the reserved blanks") << 10000 << french << QList<int>();
+        QTest::newRow("English: the first sixty messages and the button words") << 20000 << idsIn(0, 1000, 1059) << english;
+        QTest::newRow("German") << 30000 << QList<int>() << commonIds();
+        QTest::newRow("Spanish") << 40000 << QList<int>() << commonIds();
+        QTest::newRow("Italian") << 50000 << QList<int>() << commonIds();
+        // clang-format on
+    }
+    void translationsFollowTheDutchIds()
+    {
+        QFETCH(int, offset);
+        QFETCH(QList<int>, dictionary);
+        QTEST(idsIn(offset, 1000, 1239), "messages");
+        const QList<int> held = idsIn(offset, 9500, 9999);
+        if (dictionary.isEmpty()) {
+            QVERIFY(containsAll(held, commonIds()));
+            QVERIFY(containsAll(idsIn(0, 9500, 9999), held));
+        } else {
+            QCOMPARE(held, dictionary);
+        }
+    }
+
+    void textsKeepTheirShape_data()
+    {
+        QTest::addColumn<int>("offset");
+        QTest::addColumn<QString>("listTitle"); // empty: no list blocks
+        // clang-format off
+        QTest::newRow("dutch") << 0 << "Lijst ";
+        QTest::newRow("french") << 10000 << "Liste ";
+        QTest::newRow("english") << 20000 << "";
+        QTest::newRow("german") << 30000 << "";
+        QTest::newRow("spanish") << 40000 << "";
+        QTest::newRow("italian") << 50000 << "";
+        // clang-format on
+    }
+    void textsKeepTheirShape()
+    {
+        QFETCH(int, offset);
+        QFETCH(QString, listTitle);
+        const auto text = [&](int id) { return Catalogue::text(offset + id).value_or(QString()); };
+        // Reserved messages and the "nothing" rows of the code and payment lists are one blank.
+        const QList<int> blanks = range(1006, 1009) + QList<int> { 9810, 9900 };
+        for (int id : idsIn(offset, 0, 9999)) {
+            const bool shaped = blanks.contains(id) ? text(id) == QLatin1String(" ")
+                                                    : !text(id).trimmed().isEmpty();
+            QVERIFY2(shaped, qPrintable(QString::number(id)));
+        }
+        // A label is its bare word followed by " :".
+        for (int bare = 9518; bare <= 9624; bare += 2) {
+            QCOMPARE(text(bare + 1).isEmpty(), text(bare).isEmpty());
+            if (!text(bare).isEmpty())
+                QCOMPARE(text(bare + 1), text(bare) + QStringLiteral(" :"));
+        }
+        // Calendar controls take 1000 as seven comma-separated titles starting on Sunday.
+        if (!text(1000).isEmpty()) {
+            const QStringList days = text(1000).split(QLatin1Char(','));
+            QCOMPARE(days.size(), 7);
+            QVERIFY(std::all_of(days.begin(), days.end(), [](auto &d) { return d.size() == 2; }));
+        }
+        // Hosts fill a list by loading its title's id + 1, + 2, ... up to the block's last id.
+        const QList<std::pair<int, int>> blocks = { { 9800, 9807 }, { 9830, 9843 }, { 9850, 9862 },
+            { 9870, 9882 }, { 9890, 9895 }, { 9898, 9919 } };
+        for (const auto &[title, last] : listTitle.isEmpty() ? decltype(blocks)() : blocks) {
+            QVERIFY(containsAll(idsIn(offset, title, last), range(title, last)));
+            QVERIFY2(text(title).startsWith(listTitle), qPrintable(text(title)));
+        }
     }
 };
 

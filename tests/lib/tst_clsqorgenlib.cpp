@@ -1,6 +1,8 @@
 #include "lib/clsqorgenlib.h"
-#include "lib/modgenlib.h"
-#include "platform/recordingplatform.h"
+#include "runtime/variant.h"
+
+#include "tests/common/errornumber.h"
+#include "tests/common/recordingmachine.h"
 
 #include <QFile>
 #include <QTemporaryDir>
@@ -20,10 +22,8 @@ class TestClsqorGenLib : public QObject
 private slots:
     void init()
     {
-        ModGenLib::reset();
-        machine = std::make_shared<RecordingPlatform>();
+        machine = test::installRecordingPlatform(QStringLiteral("nl_BE"));
         machine->setSystemDirectory(systemDir.path());
-        Platform::install(machine);
     }
 
     void freshObjectHasItsDefaults()
@@ -98,6 +98,67 @@ private slots:
         other.join();
         QCOMPARE(seenByOtherThread, 0);
         QCOMPARE(modGenLib().languageOffset, 20000);
+    }
+
+    // Late binding: Invoke by name, as a host calls.
+    void namesIgnoreCase()
+    {
+        clsqorGenLib lib;
+        QCOMPARE(lib.Invoke("llgenlib", { 1028 }).toString(), QStringLiteral("Ja"));
+        QCOMPARE(lib.Invoke("LLGENLIB", { 21028 }).toString(), QStringLiteral("Yes"));
+    }
+
+    void optionalArgumentsTakeTheirDefaults()
+    {
+        clsqorGenLib lib;
+        QCOMPARE(lib.Invoke("FilterText", { QStringLiteral("O'Neil 7") }).toString(),
+            QStringLiteral("O\u00B4Neil"));
+        QCOMPARE(lib.Invoke("FilterText",
+                        { QStringLiteral("O'Neil 7"), missingVariant(), QStringLiteral("7") })
+                     .toString(),
+            QStringLiteral("O\u00B4Neil7"));
+        const QVariant zero = lib.Invoke("CGetal", {});
+        QCOMPARE(varTypeName(zero), QStringLiteral("Double"));
+        QCOMPARE(zero.toDouble(), 0.0);
+    }
+
+    void argumentsConvertToTheDeclaredType()
+    {
+        clsqorGenLib lib;
+        QCOMPARE(
+            lib.Invoke("LLGenLib", { QStringLiteral("11028") }).toString(), QStringLiteral("Oui"));
+        QCOMPARE(lib.Invoke("LLGenLib", { 1028.4 }).toString(), QStringLiteral("Ja"));
+        QCOMPARE(lib.Invoke("SetEuro", { QStringLiteral("1234,5"), 1 }).toString(),
+            QStringLiteral("1.234,50 EUR"));
+    }
+
+    void errorsReachTheCaller_data()
+    {
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<QVariantList>("args");
+        QTest::addColumn<int>("number");
+        // clang-format off
+        QTest::newRow("unknown name") << "NoSuchMethod" << QVariantList {} << 438;
+        QTest::newRow("too many arguments") << "LLGenLib" << QVariantList { 1, 2 } << 450;
+        QTest::newRow("required argument left out") << "LLGenLib" << QVariantList {} << 449;
+        QTest::newRow("required argument missing") << "SCase" << QVariantList { missingVariant() } << 449;
+        QTest::newRow("text where a number is declared") << "LLGenLib" << QVariantList { "abc" } << 13;
+        QTest::newRow("long overflow") << "LLGenLib" << QVariantList { 3e9 } << 6;
+        QTest::newRow("null where a number is declared") << "LLGenLib" << QVariantList { nullVariant() } << 94;
+        QTest::newRow("number where an object is declared") << "SelEdit" << QVariantList { 5 } << 13;
+        QTest::newRow("no object") << "SelEdit" << QVariantList { QVariant::fromValue<QObject *>(nullptr) } << 91;
+        QTest::newRow("property with two values") << "Offset" << QVariantList { 1, 2 } << 450;
+        QTest::newRow("key code beyond a byte") << "SendAKey" << QVariantList { 300 } << 5;
+        QTest::newRow("integer overflow") << "SendAKey" << QVariantList { 40000 } << 6;
+        QTest::newRow("null text to filter") << "FilterNumeric" << QVariantList { nullVariant() } << 94;
+        // clang-format on
+    }
+    void errorsReachTheCaller()
+    {
+        QFETCH(QString, name);
+        QFETCH(QVariantList, args);
+        clsqorGenLib lib;
+        QTEST(test::errorNumber([&] { lib.Invoke(name, args); }), "number");
     }
 };
 

@@ -1,9 +1,9 @@
 #include "lib/clsqorgenlib.h"
-#include "lib/modgenlib.h"
 #include "lib/typelibrary.h"
-#include "platform/recordingplatform.h"
 #include "runtime/runtimeerror.h"
 #include "runtime/variant.h"
+
+#include "tests/common/recordingmachine.h"
 
 #include <QDateTime>
 #include <QTemporaryDir>
@@ -47,12 +47,9 @@ class TestRobustness : public QObject
 private slots:
     void init()
     {
-        ModGenLib::reset();
-        machine = std::make_shared<RecordingPlatform>();
-        machine->setLocale(QStringLiteral("nl_BE"));
+        machine = test::installRecordingPlatform(QStringLiteral("nl_BE"));
         machine->setSystemDirectory(systemDir.path());
         machine->setNow(QDateTime(QDate(2026, 11, 22), QTime(10, 0)));
-        Platform::install(machine);
     }
 
     void everyMethodSurvivesEveryValue_data()
