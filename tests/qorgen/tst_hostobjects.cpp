@@ -116,8 +116,6 @@ private slots:
         // clang-format off
         QTest::newRow("number text to Long") << "MaxLength" << QVariant("12") << 0 << QVariant(12);
         QTest::newRow("number to String") << "Text" << QVariant(integerVariant(5)) << 0 << QVariant("5");
-        QTest::newRow("Boolean to String") << "Text" << QVariant(true) << 0 << QVariant("True");
-        QTest::newRow("any case") << "enabled" << QVariant(false) << 0 << QVariant(false);
         QTest::newRow("text that is no number") << "MaxLength" << QVariant("x") << 13 << QVariant(0);
         QTest::newRow("negative length") << "MaxLength" << QVariant(-1) << 380 << QVariant(0);
         QTest::newRow("undeclared keeps its value") << "Tag" << QVariant(2.5) << 0 << QVariant(2.5);
@@ -216,7 +214,6 @@ private slots:
         QTest::addColumn<int>("newIndex");
         QTest::addColumn<int>("listIndex");
         // clang-format off
-        QTest::newRow("append to empty") << QStringList() << -1 << "a" << -1 << QStringList({ "a" }) << QList<int>({ 0 }) << 0 << -1;
         QTest::newRow("append") << QStringList({ "a", "b" }) << 1 << "c" << -1 << QStringList({ "a", "b", "c" }) << QList<int>({ 1, 2, 0 }) << 2 << 1;
         QTest::newRow("insert before the selection moves it") << QStringList({ "a", "b" }) << 1 << "x" << 0 << QStringList({ "x", "a", "b" }) << QList<int>({ 0, 1, 2 }) << 0 << 2;
         QTest::newRow("insert after the selection") << QStringList({ "a", "b" }) << 0 << "x" << 1 << QStringList({ "a", "x", "b" }) << QList<int>({ 1, 0, 2 }) << 1 << 0;

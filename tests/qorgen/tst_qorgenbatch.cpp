@@ -8,17 +8,13 @@ namespace {
 
 QByteArray compact(const QJsonValue &value)
 {
-    if (value.isObject())
-        return QJsonDocument(value.toObject()).toJson(QJsonDocument::Compact);
-    if (value.isArray())
-        return QJsonDocument(value.toArray()).toJson(QJsonDocument::Compact);
     const QByteArray wrapped = QJsonDocument(QJsonArray { value }).toJson(QJsonDocument::Compact);
     return wrapped.mid(1, wrapped.size() - 2);
 }
 
-QStringList keysOf(const QJsonObject &object)
+int errorNumberOf(const QJsonObject &reply)
 {
-    return object.keys();
+    return reply.value("error").toObject().value("number").toInt();
 }
 
 } // namespace
@@ -37,7 +33,6 @@ private slots:
         QTest::newRow("Integer") << QByteArray("12") << "Integer";
         QTest::newRow("Long") << QByteArray("40000") << "Long";
         QTest::newRow("Double with a whole value") << QByteArray("12.0") << "Double";
-        QTest::newRow("Double") << QByteArray("0.25") << "Double";
         QTest::newRow("String") << QByteArray("\"caf\xc3\xa9\\r\\r\"") << "String";
         QTest::newRow("Boolean") << QByteArray("true") << "Boolean";
         QTest::newRow("Null") << QByteArray("null") << "Null";
@@ -61,18 +56,21 @@ private slots:
             result.raw[1].constData());
     }
 
+    // A host object the library holds outlives its request, until a fresh start.
     void hostObjectAsAValue()
     {
         const BatchResult result = runBatch(
             { R"({"call": "HoldSysData", "args": [{"$object": "Application", "ProductName": "Kassa", "Major": 3}]})",
-                R"({"call": "HoldSysData"})" });
-        const QJsonObject app = result.responses[1].value("result").toObject();
-        QCOMPARE(result.responses[1].value("resultType").toString(), QStringLiteral("Object"));
+                R"({"call": "SCase", "args": ["x"]})", R"({"call": "HoldSysData"})",
+                R"({"new": true, "call": "HoldSysData"})" });
+        const QJsonObject app = result.responses[2].value("result").toObject();
+        QCOMPARE(result.responses[2].value("resultType").toString(), QStringLiteral("Object"));
         QCOMPARE(app.value("$object").toString(), QStringLiteral("Application"));
         QCOMPARE(app.value("ProductName").toString(), QStringLiteral("Kassa"));
         QCOMPARE(app.value("Major").toInt(), 3);
         QCOMPARE(app.value("PrevInstance").toBool(true), false);
         QVERIFY(app.value("$calls").toArray().isEmpty());
+        QCOMPARE(compact(result.responses[3].value("result")), QByteArray(R"({"$empty":true})"));
     }
 
     // Numbers and texts are converted to the declared type of what they are given to.
@@ -84,12 +82,8 @@ private slots:
         QTest::addColumn<int>("error");
         // clang-format off
         QTest::newRow("number text to Long") << QByteArray("BtwTar1") << QByteArray("\"2100\"") << QByteArray("2100") << 0;
-        QTest::newRow("Long rounds half to even") << QByteArray("BtwTar1") << QByteArray("2100.5") << QByteArray("2100") << 0;
-        QTest::newRow("True to Long") << QByteArray("Offset") << QByteArray("true") << QByteArray("-1") << 0;
         QTest::newRow("number to String") << QByteArray("msg") << QByteArray("12") << QByteArray("\"12\"") << 0;
-        QTest::newRow("text to Boolean") << QByteArray("UserCancel") << QByteArray("\"True\"") << QByteArray("true") << 0;
         QTest::newRow("Long overflows") << QByteArray("NbrDec") << QByteArray("1e10") << QByteArray() << 6;
-        QTest::newRow("text that is no number") << QByteArray("NbrDec") << QByteArray("\"x\"") << QByteArray() << 13;
         QTest::newRow("Null to String") << QByteArray("SQL") << QByteArray("null") << QByteArray() << 94;
         // clang-format on
     }
@@ -98,62 +92,34 @@ private slots:
         QFETCH(QByteArray, property);
         QFETCH(QByteArray, value);
         QFETCH(QByteArray, stored);
-        QFETCH(int, error);
         const QJsonObject reply
             = respond(R"({"call": ")" + property + R"(", "args": [)" + value + "]}");
-        QCOMPARE(reply.value("error").toObject().value("number").toInt(), error);
+        QTEST(errorNumberOf(reply), "error");
         if (!stored.isEmpty())
             QCOMPARE(compact(reply.value("props").toObject().value(QString::fromLatin1(property))),
                 stored);
     }
 
-    // By-reference arguments come back as the method left them.
-    void byReferenceWriteBack_data()
+    // The result, then the arguments as the method left them; the Variant subtype of
+    // each only where the type information declares a Variant.
+    void resultsAndArguments_data()
     {
         QTest::addColumn<QByteArray>("request");
-        QTest::addColumn<QByteArray>("result");
-        QTest::addColumn<QByteArray>("args");
+        QTest::addColumn<QByteArray>("response");
         // clang-format off
-        QTest::newRow("FilterNumeric keeps its argument as text") << QByteArray(R"({"call": "FilterNumeric", "args": [1234]})") << QByteArray("\"1234\"") << QByteArray(R"(["1234"])");
-        QTest::newRow("FilterNumeric text") << QByteArray(R"({"call": "filternumeric", "args": ["BE 12-34"]})") << QByteArray("\"1234\"") << QByteArray(R"(["BE 12-34"])");
-        QTest::newRow("SCase lowers its argument") << QByteArray(R"({"call": "SCase", "args": ["jAN de SMET"]})") << QByteArray("\"Jan De Smet\"") << QByteArray(R"(["jan de smet"])");
-        QTest::newRow("ControleerBankNr cleans its argument") << QByteArray(R"({"call": "ControleerBankNr", "args": ["000-0000000-97", false]})") << QByteArray("\"000-0000000-97\"") << QByteArray(R"(["000000000097",false])");
-        QTest::newRow("by value stays") << QByteArray(R"({"call": "FilterText", "args": ["a-b", true]})") << QByteArray("\"ab\"") << QByteArray(R"(["a-b",true])");
+        QTest::newRow("a number by reference comes back as text") << QByteArray(R"({"call": "FilterNumeric", "args": [1234]})") << QByteArray(R"({"result":"1234","resultType":"String","args":["1234"],"argTypes":["String"])");
+        QTest::newRow("a text by reference is written back") << QByteArray(R"({"call": "SCase", "args": ["jAN de SMET"]})") << QByteArray(R"({"result":"Jan De Smet","args":["jan de smet"])");
+        QTest::newRow("cleaned by reference, the flag by value") << QByteArray(R"({"call": "ControleerBankNr", "args": ["000-0000000-97", false]})") << QByteArray(R"({"result":"000-0000000-97","args":["000000000097",false])");
+        QTest::newRow("a value argument stays") << QByteArray(R"({"call": "FilterText", "args": ["a-b", true]})") << QByteArray(R"({"result":"ab","args":["a-b",true])");
+        QTest::newRow("the request's locale reads a decimal comma") << QByteArray(R"({"call": "CGetal", "args": ["12,5"], "env": {"locale": "nl_BE"}})") << QByteArray(R"({"result":12.5,"resultType":"Double","args":["12,5"],"argTypes":["String"])");
+        QTest::newRow("a missing argument stays missing") << QByteArray(R"({"call": "SetEuro", "args": [2, {"$missing": true}], "env": {"locale": "en_US"}})") << QByteArray(R"({"result":"2.00","args":[2,{"$missing":true}])");
         // clang-format on
     }
-    void byReferenceWriteBack()
+    void resultsAndArguments()
     {
         QFETCH(QByteArray, request);
-        const QJsonObject reply = respond(request);
-        QVERIFY2(!reply.contains("error"), compact(reply.value("error")).constData());
-        QTEST(compact(reply.value("result")), "result");
-        QTEST(compact(reply.value("args")), "args");
-    }
-
-    void variantSubtypesOfResultsAndArguments_data()
-    {
-        QTest::addColumn<QByteArray>("request");
-        QTest::addColumn<QByteArray>("result");
-        QTest::addColumn<QString>("resultType");
-        QTest::addColumn<QByteArray>("argTypes");
-        // clang-format off
-        QTest::newRow("no number is Integer 0") << QByteArray(R"({"call": "CGetal", "args": ["abc"]})") << QByteArray("0") << "Integer" << QByteArray(R"(["String"])");
-        QTest::newRow("decimal comma in nl_BE is Double") << QByteArray(R"({"call": "CGetal", "args": ["12,5"], "env": {"locale": "nl_BE"}})") << QByteArray("12.5") << "Double" << QByteArray(R"(["String"])");
-        QTest::newRow("written-back text") << QByteArray(R"({"call": "FilterNumeric", "args": [12]})") << QByteArray("\"12\"") << "String" << QByteArray(R"(["String"])");
-        QTest::newRow("declared types are not described") << QByteArray( R"({"call": "SetEuro", "args": [2, {"$missing": true}], "env": {"locale": "en_US"}})") << QByteArray("\"2.00\"") << QString() << QByteArray();
-        // clang-format on
-    }
-    void variantSubtypesOfResultsAndArguments()
-    {
-        QFETCH(QByteArray, request);
-        const QJsonObject reply = respond(request);
-        QTEST(compact(reply.value("result")), "result");
-        QTEST(reply.value("resultType").toString(), "resultType");
-        QFETCH(QByteArray, argTypes);
-        if (argTypes.isEmpty())
-            QVERIFY(!reply.contains("argTypes"));
-        else
-            QCOMPARE(compact(reply.value("argTypes")), argTypes);
+        const QByteArray line = runBatch({ request }).raw.value(0);
+        QTEST(line.left(line.indexOf(",\"props\":")), "response");
     }
 
     // Properties, set and a fresh start.
@@ -177,21 +143,18 @@ private slots:
         QCOMPARE(props.value("BtwTar1").toInt(), 2100);
         QCOMPARE(props.value("msg").toString(), QStringLiteral("hallo"));
         QCOMPARE(props.value("Offset").toInt(), 10000);
-        QCOMPARE(props.value("vbCr2").toString(), QStringLiteral("\r\r"));
-        QCOMPARE(props.value("vbSplit").toString(), QString(2, QChar(0xAD)));
         QCOMPARE(result.responses[4].value("result").toInt(-1), 0);
         QCOMPARE(result.responses[4].value("props").toObject().value("msg").toString(), QString());
     }
 
     void propsListThePublishedProperties()
     {
-        const BatchResult result = runBatch({ R"({"call": "GetKlantPC"})" });
+        const BatchResult result = runBatch({ R"({"set": {"Offset": 0}})" });
         QStringList published;
         for (const auto &property : clsqorGenLib::typeLibrary().properties())
             published.append(property.name);
         const QByteArray raw = result.raw.value(0);
-        const QJsonObject props = result.responses.value(0).value("props").toObject();
-        QCOMPARE(props.size(), published.size());
+        QCOMPARE(result.responses.value(0).value("props").toObject().size(), published.size());
         // In the order of the type information.
         qsizetype at = raw.indexOf("\"props\":");
         for (const QString &name : published) {
@@ -215,22 +178,25 @@ private slots:
     void hostObjectsAreWrittenBack()
     {
         QFETCH(QByteArray, request);
-        const BatchResult result = runBatch({ request });
-        const QJsonObject reply = result.responses.value(0);
-        QVERIFY2(!reply.contains("error"), result.raw.value(0).constData());
         QFETCH(QByteArray, written);
-        QVERIFY2(result.raw[0].startsWith("{\"args\":[" + written), result.raw[0].constData());
+        const QByteArray line = runBatch({ request }).raw.value(0);
+        QVERIFY2(line.startsWith("{\"args\":[" + written), line.constData());
     }
 
-    void hostObjectErrorsReachTheCaller()
+    // A run-time error comes with the arguments as left, the properties and what was shown.
+    void runTimeErrorsReachTheCaller()
     {
+        const QJsonObject reply = respond(R"({"call": "SetEuro", "args": [1e40]})");
+        QCOMPARE(errorNumberOf(reply), 6);
+        QCOMPARE(reply.value("error").toObject().value("description").toString(),
+            QStringLiteral("Overflow"));
+        QCOMPARE(reply.keys(), QStringList({ "args", "error", "props", "shown" }));
         // An edit control has no cell editor properties: the library's own 438.
-        const QJsonObject reply = respond(
+        const QJsonObject host = respond(
             R"({"call": "SelEdit", "args": [{"$object": "TextBox", "Text": "ab"}, false, true]})");
-        QCOMPARE(reply.value("error").toObject().value("number").toInt(), 438);
-        QCOMPARE(reply.value("args").toArray().at(0).toObject().value("Text").toString(),
+        QCOMPARE(errorNumberOf(host), 438);
+        QCOMPARE(host.value("args").toArray().at(0).toObject().value("Text").toString(),
             QStringLiteral("ab"));
-        QVERIFY(reply.contains("props"));
     }
 
     // Dialogs: scripted answers and what was shown.
@@ -242,7 +208,6 @@ private slots:
         QTest::addColumn<int>("answer");
         // clang-format off
         QTest::newRow("default answer") << QByteArray() << "Ongeldig Bankrekeningnummer" << "Fout !" << 1;
-        QTest::newRow("escape") << QByteArray(R"(, "answers": ["Escape"])") << "Ongeldig Bankrekeningnummer" << "Fout !" << 1;
         QTest::newRow("result number") << QByteArray(R"(, "answers": [2])") << "Ongeldig Bankrekeningnummer" << "Fout !" << 2;
         QTest::newRow("in French") << QByteArray(R"(, "set": {"Offset": 10000})") << "Num\u00e9ro de compte" << "Erreur !" << 1;
         // clang-format on
@@ -257,7 +222,7 @@ private slots:
         const QJsonArray shown = reply.value("shown").toArray();
         QCOMPARE(shown.size(), 1);
         const QJsonObject box = shown.at(0).toObject();
-        QCOMPARE(keysOf(box),
+        QCOMPARE(box.keys(),
             QStringList({ "answer", "buttons", "caption", "kind", "prompt", "title", "type" }));
         QCOMPARE(box.value("kind").toString(), QStringLiteral("MsgBoxE"));
         QFETCH(QString, prompt);
@@ -277,25 +242,12 @@ private slots:
             R"({"call": "ControleerBankNr", "args": ["123"], "answers": [2, 2]})",
             R"({"call": "ControleerBankNr", "args": ["123"]})",
         });
-        QCOMPARE(
-            result.responses[0].value("shown").toArray().at(0).toObject().value("answer").toInt(),
-            2);
-        QCOMPARE(
-            result.responses[1].value("shown").toArray().at(0).toObject().value("answer").toInt(),
-            1);
+        for (int i : { 0, 1 })
+            QCOMPARE(
+                result.responses[i].value("shown")[0].toObject().value("answer").toInt(), 2 - i);
     }
 
-    // Errors.
-    void runTimeErrorComesWithTheUsualFields()
-    {
-        const QJsonObject reply = respond(R"({"call": "SetEuro", "args": [1e40]})");
-        QCOMPARE(reply.value("error").toObject().value("number").toInt(), 6);
-        QCOMPARE(reply.value("error").toObject().value("description").toString(),
-            QStringLiteral("Overflow"));
-        QVERIFY(!reply.contains("result"));
-        QCOMPARE(keysOf(reply), QStringList({ "args", "error", "props", "shown" }));
-    }
-
+    // A request that cannot be carried out gets only its error, and the batch goes on.
     void unreadableRequestsAndTheBatchGoesOn_data()
     {
         QTest::addColumn<QByteArray>("line");
@@ -303,18 +255,26 @@ private slots:
         // clang-format off
         QTest::newRow("not JSON") << QByteArray("not json") << 5;
         QTest::newRow("not an object") << QByteArray("[1, 2]") << 5;
-        QTest::newRow("bad UTF-8") << QByteArray("{\"call\": \"SCase\", \"args\": [\"\xc3\x28\"]}") << 5;
         QTest::newRow("args not an array") << QByteArray(R"({"call": "FilterNumeric", "args": "1"})") << 5;
+        QTest::newRow("args without call") << QByteArray(R"({"args": [1]})") << 5;
         QTest::newRow("unknown field") << QByteArray(R"({"call": "FilterNumeric", "args": ["1"], "x": 1})") << 5;
-        QTest::newRow("nested too deep") << QByteArray(R"({"call": "FilterNumeric", "args": )") + QByteArray(100, '[') + QByteArray(100, ']') + "}" << 5;
         QTest::newRow("unknown method") << QByteArray(R"({"call": "DoesNotExist"})") << 438;
+        QTest::newRow("unknown property to set") << QByteArray(R"({"set": {"Nope": 1}})") << 438;
         QTest::newRow("argument not optional") << QByteArray(R"({"call": "FilterNumeric"})") << 449;
-        QTest::newRow("required argument left out") << QByteArray(R"({"call": "FilterNumeric", "args": [{"$missing": true}]})") << 449;
         QTest::newRow("too many arguments") << QByteArray(R"({"call": "FilterNumeric", "args": [1, 2]})") << 450;
-        QTest::newRow("property given two values") << QByteArray(R"({"call": "Offset", "args": [1, 2]})") << 450;
         QTest::newRow("plain object as argument") << QByteArray(R"({"call": "SelEdit", "args": [{"Text": "x"}]})") << 13;
-        QTest::newRow("bad date") << QByteArray( R"({"call": "CGetal", "args": [{"$date": "2004-13-01"}]})") << 13;
-        QTest::newRow("unknown host class") << QByteArray(R"({"call": "SelEdit", "args": [{"$object": "Knob"}]})") << 13;
+        QTest::newRow("answers not an array") << QByteArray(R"({"answers": 6})") << 5;
+        QTest::newRow("answer null") << QByteArray(R"({"answers": [null]})") << 5;
+        QTest::newRow("cancel that is false") << QByteArray(R"({"answers": [{"cancel": false}]})") << 5;
+        QTest::newRow("scan that is no text") << QByteArray(R"({"answers": [{"scan": 1}]})") << 5;
+        QTest::newRow("unknown answer") << QByteArray(R"({"answers": [{"press": "J"}]})") << 5;
+        QTest::newRow("unknown locale") << QByteArray(R"({"env": {"locale": "xx_QQ"}})") << 5;
+        QTest::newRow("clock that is no date") << QByteArray(R"({"env": {"now": "tomorrow"}})") << 5;
+        QTest::newRow("sound that is no flag") << QByteArray(R"({"env": {"sound": "off"}})") << 5;
+        QTest::newRow("unknown environment field") << QByteArray(R"({"env": {"timezone": "CET"}})") << 5;
+        QTest::newRow("twips of zero") << QByteArray(R"({"env": {"screen": {"twipsPerPixelX": 0}}})") << 5;
+        QTest::newRow("cursor with one number") << QByteArray(R"({"env": {"screen": {"cursor": [1]}}})") << 5;
+        QTest::newRow("taskbar without bottom") << QByteArray(R"({"env": {"screen": {"taskbar": {"left": 0, "top": 0, "right": 1, "x": 2}}}})") << 5;
         // clang-format on
     }
     void unreadableRequestsAndTheBatchGoesOn()
@@ -324,8 +284,8 @@ private slots:
             = runBatch({ line, R"({"call": "FilterNumeric", "args": ["a1b2"]})" });
         QCOMPARE(result.responses.size(), 2);
         const QJsonObject reply = result.responses[0];
-        QCOMPARE(keysOf(reply), QStringList({ "error" }));
-        QTEST(reply.value("error").toObject().value("number").toInt(), "number");
+        QCOMPARE(reply.keys(), QStringList({ "error" }));
+        QTEST(errorNumberOf(reply), "number");
         QVERIFY(!reply.value("error").toObject().value("description").toString().isEmpty());
         QCOMPARE(result.responses[1].value("result").toString(), QStringLiteral("12"));
         QCOMPARE(result.run.exitCode, 0);
@@ -348,7 +308,7 @@ private slots:
         QVERIFY(result.run.finished);
         QCOMPARE(result.responses.size(), 4); // blank lines get no response
         QCOMPARE(result.responses[0].value("result").toString().size(), 2500000);
-        QCOMPARE(result.responses[1].value("error").toObject().value("number").toInt(), 5);
+        QCOMPARE(errorNumberOf(result.responses[1]), 5);
         QCOMPARE(result.responses[2].value("result").toString(), QStringLiteral("Crlf"));
         QCOMPARE(result.responses[3].value("result").toString(), QStringLiteral("9"));
     }
@@ -363,13 +323,7 @@ private slots:
         QCOMPARE(run.exitCode, 0);
         const QList<QByteArray> lines = run.lines();
         QCOMPARE(lines.size(), 2);
-        QCOMPARE(QJsonDocument::fromJson(lines[1])
-                     .object()
-                     .value("error")
-                     .toObject()
-                     .value("number")
-                     .toInt(),
-            5);
+        QCOMPARE(errorNumberOf(QJsonDocument::fromJson(lines[1]).object()), 5);
     }
 
     // Every method of the type information is reachable by name.
@@ -381,11 +335,8 @@ private slots:
             requests.append(R"({"call": ")" + method.name.toUtf8() + R"(", "args": []})");
         const BatchResult result = runBatch(requests);
         QCOMPARE(result.responses.size(), methods.size());
-        for (qsizetype i = 0; i < methods.size(); ++i) {
-            const int number
-                = result.responses[i].value("error").toObject().value("number").toInt();
-            QVERIFY2(number != 438, qPrintable(methods[i].name));
-        }
+        for (qsizetype i = 0; i < methods.size(); ++i)
+            QVERIFY2(errorNumberOf(result.responses[i]) != 438, qPrintable(methods[i].name));
     }
 };
 
