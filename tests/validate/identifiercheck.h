@@ -1,13 +1,24 @@
 #pragma once
 
-// The library's identifier methods called by name, as a host calls them.
+// Shared checks of the identifier tests: the plain check and the library's
+// method called by name, as a host calls it.
 
 #include "lib/clsqorgenlib.h"
 #include "tests/common/recordingmachine.h"
+#include "validate/checkresult.h"
 
 #include <QTest>
 
 namespace qor::test {
+
+// A check shows the number in its notation or refuses it with an empty display
+// (the "display" column); a text of blanks only is neither shown nor refused.
+inline void compareCheck(const CheckResult &check, const QString &input)
+{
+    QFETCH(QString, display);
+    QCOMPARE(check.display, display);
+    QCOMPARE(check.refused, display.isEmpty() && input.count(QLatin1Char(' ')) != input.size());
+}
 
 inline const QString cr2 = QString(2, QChar(13));
 
