@@ -1,7 +1,8 @@
 #include "input/amounts.h"
 #include "lib/clsqorgenlib.h"
-#include "platform/recordingplatform.h"
 #include "runtime/variant.h"
+
+#include "tests/common/recordingmachine.h"
 
 #include <QDateTime>
 #include <QTest>
@@ -21,20 +22,17 @@ private slots:
         QTest::addColumn<double>("expected");
         // clang-format off
         QTest::newRow("null") << "nl_BE" << nullVariant() << "Integer" << 0.0;
-        QTest::newRow("empty variant") << "nl_BE" << QVariant() << "Integer" << 0.0;
         QTest::newRow("empty text") << "nl_BE" << QVariant(QString()) << "Integer" << 0.0;
         QTest::newRow("word") << "nl_BE" << QVariant("abc") << "Integer" << 0.0;
         QTest::newRow("date") << "nl_BE" << QVariant(QDateTime(QDate(2004, 5, 20), QTime())) << "Integer" << 0.0;
         QTest::newRow("array") << "nl_BE" << QVariant(QVariantList { 1 }) << "Integer" << 0.0;
         QTest::newRow("comma decimals with grouping") << "nl_BE" << QVariant("1.234,5") << "Double" << 1234.5;
-        QTest::newRow("comma decimals plain") << "nl_BE" << QVariant("12,5") << "Double" << 12.5;
         QTest::newRow("comma system number") << "nl_BE" << QVariant(3.25) << "Double" << 3.25;
         QTest::newRow("point decimals") << "en_US" << QVariant("12.5") << "Double" << 12.5;
         QTest::newRow("point decimals read by Val stop at the comma") << "en_US" << QVariant("1,234.5") << "Double" << 1.0;
         QTest::newRow("point system number") << "en_US" << QVariant(3.25) << "Double" << 3.25;
         QTest::newRow("point system integer") << "en_US" << QVariant::fromValue<short>(7) << "Double" << 7.0;
         QTest::newRow("negative") << "nl_BE" << QVariant("-4,5") << "Double" << -4.5;
-        QTest::newRow("blanks around") << "nl_BE" << QVariant("  8 ") << "Double" << 8.0;
         QTest::newRow("boolean on a comma system") << "nl_BE" << QVariant(true) << "Double" << -1.0;
         // clang-format on
     }
@@ -42,11 +40,9 @@ private slots:
     {
         QFETCH(QString, locale);
         QFETCH(QVariant, input);
-        QFETCH(QString, type);
-        QFETCH(double, expected);
         const QVariant result = qor::cGetal(input, RegionalSettings::fromLocale(locale));
-        QCOMPARE(varTypeName(result), type);
-        QCOMPARE(result.toDouble(), expected);
+        QTEST(varTypeName(result), "type");
+        QTEST(result.toDouble(), "expected");
     }
 
     void setEuro_data()
@@ -73,12 +69,8 @@ private slots:
         QFETCH(QString, locale);
         QFETCH(float, value);
         QFETCH(int, symbol);
-        QFETCH(QString, expected);
-        auto machine = std::make_shared<RecordingPlatform>();
-        machine->setLocale(locale);
-        Platform::install(machine);
-        clsqorGenLib lib;
-        QCOMPARE(lib.SetEuro(value, qorGenLib::OstSymbolType(symbol)), expected);
+        test::installRecordingPlatform(locale);
+        QTEST(clsqorGenLib().SetEuro(value, qorGenLib::OstSymbolType(symbol)), "expected");
     }
 };
 

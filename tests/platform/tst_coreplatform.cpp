@@ -1,5 +1,4 @@
 #include "platform/coreplatform.h"
-#include "runtime/regionalsettings.h"
 
 #include <QFile>
 #include <QTemporaryDir>
@@ -54,28 +53,6 @@ private slots:
         machine.waitForProcess(id);
         QVERIFY(machine.startProcess(QStringLiteral("/no/such/program"), 1) < 0);
         QVERIFY(machine.startProcess(QStringLiteral("   "), 1) < 0);
-    }
-
-    void regionalSettingsFromLocaleNames_data()
-    {
-        QTest::addColumn<QString>("locale");
-        QTest::addColumn<QChar>("decimal");
-        QTest::addColumn<QChar>("group");
-        QTest::addColumn<QChar>("dateSeparator");
-        // clang-format off
-        QTest::newRow("dutch belgium") << "nl_BE" << QChar(',') << QChar('.') << QChar('/');
-        QTest::newRow("english us") << "en_US" << QChar('.') << QChar(',') << QChar('/');
-        QTest::newRow("german") << "de_DE" << QChar(',') << QChar('.') << QChar('.');
-        // clang-format on
-    }
-    void regionalSettingsFromLocaleNames()
-    {
-        QFETCH(QString, locale);
-        const RegionalSettings rs = RegionalSettings::fromLocale(locale);
-        QTEST(rs.decimalSeparator, "decimal");
-        QTEST(rs.groupSeparator, "group");
-        QTEST(rs.dateSeparator, "dateSeparator");
-        QCOMPARE(rs.timeSeparator, QChar(':'));
     }
 };
 

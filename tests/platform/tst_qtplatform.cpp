@@ -49,8 +49,6 @@ private slots:
         QTest::addColumn<QString>("button");
         // clang-format off
         QTest::newRow("yes no answered with n") << 36 << 'n' << 7 << "cmdYes";
-        QTest::newRow("yes no answered with j") << 36 << 'j' << 6 << "cmdNo";
-        QTest::newRow("ok cancel answered with a") << 17 << 'a' << 2 << "cmdCancel";
         QTest::newRow("ok answered with escape") << 0 << '\x1b' << 1 << "cmdOK";
         // clang-format on
     }
