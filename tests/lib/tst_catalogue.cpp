@@ -90,9 +90,8 @@ private slots:
     {
         QFETCH(int, offset);
         QFETCH(int, baseId);
-        QFETCH(QString, expected);
         modGenLib().languageOffset = offset;
-        QCOMPARE(loadCatalogueText(baseId), expected);
+        QTEST(loadCatalogueText(baseId), "expected");
     }
 
     void countsPerLanguage_data()

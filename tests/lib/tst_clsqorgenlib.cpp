@@ -51,21 +51,6 @@ private slots:
         QCOMPARE(lib.property("FieldExt").toString(), QStringLiteral("NL"));
     }
 
-    void hostStorageKeepsWhatTheHostParks()
-    {
-        clsqorGenLib lib;
-        QObject form;
-        lib.setProperty("FlowCTL", QVariant::fromValue<QObject *>(&form));
-        lib.setProperty(
-            "HoldSysData", QVariant::fromValue(QVariantList { 1, QStringLiteral("x") }));
-        lib.setProperty("HoldErr", 53);
-        lib.setProperty("HoldErrDes", QStringLiteral("File not found"));
-        QCOMPARE(lib.property("FlowCTL").value<QObject *>(), &form);
-        QCOMPARE(lib.property("HoldSysData").toList().size(), 2);
-        QCOMPARE(lib.property("HoldErr").toInt(), 53);
-        QCOMPARE(lib.property("HoldErrDes").toString(), QStringLiteral("File not found"));
-    }
-
     void klantPCFollowsTheMarkerFile()
     {
         {
@@ -138,9 +123,6 @@ private slots:
         QTest::addColumn<QVariantList>("args");
         QTest::addColumn<int>("number");
         // clang-format off
-        QTest::newRow("unknown name") << "NoSuchMethod" << QVariantList {} << 438;
-        QTest::newRow("too many arguments") << "LLGenLib" << QVariantList { 1, 2 } << 450;
-        QTest::newRow("required argument left out") << "LLGenLib" << QVariantList {} << 449;
         QTest::newRow("required argument missing") << "SCase" << QVariantList { missingVariant() } << 449;
         QTest::newRow("text where a number is declared") << "LLGenLib" << QVariantList { "abc" } << 13;
         QTest::newRow("long overflow") << "LLGenLib" << QVariantList { 3e9 } << 6;

@@ -137,15 +137,17 @@ private slots:
         QCOMPARE(test::errorNumber([&] { list.assign(QStringLiteral("ListCount"), 3); }), 383);
     }
 
+    // The library reaches properties and operations by name, in any case; AddItem
+    // takes numbers as text.
     void libraryReachesThemByName()
     {
         TextBox box;
         qor::setProperty(&box, "text", QStringLiteral("abc"));
         QCOMPARE(getProperty(&box, "TEXT").toString(), QStringLiteral("abc"));
         ListBox list;
-        callOperation(&list, "AddItem", { QStringLiteral("b") });
-        callOperation(&list, "additem", { QStringLiteral("a"), 0 });
-        QCOMPARE(texts(list.list()), QStringList({ "a", "b" }));
+        callOperation(&list, "AddItem", { integerVariant(12) });
+        callOperation(&list, "additem", { 2.5, QStringLiteral("0") });
+        QCOMPARE(texts(list.list()), QStringList({ "2.5", "12" }));
         QCOMPARE(callNames(list), QStringList({ "AddItem", "AddItem" }));
         QCOMPARE(list.calls().at(1).toMap().value("args").toList().size(), 2);
     }
@@ -240,14 +242,6 @@ private slots:
         QTEST(int(list->value("NewIndex").toInt()), "newIndex");
         QTEST(list->listIndex(), "listIndex");
         QCOMPARE(list->listCount(), entries.size() + 1);
-    }
-
-    void addItemTakesNumbersAsText()
-    {
-        ListBox list;
-        callOperation(&list, "AddItem", { integerVariant(12) });
-        callOperation(&list, "AddItem", { 2.5, QStringLiteral("0") });
-        QCOMPARE(texts(list.list()), QStringList({ "2.5", "12" }));
     }
 
     void indexOutsideTheListIsRefused()

