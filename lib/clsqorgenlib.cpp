@@ -1,6 +1,5 @@
 #include "lib/clsqorgenlib.h"
 
-#include "dialogs/logic/messageboxlogic.h"
 #include "input/amounts.h"
 #include "input/editing.h"
 #include "input/textfilters.h"
@@ -13,6 +12,7 @@
 #include "runtime/conversion.h"
 #include "system/stationflags.h"
 #include "validate/bankaccount.h"
+#include "validate/checkreports.h"
 #include "validate/identitycard.h"
 #include "validate/nationalnumber.h"
 #include "validate/paymentreference.h"
@@ -126,24 +126,12 @@ bool clsqorGenLib::GetKlantPC()
 
 // Identifier checks
 
-namespace {
-
-// The message of a wrong number: what is wrong, a blank line, how to write it.
-void reportWrongNumber(qint32 whatId, qint32 notationId)
-{
-    const QString prompt
-        = loadCatalogueText(whatId) + QString(2, QChar(13)) + loadCatalogueText(notationId);
-    showMessageBoxE(prompt, 48, loadCatalogueText(1031));
-}
-
-} // namespace
-
 QString clsqorGenLib::ControleerBankNr(QString &BankNr, bool MBox)
 {
     useMyLanguage();
     const CheckResult check = checkBankAccount(BankNr);
     if (MBox && check.refused)
-        reportWrongNumber(1002, 1001);
+        reportRefusedBankAccount();
     return check.display;
 }
 
@@ -152,7 +140,7 @@ QString clsqorGenLib::ControleerVAT(QString &VATnr, bool MBox, QString &LandCode
     useMyLanguage();
     const CheckResult check = checkVatNumber(VATnr, LandCode);
     if (MBox && check.refused)
-        reportWrongNumber(1010, 1011);
+        reportRefusedEnterpriseNumber();
     return check.display;
 }
 
@@ -167,7 +155,7 @@ QString clsqorGenLib::ControleerNatNr(QString &NatNr, bool MBox, const QString &
     useMyLanguage();
     const CheckResult check = checkNationalNumber(NatNr, LandCode);
     if (MBox && check.refused)
-        reportWrongNumber(1026, 1027);
+        reportRefusedNationalNumber();
     return check.display;
 }
 
@@ -176,7 +164,7 @@ QString clsqorGenLib::ControleerIdentNr(QString &IdentNr, bool MBox)
     useMyLanguage();
     const CheckResult check = checkIdentityCard(IdentNr, regional());
     // The user may accept a refused number as the card of a foreigner.
-    if (MBox && check.refused && showMessageBoxE(IdentNr, -1, loadCatalogueText(1040)) == 1)
+    if (MBox && check.refused && userAcceptsIdentityCard(IdentNr))
         return IdentNr;
     return check.display;
 }
@@ -185,11 +173,8 @@ QString clsqorGenLib::GetOGM(QString &ReferentieNummer)
 {
     useMyLanguage();
     const PaymentReference made = makePaymentReference(ReferentieNummer);
-    // The text speaks of 9 characters while more than 10 are refused.
     if (made.tooLong)
-        showMessageBoxE(loadCatalogueText(1221) + made.digits + loadCatalogueText(1222) + m_vbCr2
-                + loadCatalogueText(9700),
-            16, QStringLiteral("OstGenLib / Get OGM"));
+        reportReferenceTooLong(made.digits, m_vbCr2);
     return made.ogm;
 }
 
@@ -199,7 +184,7 @@ QString clsqorGenLib::ControleerOGM(QString &OGM, bool MBox)
     const QString typed = OGM;
     const CheckResult check = checkPaymentReference(OGM);
     if (MBox && check.refused)
-        showMessageBoxE(typed + loadCatalogueText(1012), 48, loadCatalogueText(1031));
+        reportRefusedPaymentReference(typed);
     return check.display;
 }
 
