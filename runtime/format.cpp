@@ -2,7 +2,9 @@
 
 #include "runtime/conversion.h"
 #include "runtime/dates.h"
+#include "runtime/patternliteral.h"
 #include "runtime/runtimeerror.h"
+#include "runtime/textmask.h"
 #include "runtime/variant.h"
 
 #include <QLocale>
@@ -77,102 +79,13 @@ PatternKind kindOf(const QString &pattern)
     return kind;
 }
 
-// Reads one literal at i (escaped character or quoted run); returns the index after it.
-qsizetype readLiteral(const QString &pattern, qsizetype i, QString &literal)
-{
-    if (pattern.at(i) == QLatin1Char('\\')) {
-        if (i + 1 < pattern.size())
-            literal = pattern.at(i + 1);
-        return i + 2;
-    }
-    const qsizetype close = pattern.indexOf(QLatin1Char('"'), i + 1);
-    const qsizetype end = close < 0 ? pattern.size() : close;
-    literal = pattern.mid(i + 1, end - i - 1);
-    return end + 1;
-}
-
-bool isLiteralStart(QChar c)
-{
-    return c == QLatin1Char('\\') || c == QLatin1Char('"');
-}
-
 // --- text masks --------------------------------------------------------------------
-
-struct TextMask
-{
-    QString literalsAndSlots; // '\0' marks a slot
-    std::vector<bool> blankSlot; // '@' shows a blank when empty, '&' nothing
-    bool leftToRight = false;
-    int caseChange = 0; // -1 lower, 1 upper
-};
-
-TextMask parseTextMask(const QString &section)
-{
-    TextMask mask;
-    for (qsizetype i = 0; i < section.size();) {
-        const QChar c = section.at(i);
-        if (isLiteralStart(c)) {
-            QString literal;
-            i = readLiteral(section, i, literal);
-            mask.literalsAndSlots += literal.replace(QChar(0), QChar(' '));
-            continue;
-        }
-        if (c == QLatin1Char('&') || c == QLatin1Char('@')) {
-            mask.literalsAndSlots += QChar(0);
-            mask.blankSlot.push_back(c == QLatin1Char('@'));
-        } else if (c == QLatin1Char('!')) {
-            mask.leftToRight = true;
-        } else if (c == QLatin1Char('<')) {
-            mask.caseChange = -1;
-        } else if (c == QLatin1Char('>')) {
-            mask.caseChange = 1;
-        } else {
-            mask.literalsAndSlots += c == QChar(0) ? QChar(' ') : c;
-        }
-        ++i;
-    }
-    return mask;
-}
-
-// Placeholders take the text's characters from the right; a longer text puts
-// its surplus at the first placeholder, a shorter one leaves the first ones empty.
-// With "!" they fill from the left and the surplus follows the last placeholder.
-QString applyTextMask(QString text, const TextMask &mask)
-{
-    if (mask.caseChange < 0)
-        text = text.toLower();
-    else if (mask.caseChange > 0)
-        text = text.toUpper();
-    const qsizetype slotCount = qsizetype(mask.blankSlot.size());
-    const qsizetype surplus = std::max<qsizetype>(0, text.size() - slotCount);
-    const qsizetype offset = mask.leftToRight ? 0 : text.size() - slotCount; // text index of slot 0
-    QString out;
-    out.reserve(mask.literalsAndSlots.size() + text.size());
-    qsizetype slot = 0;
-    for (QChar c : mask.literalsAndSlots) {
-        if (c != QChar(0)) {
-            out += c;
-            continue;
-        }
-        if (!mask.leftToRight && slot == 0)
-            out += QStringView(text).left(surplus);
-        const qsizetype source = offset + slot;
-        if (source >= 0 && source < text.size())
-            out += text.at(source);
-        else if (mask.blankSlot[size_t(slot)])
-            out += QLatin1Char(' ');
-        if (mask.leftToRight && slot == slotCount - 1)
-            out += QStringView(text).mid(slotCount);
-        ++slot;
-    }
-    return out;
-}
 
 QString formatText(const QString &text, const QStringList &sections)
 {
     const QString &section
         = text.isEmpty() && sections.size() > 1 ? sections.at(1) : sections.at(0);
-    return applyTextMask(text, parseTextMask(section));
+    return TextMask(section).apply(text);
 }
 
 // --- decimal numbers -------------------------------------------------------------------

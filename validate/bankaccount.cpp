@@ -1,8 +1,8 @@
 #include "validate/bankaccount.h"
 
 #include "input/textfilters.h"
+#include "runtime/textmask.h"
 #include "validate/checktext.h"
-#include "validate/displaymask.h"
 
 namespace qor {
 
@@ -18,7 +18,7 @@ CheckResult checkBankAccount(QString &bankNr)
         remainder = 97;
     if (digitsValue(rightPart(bankNr, 2)) != remainder)
         return CheckResult::wrong();
-    static const DisplayMask notation(QStringLiteral("&&&\\-&&&&&&&\\-&&"));
+    static const TextMask notation(QStringLiteral("&&&\\-&&&&&&&\\-&&"));
     return CheckResult::accepted(notation.apply(bankNr));
 }
 

@@ -1,8 +1,8 @@
 #include "validate/nationalnumber.h"
 
 #include "input/textfilters.h"
+#include "runtime/textmask.h"
 #include "validate/checktext.h"
-#include "validate/displaymask.h"
 
 namespace qor {
 
@@ -30,7 +30,7 @@ CheckResult checkNationalNumber(QString &natNr, const QString &landCode)
     const double given = digitsValue(rightPart(natNr, 2));
     if (given != check && given != checkFrom2000(check))
         return CheckResult::wrong();
-    static const DisplayMask notation(QStringLiteral("&&&&&&\\.&&&\\.&&"));
+    static const TextMask notation(QStringLiteral("&&&&&&\\.&&&\\.&&"));
     return CheckResult::accepted(notation.apply(natNr));
 }
 

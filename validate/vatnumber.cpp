@@ -1,8 +1,8 @@
 #include "validate/vatnumber.h"
 
 #include "input/textfilters.h"
+#include "runtime/textmask.h"
 #include "validate/checktext.h"
-#include "validate/displaymask.h"
 
 namespace qor {
 
@@ -23,7 +23,7 @@ CheckResult checkVatNumber(QString &vatNr, QString &landCode)
     const qint32 check = 97 - firstPart % 97;
     if (digitsValue(rightPart(vatNr, 2)) != check)
         return CheckResult::wrong();
-    static const DisplayMask notation(QStringLiteral("&&&&\\.&&&\\.&&&"));
+    static const TextMask notation(QStringLiteral("&&&&\\.&&&\\.&&&"));
     return CheckResult::accepted(notation.apply(vatNr));
 }
 

@@ -1,0 +1,28 @@
+#pragma once
+
+#include <QString>
+
+#include <vector>
+
+namespace qor {
+
+// A text mask of Format, read once and applied to any number of texts: "&" takes
+// one character (nothing when there is none), "@" one character or a blank,
+// "\x" and "quoted" runs are literals, "!" fills from the left, "<" and ">"
+// change the case. Placeholders take the text from the right; a longer text
+// puts its surplus in front of the first placeholder (after the last with "!").
+class TextMask
+{
+public:
+    explicit TextMask(const QString &pattern);
+
+    QString apply(QString text) const;
+
+private:
+    QString m_literalsAndSlots; // NUL marks a placeholder
+    std::vector<bool> m_blankSlot; // '@' shows a blank when empty, '&' nothing
+    bool m_leftToRight = false;
+    int m_caseChange = 0; // -1 lower, 1 upper
+};
+
+} // namespace qor
