@@ -1,7 +1,7 @@
 #include "host/hostobject.h"
 
-#include "lib/latebinding.h"
 #include "platform/platform.h"
+#include "runtime/callbyname.h"
 #include "runtime/runtimeerror.h"
 
 #include <QMetaClassInfo>
@@ -42,11 +42,10 @@ QStringList HostObject::propertyNames() const
 
 QString HostObject::resolveName(const QString &name) const
 {
-    for (const QString &known : propertyNames()) {
-        if (known.compare(name, Qt::CaseInsensitive) == 0)
-            return known;
-    }
-    return QString();
+    const QByteArray known
+        = propertyNameOf(const_cast<HostObject *>(this), name.toUtf8().constData());
+    // QObject's own objectName is not a property of the control.
+    return known == "objectName" ? QString() : QString::fromUtf8(known);
 }
 
 bool HostObject::isDeclared(const QString &name) const
@@ -75,10 +74,7 @@ void HostObject::assign(const QString &name, const QVariant &value)
         setProperty((resolved.isEmpty() ? name : resolved).toUtf8().constData(), value);
         return;
     }
-    const QMetaProperty meta = metaObject()->property(index);
-    if (!meta.isWritable())
-        throw RuntimeError(383, QStringLiteral("'%1' property is read-only").arg(resolved));
-    meta.write(this, LateBinding::coerce(value, meta.metaType(), platform().regionalSettings()));
+    qor::setProperty(this, resolved.toLatin1().constData(), value, platform().regionalSettings());
 }
 
 QString HostObject::elementClass(const QString &) const

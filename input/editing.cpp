@@ -12,8 +12,9 @@ void selEdit(QObject *control, bool startAtEnd, bool gridEditor)
     const char *startName = gridEditor ? "EditSelStart" : "SelStart";
     const char *lengthName = gridEditor ? "EditSelLength" : "SelLength";
     const int length = int(getProperty(control, textName).toString().size());
-    setProperty(control, startName, startAtEnd ? length : 0);
-    setProperty(control, lengthName, startAtEnd ? 0 : length);
+    const RegionalSettings rs = platform().regionalSettings();
+    setProperty(control, startName, startAtEnd ? length : 0, rs);
+    setProperty(control, lengthName, startAtEnd ? 0 : length, rs);
 }
 
 void sendAKey(int keyAscii)

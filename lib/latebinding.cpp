@@ -1,7 +1,7 @@
 #include "lib/latebinding.h"
 
 #include "platform/platform.h"
-#include "runtime/conversion.h"
+#include "runtime/coercion.h"
 #include "runtime/runtimeerror.h"
 #include "runtime/variant.h"
 
@@ -39,63 +39,12 @@ QVariant unwrap(const QVariant &storage)
     return storage;
 }
 
-QObject *objectOf(const QVariant &value)
-{
-    if (isObject(value))
-        return value.value<QObject *>();
-    throw RuntimeError::typeMismatch();
-}
-
 } // namespace
 
 LateBinding::LateBinding(QObject *object, const TypeLibrary &library)
     : m_object(object)
     , m_library(library)
 { }
-
-QVariant LateBinding::coerce(const QVariant &value, QMetaType target, const RegionalSettings &rs)
-{
-    switch (target.id()) {
-    case QMetaType::QVariant: return value;
-    case QMetaType::QString: return toText(value, rs);
-    case QMetaType::Bool: return toBoolean(value, rs);
-    case QMetaType::Int: return QVariant::fromValue<int>(toLong(value, rs));
-    case QMetaType::Short: return QVariant::fromValue<short>(toInteger(value, rs));
-    case QMetaType::Double: return toDouble(value, rs);
-    case QMetaType::Float: {
-        const double d = toDouble(value, rs);
-        if (std::isfinite(d) && std::fabs(d) > std::numeric_limits<float>::max())
-            throw RuntimeError::overflow();
-        return QVariant::fromValue<float>(float(d));
-    }
-    case QMetaType::QObjectStar: return QVariant::fromValue(objectOf(value));
-    case QMetaType::QDateTime: {
-        if (varType(value) != VarType::Date)
-            throw RuntimeError::typeMismatch();
-        return value.toDateTime();
-    }
-    case QMetaType::QVariantList: {
-        if (!isArray(value))
-            throw RuntimeError::typeMismatch();
-        return value.toList();
-    }
-    default: break;
-    }
-    if (target.flags() & QMetaType::IsEnumeration) {
-        const int number = toLong(value, rs);
-        return QVariant(target, &number);
-    }
-    if (target.flags() & QMetaType::PointerToQObject) {
-        QObject *object = objectOf(value);
-        if (object && !object->metaObject()->inherits(target.metaObject()))
-            throw RuntimeError::typeMismatch();
-        return QVariant(target, &object);
-    }
-    QVariant converted = value;
-    if (!converted.convert(target))
-        throw RuntimeError::typeMismatch();
-    return converted;
-}
 
 QVariant LateBinding::invoke(const QString &name, QVariantList &args) const
 {
@@ -118,7 +67,7 @@ QVariant LateBinding::callMethod(const MethodInfo &method, QVariantList &args) c
         const bool supplied = i < args.size() && !isMissing(args[i]);
         QVariant value;
         if (supplied)
-            value = coerce(args[i], param.metaType, rs);
+            value = coerceTo(args[i], param.metaType, rs);
         else if (!param.optional)
             throw RuntimeError(449);
         else if (param.defaultValue.isValid())
@@ -152,7 +101,7 @@ QVariant LateBinding::accessProperty(const PropertyInfo &property, QVariantList 
         return unwrap(meta.read(m_object));
     if (args.size() > 1)
         throw RuntimeError::wrongArgumentCount();
-    const QVariant value = coerce(args.first(), meta.metaType(), platform().regionalSettings());
+    const QVariant value = coerceTo(args.first(), meta.metaType(), platform().regionalSettings());
     meta.write(m_object, value);
     return QVariant();
 }

@@ -24,9 +24,6 @@ public:
 
     QVariant invoke(const QString &name, QVariantList &args) const;
 
-    // An argument converted to a declared type the way an automation call does.
-    static QVariant coerce(const QVariant &value, QMetaType target, const RegionalSettings &rs);
-
 private:
     QVariant callMethod(const MethodInfo &method, QVariantList &args) const;
     QVariant accessProperty(const PropertyInfo &property, QVariantList &args) const;

@@ -1,5 +1,6 @@
 #include "runtime/callbyname.h"
 
+#include "runtime/coercion.h"
 #include "runtime/runtimeerror.h"
 
 #include <QMetaMethod>
@@ -16,8 +17,9 @@ QObject *requireObject(QObject *object)
     return object;
 }
 
-// The name under which the object knows the property, or an empty array.
-QByteArray resolveProperty(QObject *object, const char *name)
+} // namespace
+
+QByteArray propertyNameOf(QObject *object, const char *name)
 {
     const QMetaObject *meta = object->metaObject();
     if (meta->indexOfProperty(name) >= 0)
@@ -36,35 +38,31 @@ QByteArray resolveProperty(QObject *object, const char *name)
     return QByteArray();
 }
 
-} // namespace
-
 bool hasProperty(QObject *object, const char *name)
 {
-    return object && !resolveProperty(object, name).isEmpty();
+    return object && !propertyNameOf(object, name).isEmpty();
 }
 
 QVariant getProperty(QObject *object, const char *name)
 {
-    const QByteArray resolved = resolveProperty(requireObject(object), name);
+    const QByteArray resolved = propertyNameOf(requireObject(object), name);
     if (resolved.isEmpty())
         throw RuntimeError::notSupportedByObject();
     return object->property(resolved.constData());
 }
 
-void setProperty(QObject *object, const char *name, const QVariant &value)
+void setProperty(
+    QObject *object, const char *name, const QVariant &value, const RegionalSettings &rs)
 {
-    const QByteArray resolved = resolveProperty(requireObject(object), name);
+    const QByteArray resolved = propertyNameOf(requireObject(object), name);
     if (resolved.isEmpty())
         throw RuntimeError::notSupportedByObject();
     const QMetaObject *meta = object->metaObject();
     const int index = meta->indexOfProperty(resolved.constData());
     if (index >= 0) {
-        QVariant converted = value;
         const QMetaProperty property = meta->property(index);
-        if (property.metaType().id() != QMetaType::QVariant
-            && !converted.convert(property.metaType()))
-            throw RuntimeError::typeMismatch();
-        if (!property.write(object, converted))
+        if (!property.isWritable()
+            || !property.write(object, coerceTo(value, property.metaType(), rs)))
             throw RuntimeError(
                 383, QStringLiteral("'%1' property is read-only").arg(QLatin1String(name)));
         return;

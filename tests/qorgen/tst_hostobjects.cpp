@@ -142,7 +142,7 @@ private slots:
     void libraryReachesThemByName()
     {
         TextBox box;
-        qor::setProperty(&box, "text", QStringLiteral("abc"));
+        qor::setProperty(&box, "text", QStringLiteral("abc"), {});
         QCOMPARE(getProperty(&box, "TEXT").toString(), QStringLiteral("abc"));
         ListBox list;
         callOperation(&list, "AddItem", { integerVariant(12) });

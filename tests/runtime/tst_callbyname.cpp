@@ -34,7 +34,7 @@ private slots:
         SampleControl control;
         control.setProperty("Text", QStringLiteral("abc"));
         QCOMPARE(qor::getProperty(&control, "text").toString(), QStringLiteral("abc"));
-        qor::setProperty(&control, "LISTINDEX", QStringLiteral("3"));
+        qor::setProperty(&control, "LISTINDEX", QStringLiteral("3"), {});
         QCOMPARE(control.listIndex, 3);
         QVERIFY(qor::hasProperty(&control, "caption"));
         QVERIFY(!qor::hasProperty(&control, "SelStart"));
@@ -61,10 +61,10 @@ private slots:
         SampleControl control;
         const std::function<void()> actions[] = {
             [&] { qor::getProperty(&control, "SelStart"); },
-            [&] { qor::setProperty(&control, "SelStart", 1); },
+            [&] { qor::setProperty(&control, "SelStart", 1, {}); },
             [&] { qor::getProperty(nullptr, "Text"); },
-            [&] { qor::setProperty(&control, "ListIndex", QStringLiteral("abc")); },
-            [&] { qor::setProperty(&control, "Caption", QStringLiteral("x")); },
+            [&] { qor::setProperty(&control, "ListIndex", QStringLiteral("abc"), {}); },
+            [&] { qor::setProperty(&control, "Caption", QStringLiteral("x"), {}); },
             [&] { qor::callOperation(&control, "Refresh"); },
             [&] {
                 qor::callOperation(&control, "Clear", { 1, 2, 3, 4, 5 });
