@@ -6,6 +6,7 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QLocale>
 #include <QProcess>
 #include <QRegularExpression>
 #include <QStandardPaths>
@@ -13,7 +14,7 @@
 namespace qor {
 
 CorePlatform::CorePlatform()
-    : m_settings(RegionalSettings::system())
+    : m_settings(RegionalSettings::fromLocale(QLocale::system().name()))
     , m_systemDirectory(QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation))
 { }
 

@@ -57,11 +57,6 @@ RegionalSettings RegionalSettings::fromLocale(const QString &name)
     return rs;
 }
 
-RegionalSettings RegionalSettings::system()
-{
-    return fromLocale(QLocale::system().name());
-}
-
 int RegionalSettings::expandYear(int twoDigitYear) const
 {
     if (twoDigitYear >= 100 || twoDigitYear < 0)

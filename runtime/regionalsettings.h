@@ -25,8 +25,6 @@ struct RegionalSettings
 
     // Settings of a named locale, built through QLocale.
     static RegionalSettings fromLocale(const QString &name);
-    // Settings of the machine's own locale.
-    static RegionalSettings system();
 
     // Places a year typed with one or two digits in its century.
     int expandYear(int twoDigitYear) const;
