@@ -53,11 +53,6 @@ QString typeName(Type type)
     return QString::fromLatin1(names[type]);
 }
 
-QString soundFileOf(Type type)
-{
-    return typeName(type) + QStringLiteral(".wav");
-}
-
 QList<DialogButton> buttonsOf(int style)
 {
     if (style & 4)

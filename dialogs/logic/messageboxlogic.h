@@ -15,7 +15,6 @@ enum Type { Critical = 0, Exclamation = 1, Information = 2, Question = 3, Messag
 
 Type typeOf(int style);
 QString typeName(Type type);
-QString soundFileOf(Type type); // "Critical.wav", ...
 
 // The visible buttons with their captions in the module language.
 QList<DialogButton> buttonsOf(int style);
