@@ -3,11 +3,11 @@
 #include "input/amounts.h"
 #include "input/editing.h"
 #include "input/textfilters.h"
-#include "lib/catalogue.h"
+#include "lib/frame/catalogue.h"
 #include "lib/latebinding.h"
-#include "lib/modgenlib.h"
+#include "lib/frame/modgenlib.h"
 #include "lib/typelibrary.h"
-#include "lib/windowsize.h"
+#include "lib/frame/windowsize.h"
 #include "platform/platform.h"
 #include "runtime/conversion.h"
 #include "system/stationflags.h"
@@ -189,3 +189,27 @@ QString clsqorGenLib::ControleerOGM(QString &OGM, bool MBox)
 }
 
 // End of identifier checks
+
+// Dialogs, scanner input and sound
+
+// End of dialogs, scanner input and sound
+
+// Dates and times
+
+// End of dates and times
+
+// Fixed-field records
+
+// End of fixed-field records
+
+// Keystroke handlers, the calculator and VAT
+
+// End of keystroke handlers, the calculator and VAT
+
+// Grids, lists and sorting
+
+// End of grids, lists and sorting
+
+// Desktop and system services
+
+// End of desktop and system services

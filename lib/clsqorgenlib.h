@@ -1,6 +1,6 @@
 #pragma once
 
-#include "lib/qorenums.h"
+#include "lib/frame/qorenums.h"
 
 #include <QObject>
 #include <QString>
@@ -98,6 +98,24 @@ public:
     // A first part beyond 32 bits raises RuntimeError 6 to the caller.
     Q_INVOKABLE QString ControleerOGM(QString &OGM, bool MBox = true);
     // End of identifier checks.
+
+    // Dialogs, scanner input and sound.
+    // End of dialogs, scanner input and sound.
+
+    // Dates and times.
+    // End of dates and times.
+
+    // Fixed-field records.
+    // End of fixed-field records.
+
+    // Keystroke handlers, the calculator and VAT.
+    // End of keystroke handlers, the calculator and VAT.
+
+    // Grids, lists and sorting.
+    // End of grids, lists and sorting.
+
+    // Desktop and system services.
+    // End of desktop and system services.
 
 private:
     // Methods that may show a catalogue text first hand over their language.

@@ -1,7 +1,7 @@
 #include "validate/checkreports.h"
 
-#include "dialogs/logic/messageboxlogic.h"
-#include "lib/catalogue.h"
+#include "lib/frame/messageboxlogic.h"
+#include "lib/frame/catalogue.h"
 
 namespace qor {
 

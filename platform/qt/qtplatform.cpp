@@ -1,8 +1,8 @@
 #include "platform/qt/qtplatform.h"
 
 #include "platform/keyboardlayout.h"
-#include "platform/qt/inputboxdialog.h"
-#include "platform/qt/messageboxdialog.h"
+#include "dialogs/qt/inputboxdialog.h"
+#include "dialogs/qt/messageboxdialog.h"
 
 #include <QApplication>
 #include <QGuiApplication>

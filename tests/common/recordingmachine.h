@@ -1,6 +1,6 @@
 #pragma once
 
-#include "lib/modgenlib.h"
+#include "lib/frame/modgenlib.h"
 #include "platform/recordingplatform.h"
 
 #include <memory>

@@ -1,6 +1,6 @@
-#include "lib/catalogue.h"
+#include "lib/frame/catalogue.h"
 #include "lib/clsqorgenlib.h"
-#include "lib/modgenlib.h"
+#include "lib/frame/modgenlib.h"
 
 #include <QTest>
 

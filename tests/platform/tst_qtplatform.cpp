@@ -1,6 +1,6 @@
-#include "dialogs/logic/messageboxlogic.h"
+#include "lib/frame/messageboxlogic.h"
 #include "input/editing.h"
-#include "lib/modgenlib.h"
+#include "lib/frame/modgenlib.h"
 #include "platform/qt/qtplatform.h"
 
 #include <QApplication>

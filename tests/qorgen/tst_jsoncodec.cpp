@@ -1,7 +1,7 @@
 #include "host/hostfactory.h"
 #include "host/hostobject.h"
 #include "host/textbox.h"
-#include "lib/windowsize.h"
+#include "lib/frame/windowsize.h"
 #include "platform/recordingplatform.h"
 #include "runtime/variant.h"
 #include "tools/qorgen/jsonreader.h"

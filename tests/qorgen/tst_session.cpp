@@ -1,5 +1,5 @@
 #include "lib/clsqorgenlib.h"
-#include "lib/modgenlib.h"
+#include "lib/frame/modgenlib.h"
 #include "platform/recordingplatform.h"
 #include "tools/qorgen/jsonwriter.h"
 #include "tools/qorgen/session.h"

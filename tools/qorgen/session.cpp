@@ -1,7 +1,7 @@
 #include "tools/qorgen/session.h"
 
 #include "lib/clsqorgenlib.h"
-#include "lib/modgenlib.h"
+#include "lib/frame/modgenlib.h"
 #include "lib/typelibrary.h"
 #include "platform/recordingplatform.h"
 #include "runtime/variant.h"

@@ -1,4 +1,4 @@
-#include "lib/modgenlib.h"
+#include "lib/frame/modgenlib.h"
 
 namespace qor {
 

@@ -1,4 +1,4 @@
-#include "platform/qt/messageboxdialog.h"
+#include "dialogs/qt/messageboxdialog.h"
 
 #include <QHBoxLayout>
 #include <QKeyEvent>

@@ -33,4 +33,11 @@ inline ModGenLib &modGenLib()
     return ModGenLib::current();
 }
 
+// Every method that may show a catalogue text first hands over the language
+// of the object it was called on.
+inline void useLanguage(qint32 offset)
+{
+    modGenLib().languageOffset = offset;
+}
+
 } // namespace qor

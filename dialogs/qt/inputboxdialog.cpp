@@ -1,4 +1,4 @@
-#include "platform/qt/inputboxdialog.h"
+#include "dialogs/qt/inputboxdialog.h"
 
 #include <QHBoxLayout>
 #include <QKeyEvent>

@@ -1,7 +1,7 @@
-#include "dialogs/logic/messageboxlogic.h"
+#include "lib/frame/messageboxlogic.h"
 
-#include "lib/catalogue.h"
-#include "lib/modgenlib.h"
+#include "lib/frame/catalogue.h"
+#include "lib/frame/modgenlib.h"
 
 namespace qor {
 

@@ -1,4 +1,4 @@
-#include "dialogs/logic/messageboxlogic.h"
+#include "lib/frame/messageboxlogic.h"
 
 #include "tests/common/recordingmachine.h"
 
