@@ -11,12 +11,7 @@
 #include "platform/platform.h"
 #include "runtime/conversion.h"
 #include "system/stationflags.h"
-#include "validate/bankaccount.h"
-#include "validate/checkreports.h"
-#include "validate/identitycard.h"
-#include "validate/nationalnumber.h"
-#include "validate/paymentreference.h"
-#include "validate/vatnumber.h"
+#include "validate/identifierchecks.h"
 
 using namespace qor;
 
@@ -64,11 +59,6 @@ QVariant clsqorGenLib::Invoke(const QString &name, const QVariantList &args)
 {
     QVariantList copy = args;
     return Invoke(name, copy);
-}
-
-void clsqorGenLib::useMyLanguage() const
-{
-    modGenLib().languageOffset = m_Offset;
 }
 
 QString clsqorGenLib::LLGenLib(qint32 ResOffsetCode)
@@ -128,20 +118,12 @@ bool clsqorGenLib::GetKlantPC()
 
 QString clsqorGenLib::ControleerBankNr(QString &BankNr, bool MBox)
 {
-    useMyLanguage();
-    const CheckResult check = checkBankAccount(BankNr);
-    if (MBox && check.refused)
-        reportRefusedBankAccount();
-    return check.display;
+    return controleerBankNr(BankNr, MBox, m_Offset);
 }
 
 QString clsqorGenLib::ControleerVAT(QString &VATnr, bool MBox, QString &LandCode)
 {
-    useMyLanguage();
-    const CheckResult check = checkVatNumber(VATnr, LandCode);
-    if (MBox && check.refused)
-        reportRefusedEnterpriseNumber();
-    return check.display;
+    return controleerVAT(VATnr, MBox, LandCode, m_Offset);
 }
 
 QString clsqorGenLib::ControleerVAT(QString &VATnr, bool MBox)
@@ -152,40 +134,22 @@ QString clsqorGenLib::ControleerVAT(QString &VATnr, bool MBox)
 
 QString clsqorGenLib::ControleerNatNr(QString &NatNr, bool MBox, const QString &LandCode)
 {
-    useMyLanguage();
-    const CheckResult check = checkNationalNumber(NatNr, LandCode);
-    if (MBox && check.refused)
-        reportRefusedNationalNumber();
-    return check.display;
+    return controleerNatNr(NatNr, MBox, LandCode, m_Offset);
 }
 
 QString clsqorGenLib::ControleerIdentNr(QString &IdentNr, bool MBox)
 {
-    useMyLanguage();
-    const CheckResult check = checkIdentityCard(IdentNr, regional());
-    // The user may accept a refused number as the card of a foreigner.
-    if (MBox && check.refused && userAcceptsIdentityCard(IdentNr))
-        return IdentNr;
-    return check.display;
+    return controleerIdentNr(IdentNr, MBox, m_Offset);
 }
 
 QString clsqorGenLib::GetOGM(QString &ReferentieNummer)
 {
-    useMyLanguage();
-    const PaymentReference made = makePaymentReference(ReferentieNummer);
-    if (made.tooLong)
-        reportReferenceTooLong(made.digits, m_vbCr2);
-    return made.ogm;
+    return getOGM(ReferentieNummer, m_vbCr2, m_Offset);
 }
 
 QString clsqorGenLib::ControleerOGM(QString &OGM, bool MBox)
 {
-    useMyLanguage();
-    const QString typed = OGM;
-    const CheckResult check = checkPaymentReference(OGM);
-    if (MBox && check.refused)
-        reportRefusedPaymentReference(typed);
-    return check.display;
+    return controleerOGM(OGM, MBox, m_Offset);
 }
 
 // End of identifier checks

@@ -118,9 +118,6 @@ public:
     // End of desktop and system services.
 
 private:
-    // Methods that may show a catalogue text first hand over their language.
-    void useMyLanguage() const;
-
     QString m_msg;
     QString m_SQL;
     QVariant m_FlowCTL;

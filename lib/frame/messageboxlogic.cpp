@@ -9,10 +9,17 @@ namespace MessageBoxLogic {
 
 namespace {
 
-constexpr int resultOK = 1;
-constexpr int resultCancel = 2;
-constexpr int resultYes = 6;
-constexpr int resultNo = 7;
+using namespace MessageBoxResult;
+constexpr int resultOK = OK;
+constexpr int resultCancel = Cancel;
+constexpr int resultYes = Yes;
+constexpr int resultNo = No;
+
+// Catalogue ids of the box's own words.
+constexpr qint32 yesCaption = 1028;
+constexpr qint32 noCaption = 1029;
+constexpr qint32 firstTypeTitle = 1031; // "Fout !", then one title per type
+constexpr qint32 cancelCaption = 9500;
 
 int resultOf(const QList<DialogButton> &buttons, int wanted)
 {
@@ -37,11 +44,11 @@ int firstVisible(const QList<DialogButton> &buttons, std::initializer_list<int> 
 
 Type typeOf(int style)
 {
-    if (style & 32)
-        return (style & 16) ? Exclamation : Question;
-    if (style & 16)
+    if (style & MessageBoxStyle::Question)
+        return (style & MessageBoxStyle::Critical) ? Exclamation : Question;
+    if (style & MessageBoxStyle::Critical)
         return Critical;
-    if (style & 64)
+    if (style & MessageBoxStyle::Information)
         return Information;
     return Message;
 }
@@ -55,12 +62,12 @@ QString typeName(Type type)
 
 QList<DialogButton> buttonsOf(int style)
 {
-    if (style & 4)
-        return { { QStringLiteral("cmdYes"), loadCatalogueText(1028), resultYes },
-            { QStringLiteral("cmdNo"), loadCatalogueText(1029), resultNo } };
-    if (style & 1)
+    if (style & MessageBoxStyle::YesNo)
+        return { { QStringLiteral("cmdYes"), loadCatalogueText(yesCaption), resultYes },
+            { QStringLiteral("cmdNo"), loadCatalogueText(noCaption), resultNo } };
+    if (style & MessageBoxStyle::OKCancel)
         return { { QStringLiteral("cmdOK"), QStringLiteral("OK"), resultOK },
-            { QStringLiteral("cmdCancel"), loadCatalogueText(9500), resultCancel } };
+            { QStringLiteral("cmdCancel"), loadCatalogueText(cancelCaption), resultCancel } };
     return { { QStringLiteral("cmdOK"), QStringLiteral("OK"), resultOK } };
 }
 
@@ -101,7 +108,7 @@ MessageBoxERequest prepare(const QString &prompt, int style, const QString &titl
     const Type type = typeOf(style);
     request.type = type;
     request.typeName = typeName(type);
-    request.caption = title.trimmed().isEmpty() ? loadCatalogueText(1031 + type) : title;
+    request.caption = title.trimmed().isEmpty() ? loadCatalogueText(firstTypeTitle + type) : title;
     request.buttons = buttonsOf(style);
     const QList<DialogButton> buttons = request.buttons;
     request.resultForKey = [buttons](const QString &key) { return resultForKey(buttons, key); };

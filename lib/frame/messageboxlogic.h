@@ -6,6 +6,27 @@
 
 namespace qor {
 
+// The style value of the extended message box: bits tested one by one, as the
+// classic box did, so any combination (and any other bit) may be passed.
+namespace MessageBoxStyle {
+enum Bit : int {
+    OK = 0, // no button bit: OK alone
+    OKCancel = 1,
+    YesNo = 4,
+    Critical = 16,
+    Question = 32,
+    Exclamation = 48, // both the critical and the question bit
+    Information = 64,
+};
+// Not a bit pattern: the identity-number box of the identity card check.
+constexpr int IdentityNumber = -1;
+} // namespace MessageBoxStyle
+
+// What the extended message box returns (0: no button chosen).
+namespace MessageBoxResult {
+enum Value : int { None = 0, OK = 1, Cancel = 2, Yes = 6, No = 7 };
+} // namespace MessageBoxResult
+
 // How the extended message box reads its style value: the message type and
 // the buttons are bit tests, not a table of the standard sets, so style 3
 // shows OK and Cancel and style 5 Yes and No.
