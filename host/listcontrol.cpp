@@ -10,7 +10,7 @@ namespace {
 
 RuntimeError invalidPropertyValue()
 {
-    return RuntimeError(380, QStringLiteral("Invalid property value"));
+    return RuntimeError::invalidPropertyValue();
 }
 
 QString entryText(const QVariant &item)

@@ -11,7 +11,7 @@ TextBox::TextBox(QObject *parent)
 void TextBox::setMaxLength(qint32 maxLength)
 {
     if (maxLength < 0)
-        throw RuntimeError(380, QStringLiteral("Invalid property value"));
+        throw RuntimeError::invalidPropertyValue();
     m_maxLength = maxLength;
 }
 

@@ -11,7 +11,7 @@ namespace {
 void requireNotNegative(int value)
 {
     if (value < 0)
-        throw RuntimeError(380, QStringLiteral("Invalid property value"));
+        throw RuntimeError::invalidPropertyValue();
 }
 
 } // namespace

@@ -69,7 +69,7 @@ QVariant LateBinding::callMethod(const MethodInfo &method, QVariantList &args) c
         if (supplied)
             value = coerceTo(args[i], param.metaType, rs);
         else if (!param.optional)
-            throw RuntimeError(449);
+            throw RuntimeError::argumentNotOptional();
         else if (param.defaultValue.isValid())
             value = param.defaultValue;
         else if (param.metaType.id() != QMetaType::QVariant)

@@ -13,7 +13,7 @@ namespace {
 QObject *requireObject(QObject *object)
 {
     if (!object)
-        throw RuntimeError(91);
+        throw RuntimeError::objectNotSet();
     return object;
 }
 
@@ -63,8 +63,7 @@ void setProperty(
         const QMetaProperty property = meta->property(index);
         if (!property.isWritable()
             || !property.write(object, coerceTo(value, property.metaType(), rs)))
-            throw RuntimeError(
-                383, QStringLiteral("'%1' property is read-only").arg(QLatin1String(name)));
+            throw RuntimeError::propertyReadOnly(QLatin1String(name));
         return;
     }
     object->setProperty(resolved.constData(), value);

@@ -11,61 +11,115 @@ RuntimeError::RuntimeError(int number, const QString &description)
 QString RuntimeError::classicDescription(int number)
 {
     switch (number) {
-    case 5: return QStringLiteral("Invalid procedure call or argument");
-    case 6: return QStringLiteral("Overflow");
-    case 7: return QStringLiteral("Out of memory");
-    case 9: return QStringLiteral("Subscript out of range");
-    case 11: return QStringLiteral("Division by zero");
-    case 13: return QStringLiteral("Type mismatch");
-    case 52: return QStringLiteral("Bad file name or number");
-    case 53: return QStringLiteral("File not found");
-    case 75: return QStringLiteral("Path/File access error");
-    case 76: return QStringLiteral("Path not found");
-    case 91: return QStringLiteral("Object variable or With block variable not set");
-    case 94: return QStringLiteral("Invalid use of Null");
-    case 424: return QStringLiteral("Object required");
-    case 438: return QStringLiteral("Object doesn't support this property or method");
-    case 449: return QStringLiteral("Argument not optional");
-    case 450: return QStringLiteral("Wrong number of arguments or invalid property assignment");
+    case InvalidProcedureCall: return QStringLiteral("Invalid procedure call or argument");
+    case Overflow: return QStringLiteral("Overflow");
+    case OutOfMemory: return QStringLiteral("Out of memory");
+    case SubscriptOutOfRange: return QStringLiteral("Subscript out of range");
+    case DivisionByZero: return QStringLiteral("Division by zero");
+    case TypeMismatch: return QStringLiteral("Type mismatch");
+    case InternalError: return QStringLiteral("Internal error");
+    case BadFileNameOrNumber: return QStringLiteral("Bad file name or number");
+    case FileNotFound: return QStringLiteral("File not found");
+    case PermissionDenied: return QStringLiteral("Permission denied");
+    case PathFileAccessError: return QStringLiteral("Path/File access error");
+    case PathNotFound: return QStringLiteral("Path not found");
+    case ObjectNotSet: return QStringLiteral("Object variable or With block variable not set");
+    case InvalidUseOfNull: return QStringLiteral("Invalid use of Null");
+    case InvalidPropertyValue: return QStringLiteral("Invalid property value");
+    case ObjectRequired: return QStringLiteral("Object required");
+    case NotSupportedByObject:
+        return QStringLiteral("Object doesn't support this property or method");
+    case ArgumentNotOptional: return QStringLiteral("Argument not optional");
+    case WrongArgumentCount:
+        return QStringLiteral("Wrong number of arguments or invalid property assignment");
     default: return QStringLiteral("Application-defined or object-defined error");
     }
 }
 
 RuntimeError RuntimeError::invalidProcedureCall()
 {
-    return RuntimeError(5);
+    return RuntimeError(InvalidProcedureCall);
 }
+
 RuntimeError RuntimeError::overflow()
 {
-    return RuntimeError(6);
+    return RuntimeError(Overflow);
 }
+
+RuntimeError RuntimeError::outOfMemory()
+{
+    return RuntimeError(OutOfMemory);
+}
+
 RuntimeError RuntimeError::subscriptOutOfRange()
 {
-    return RuntimeError(9);
+    return RuntimeError(SubscriptOutOfRange);
 }
+
 RuntimeError RuntimeError::divisionByZero()
 {
-    return RuntimeError(11);
+    return RuntimeError(DivisionByZero);
 }
+
 RuntimeError RuntimeError::typeMismatch()
 {
-    return RuntimeError(13);
+    return RuntimeError(TypeMismatch);
 }
+
+RuntimeError RuntimeError::internalError()
+{
+    return RuntimeError(InternalError);
+}
+
+RuntimeError RuntimeError::fileNotFound()
+{
+    return RuntimeError(FileNotFound);
+}
+
+RuntimeError RuntimeError::permissionDenied()
+{
+    return RuntimeError(PermissionDenied);
+}
+
+RuntimeError RuntimeError::objectNotSet()
+{
+    return RuntimeError(ObjectNotSet);
+}
+
 RuntimeError RuntimeError::invalidUseOfNull()
 {
-    return RuntimeError(94);
+    return RuntimeError(InvalidUseOfNull);
 }
+
+RuntimeError RuntimeError::invalidPropertyValue()
+{
+    return RuntimeError(InvalidPropertyValue);
+}
+
 RuntimeError RuntimeError::objectRequired()
 {
-    return RuntimeError(424);
+    return RuntimeError(ObjectRequired);
 }
+
 RuntimeError RuntimeError::notSupportedByObject()
 {
-    return RuntimeError(438);
+    return RuntimeError(NotSupportedByObject);
 }
+
+RuntimeError RuntimeError::argumentNotOptional()
+{
+    return RuntimeError(ArgumentNotOptional);
+}
+
 RuntimeError RuntimeError::wrongArgumentCount()
 {
-    return RuntimeError(450);
+    return RuntimeError(WrongArgumentCount);
+}
+
+RuntimeError RuntimeError::propertyReadOnly(const QString &property)
+{
+    return RuntimeError(
+        PropertyReadOnly, QStringLiteral("'%1' property is read-only").arg(property));
 }
 
 } // namespace qor

@@ -46,15 +46,15 @@ QString controleerBankNr(QString &bankNr, bool mbox, qint32 offset)
 QString controleerVAT(QString &vatNr, bool mbox, QString &landCode, qint32 offset)
 {
     useLanguage(offset);
-    return reported(checkVatNumber(vatNr, landCode), mbox, EnterpriseNumberWrong,
-        EnterpriseNumberNotation);
+    return reported(
+        checkVatNumber(vatNr, landCode), mbox, EnterpriseNumberWrong, EnterpriseNumberNotation);
 }
 
 QString controleerNatNr(QString &natNr, bool mbox, const QString &landCode, qint32 offset)
 {
     useLanguage(offset);
-    return reported(checkNationalNumber(natNr, landCode), mbox, NationalNumberWrong,
-        NationalNumberNotation);
+    return reported(
+        checkNationalNumber(natNr, landCode), mbox, NationalNumberWrong, NationalNumberNotation);
 }
 
 QString controleerIdentNr(QString &identNr, bool mbox, qint32 offset)
@@ -63,8 +63,8 @@ QString controleerIdentNr(QString &identNr, bool mbox, qint32 offset)
     const CheckResult check = checkIdentityCard(identNr, platform().regionalSettings());
     // The identity-number box: answer 1 accepts the number as a foreign card.
     if (mbox && check.refused
-        && showMessageBoxE(identNr, MessageBoxStyle::IdentityNumber,
-               loadCatalogueText(IdentityCardTitle))
+        && showMessageBoxE(
+               identNr, MessageBoxStyle::IdentityNumber, loadCatalogueText(IdentityCardTitle))
             == MessageBoxResult::OK)
         return identNr;
     return check.display;

@@ -14,7 +14,7 @@ QLineEdit *require(const QPointer<QLineEdit> &field)
 {
     // A field that is gone behaves as an object that is no longer there.
     if (!field)
-        throw RuntimeError(91);
+        throw RuntimeError::objectNotSet();
     return field.data();
 }
 

@@ -290,12 +290,12 @@ JsonValue Session::run(Call &call, Outcome &outcome)
     } catch (const RuntimeError &e) {
         error = errorObject(e);
     } catch (const std::bad_alloc &) {
-        error = errorObject(RuntimeError(7));
+        error = errorObject(RuntimeError::outOfMemory());
     } catch (const std::exception &e) {
         error = errorObject(RuntimeError(
             51, QStringLiteral("Internal error: %1").arg(QString::fromLocal8Bit(e.what()))));
     } catch (...) {
-        error = errorObject(RuntimeError(51, QStringLiteral("Internal error")));
+        error = errorObject(RuntimeError::internalError());
     }
     outcome = error.isNull() ? Outcome::Ran : Outcome::RuntimeError;
 
