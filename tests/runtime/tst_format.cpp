@@ -116,6 +116,13 @@ private slots:
         QTest::newRow("999.999 carries into a group") << QVariant(999.999) << amountPattern << "1.000,00" << "1,000.00";
         QTest::newRow("sum of 0.1 and 0.2") << QVariant(0.1 + 0.2) << "0.0000000000000000" << "0,3000000000000000" << "0.3000000000000000";
         QTest::newRow("a tiny negative keeps its sign") << QVariant(-0.001) << "0.00" << "-0,00" << "-0.00";
+        QTest::newRow("a half below the first digit rounds up") << QVariant(0.5) << "0" << "1" << "1";
+        QTest::newRow("just under a half below the first digit") << QVariant(0.49) << "0" << "0" << "0";
+        QTest::newRow("a half two places below the first digit") << QVariant(0.05) << "0.0" << "0,1" << "0.1";
+        QTest::newRow("a first digit beyond the rounding point") << QVariant(0.004) << "0.00" << "0,00" << "0.00";
+        QTest::newRow("a half beyond the rounding point") << QVariant(0.005) << "0.00" << "0,01" << "0.01";
+        QTest::newRow("a carry makes a new first digit") << QVariant(0.95) << "0.0" << "1,0" << "1.0";
+        QTest::newRow("a carry through every nine") << QVariant(99.5) << "0" << "100" << "100";
         QTest::newRow("a Single rounds on its 7 digits") << QVariant(2.675f) << "0.00" << "2,68" << "2.68";
         QTest::newRow("64-bit whole numbers stay exact") << QVariant(qlonglong(9007199254740993LL)) << "#,##0" << "9.007.199.254.740.993" << "9,007,199,254,740,993";
         // clang-format on
