@@ -1,0 +1,148 @@
+#include "lib/clsqorgenlib.h"
+#include "lib/typelibrary.h"
+#include "runtime/coercion.h"
+#include "runtime/runtimeerror.h"
+#include "tests/common/recordingmachine.h"
+
+#include <QMetaMethod>
+#include <QTest>
+
+#include <functional>
+
+using namespace qor;
+
+namespace {
+
+// What one call leaves behind: its result, the arguments as written back,
+// what the user was shown, or the run-time error it raised.
+struct Outcome
+{
+    QVariant result;
+    QVariantList arguments;
+    QVariantList shown;
+    int error = 0;
+};
+
+// Argument values that make optional arguments matter: blank, wrong and
+// well-formed texts, both Booleans, zero and non-zero numbers.
+// The type of a parameter; moc knows a by-reference one by its name only.
+QMetaType parameterType(const QMetaMethod &method, int i)
+{
+    const QMetaType type = method.parameterMetaType(i);
+    if (type.isValid())
+        return type;
+    QByteArray plain = method.parameterTypeName(i);
+    plain.chop(plain.endsWith('&') ? 1 : 0);
+    return QMetaType::fromName(plain);
+}
+
+QVariant sampleFor(QMetaType type, int round)
+{
+    static const QVariantList texts { QString(), QStringLiteral("123"),
+        QStringLiteral("000-0000000-97"), QStringLiteral("12,5") };
+    switch (type.id()) {
+    case QMetaType::QString: return texts.at(round % texts.size());
+    case QMetaType::Bool: return round % 2 == 0;
+    case QMetaType::QVariant: return texts.at((round + 1) % texts.size());
+    case QMetaType::QObjectStar: return QVariant::fromValue<QObject *>(nullptr);
+    default: return round % 3;
+    }
+}
+
+Outcome capture(const std::function<QVariant(QVariantList &)> &call, QVariantList args)
+{
+    auto machine = test::installRecordingPlatform(QStringLiteral("nl_BE"));
+    Outcome outcome;
+    try {
+        outcome.result = call(args);
+    } catch (const RuntimeError &error) {
+        outcome.error = error.number();
+    }
+    outcome.arguments = args;
+    outcome.shown = machine->shown();
+    return outcome;
+}
+
+// Calls a C++ overload that moc made for default arguments: the compiler
+// fills in the C++ defaults.
+QVariant callDirectly(clsqorGenLib &lib, const QMetaMethod &method, QVariantList &args)
+{
+    const RegionalSettings rs = platform().regionalSettings();
+    QVariantList storage;
+    for (int i = 0; i < args.size(); ++i)
+        storage.append(coerceTo(args.at(i), parameterType(method, i), rs));
+    QGenericArgument generic[10];
+    for (int i = 0; i < storage.size(); ++i)
+        generic[i] = QGenericArgument(method.parameterTypeName(i).constData(), storage[i].data());
+    QVariant result = method.returnMetaType().id() == QMetaType::Void
+        ? QVariant()
+        : QVariant(method.returnMetaType(), nullptr);
+    QGenericReturnArgument ret;
+    if (result.isValid())
+        ret = QGenericReturnArgument(method.typeName(), result.data());
+    method.invoke(&lib, Qt::DirectConnection, ret, generic[0], generic[1], generic[2], generic[3],
+        generic[4], generic[5], generic[6], generic[7], generic[8], generic[9]);
+    for (int i = 0; i < args.size(); ++i)
+        args[i] = storage.at(i);
+    if (result.metaType().id() == QMetaType::QVariant)
+        return *static_cast<const QVariant *>(result.constData());
+    return result;
+}
+
+} // namespace
+
+// A method called with its trailing optional arguments left out behaves the
+// same through its C++ signature as through the published defaults, which
+// late binding and the bridge fill in.
+class TestPublishedDefaults : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void cppDefaultsAreThePublishedOnes_data()
+    {
+        QTest::addColumn<int>("methodIndex");
+        const QMetaObject &meta = clsqorGenLib::staticMetaObject;
+        for (int i = meta.methodOffset(); i < meta.methodCount(); ++i) {
+            const QMetaMethod method = meta.method(i);
+            if (method.access() == QMetaMethod::Public
+                && (method.attributes() & QMetaMethod::Cloned)
+                && method.methodType() == QMetaMethod::Method)
+                QTest::newRow(method.methodSignature().constData()) << i;
+        }
+    }
+
+    void cppDefaultsAreThePublishedOnes()
+    {
+        QFETCH(int, methodIndex);
+        const QMetaMethod method = clsqorGenLib::staticMetaObject.method(methodIndex);
+        const QString name = QString::fromLatin1(method.name());
+        for (int round = 0; round < 4; ++round) {
+            QVariantList args;
+            for (int i = 0; i < method.parameterCount(); ++i)
+                args.append(sampleFor(parameterType(method, i), round + i));
+            const Outcome direct = capture(
+                [&](QVariantList &a) {
+                    clsqorGenLib lib;
+                    return callDirectly(lib, method, a);
+                },
+                args);
+            const Outcome late = capture(
+                [&](QVariantList &a) {
+                    clsqorGenLib lib;
+                    return lib.Invoke(name, a);
+                },
+                args);
+            const QByteArray where = QByteArray("round ") + QByteArray::number(round);
+            QVERIFY2(direct.error == late.error,
+                where + " errors " + QByteArray::number(direct.error) + "/"
+                    + QByteArray::number(late.error));
+            QVERIFY2(direct.result == late.result, where);
+            QVERIFY2(direct.arguments == late.arguments, where);
+            QVERIFY2(direct.shown == late.shown, where);
+        }
+    }
+};
+
+QTEST_GUILESS_MAIN(TestPublishedDefaults)
+#include "tst_publisheddefaults.moc"
