@@ -1,12 +1,14 @@
 #pragma once
 
+#include "qorgenlib_export.h"
+
 #include "host/hostobject.h"
 
 namespace qor {
 
 // The host's application object: whether another copy already runs, its
 // names, folder and version numbers.
-class Application : public HostObject
+class QORGENLIB_EXPORT Application : public HostObject
 {
     Q_OBJECT
     Q_CLASSINFO("HostClass", "Application")

@@ -1,12 +1,14 @@
 #pragma once
 
+#include "qorgenlib_export.h"
+
 #include "host/hostobject.h"
 
 namespace qor {
 
 // The drop-down calendar of a date control: the holidays it marks (day/month
 // pairs separated by commas) and the titles of its seven week days.
-class Calendar : public HostObject
+class QORGENLIB_EXPORT Calendar : public HostObject
 {
     Q_OBJECT
     Q_CLASSINFO("HostClass", "Calendar")

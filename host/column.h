@@ -1,11 +1,13 @@
 #pragma once
 
+#include "qorgenlib_export.h"
+
 #include "host/hostobject.h"
 
 namespace qor {
 
 // A column of a host grid, with its heading style and its value translation list.
-class Column : public HostObject
+class QORGENLIB_EXPORT Column : public HostObject
 {
     Q_OBJECT
     Q_CLASSINFO("HostClass", "Column")

@@ -1,11 +1,13 @@
 #pragma once
 
+#include "qorgenlib_export.h"
+
 #include "host/listcontrol.h"
 
 namespace qor {
 
 // The host's combo box: a list with a text field that shows the selected entry.
-class ComboBox : public ListControl
+class QORGENLIB_EXPORT ComboBox : public ListControl
 {
     Q_OBJECT
     Q_CLASSINFO("HostClass", "ComboBox")

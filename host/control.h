@@ -1,12 +1,14 @@
 #pragma once
 
+#include "qorgenlib_export.h"
+
 #include "host/hostobject.h"
 
 namespace qor {
 
 // A placed control of a form (a shape, a label, a month view): position and
 // size in twips and the classic Move. Any other property it is given is kept.
-class Control : public HostObject
+class QORGENLIB_EXPORT Control : public HostObject
 {
     Q_OBJECT
     Q_CLASSINFO("HostClass", "Control")

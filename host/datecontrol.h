@@ -1,12 +1,14 @@
 #pragma once
 
+#include "qorgenlib_export.h"
+
 #include "host/hostobject.h"
 
 namespace qor {
 
 // The host's date entry control. The range and value take a date or a date
 // text, the formats a format text; Calendar is its drop-down calendar.
-class DateControl : public HostObject
+class QORGENLIB_EXPORT DateControl : public HostObject
 {
     Q_OBJECT
     Q_CLASSINFO("HostClass", "DateControl")

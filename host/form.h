@@ -1,12 +1,14 @@
 #pragma once
 
+#include "qorgenlib_export.h"
+
 #include "host/hostobject.h"
 
 namespace qor {
 
 // A host form: its Tag (free for the library's use), caption, place and its
 // controls in the form's own order.
-class Form : public HostObject
+class QORGENLIB_EXPORT Form : public HostObject
 {
     Q_OBJECT
     Q_CLASSINFO("HostClass", "Form")

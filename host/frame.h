@@ -1,11 +1,13 @@
 #pragma once
 
+#include "qorgenlib_export.h"
+
 #include "host/control.h"
 
 namespace qor {
 
 // A frame: the container control around a grid or a group of fields.
-class Frame : public Control
+class QORGENLIB_EXPORT Frame : public Control
 {
     Q_OBJECT
     Q_CLASSINFO("HostClass", "Frame")

@@ -1,12 +1,14 @@
 #pragma once
 
+#include "qorgenlib_export.h"
+
 #include "host/hostobject.h"
 
 namespace qor {
 
 // The host's data grid: the grid-wide settings the library sets or reads,
 // its three style objects and its columns, in index order.
-class Grid : public HostObject
+class QORGENLIB_EXPORT Grid : public HostObject
 {
     Q_OBJECT
     Q_CLASSINFO("HostClass", "Grid")

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "qorgenlib_export.h"
+
 #include "host/hostobject.h"
 #include "host/textselection.h"
 
@@ -7,7 +9,7 @@ namespace qor {
 
 // The cell editor of a host grid: the cell's text and the text being edited
 // with its own caret and selection.
-class GridEditor : public HostObject
+class QORGENLIB_EXPORT GridEditor : public HostObject
 {
     Q_OBJECT
     Q_CLASSINFO("HostClass", "GridEditor")

@@ -1,11 +1,13 @@
 #pragma once
 
+#include "qorgenlib_export.h"
+
 #include "host/hostobject.h"
 
 namespace qor {
 
 // One of a grid's style objects (its Style, HighlightRowStyle, SelectedStyle).
-class GridStyle : public HostObject
+class QORGENLIB_EXPORT GridStyle : public HostObject
 {
     Q_OBJECT
     Q_CLASSINFO("HostClass", "Style")

@@ -1,11 +1,13 @@
 #pragma once
 
+#include "qorgenlib_export.h"
+
 #include "host/hostobject.h"
 
 namespace qor {
 
 // The heading style of a grid column: ellipsis and the picture in the heading.
-class HeadingStyle : public HostObject
+class QORGENLIB_EXPORT HeadingStyle : public HostObject
 {
     Q_OBJECT
     Q_CLASSINFO("HostClass", "HeadingStyle")

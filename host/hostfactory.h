@@ -1,5 +1,7 @@
 #pragma once
 
+#include "qorgenlib_export.h"
+
 #include "host/hostobject.h"
 
 #include <QStringList>
@@ -8,7 +10,7 @@ namespace qor {
 
 // Makes a model host object from its class name ("TextBox", "Grid", ...),
 // matched regardless of case.
-class HostFactory
+class QORGENLIB_EXPORT HostFactory
 {
 public:
     // nullptr for a class it does not know.

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "qorgenlib_export.h"
+
 #include <QObject>
 #include <QStringList>
 #include <QVariant>
@@ -14,7 +16,7 @@ namespace qor {
 // see what the library did to it.
 //
 // Used on its own it is the class "Object": a bag with no declared properties.
-class HostObject : public QObject
+class QORGENLIB_EXPORT HostObject : public QObject
 {
     Q_OBJECT
     Q_CLASSINFO("HostClass", "Object")

@@ -1,11 +1,13 @@
 #pragma once
 
+#include "qorgenlib_export.h"
+
 #include "host/listcontrol.h"
 
 namespace qor {
 
 // The host's list box.
-class ListBox : public ListControl
+class QORGENLIB_EXPORT ListBox : public ListControl
 {
     Q_OBJECT
     Q_CLASSINFO("HostClass", "ListBox")

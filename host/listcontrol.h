@@ -1,5 +1,7 @@
 #pragma once
 
+#include "qorgenlib_export.h"
+
 #include "host/hostobject.h"
 
 namespace qor {
@@ -8,7 +10,7 @@ namespace qor {
 // beside each, the selected entry and the entry added last. Operations behave
 // as the classic controls: AddItem appends, or inserts before an index, keeps
 // ItemData beside its entry and moves the selection along with its entry.
-class ListControl : public HostObject
+class QORGENLIB_EXPORT ListControl : public HostObject
 {
     Q_OBJECT
     Q_PROPERTY(QVariantList List READ list WRITE setList)

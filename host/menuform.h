@@ -1,5 +1,7 @@
 #pragma once
 
+#include "qorgenlib_export.h"
+
 #include "host/form.h"
 
 namespace qor {
@@ -7,7 +9,7 @@ namespace qor {
 // The host application's main menu form: its design settings and the child
 // controls the library dresses (the menu frame, the month view, eight shapes
 // and the version label).
-class MenuForm : public Form
+class QORGENLIB_EXPORT MenuForm : public Form
 {
     Q_OBJECT
     Q_CLASSINFO("HostClass", "MenuForm")

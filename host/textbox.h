@@ -1,12 +1,14 @@
 #pragma once
 
+#include "qorgenlib_export.h"
+
 #include "host/hostobject.h"
 #include "host/textselection.h"
 
 namespace qor {
 
 // The host's edit control.
-class TextBox : public HostObject
+class QORGENLIB_EXPORT TextBox : public HostObject
 {
     Q_OBJECT
     Q_CLASSINFO("HostClass", "TextBox")

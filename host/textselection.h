@@ -1,5 +1,7 @@
 #pragma once
 
+#include "qorgenlib_export.h"
+
 #include <QString>
 
 namespace qor {
@@ -8,7 +10,7 @@ namespace qor {
 // classic edit control keeps them: new text puts the caret in front, a caret
 // past the end stops at the end and drops the selection, and a selection never
 // runs past the end. Negative values raise RuntimeError 380.
-class TextSelection
+class QORGENLIB_EXPORT TextSelection
 {
 public:
     QString text() const { return m_text; }

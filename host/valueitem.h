@@ -1,11 +1,13 @@
 #pragma once
 
+#include "qorgenlib_export.h"
+
 #include "host/hostobject.h"
 
 namespace qor {
 
 // One entry of a grid column's value translation: the stored value and the text shown for it.
-class ValueItem : public HostObject
+class QORGENLIB_EXPORT ValueItem : public HostObject
 {
     Q_OBJECT
     Q_CLASSINFO("HostClass", "ValueItem")

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "qorgenlib_export.h"
+
 #include "lib/frame/qorenums.h"
 
 #include <QObject>
@@ -18,7 +20,7 @@ class TypeLibrary;
 //
 // Optional arguments are published as class info: one JSON object per method,
 // parameter name to default value (null when the argument has no default).
-class clsqorGenLib : public QObject
+class QORGENLIB_EXPORT clsqorGenLib : public QObject
 {
     Q_OBJECT
     Q_CLASSINFO("FilterAccenten", "{\"OnlyThese\": \"\"}")

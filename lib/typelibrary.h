@@ -1,5 +1,7 @@
 #pragma once
 
+#include "qorgenlib_export.h"
+
 #include <QList>
 #include <QMetaObject>
 #include <QString>
@@ -9,7 +11,7 @@
 
 namespace qor {
 
-struct ParameterInfo
+struct QORGENLIB_EXPORT ParameterInfo
 {
     QString name;
     QString type; // "String", "Boolean", "Long", "Integer", "Single", "Double", "Variant",
@@ -20,7 +22,7 @@ struct ParameterInfo
     QMetaType metaType;
 };
 
-struct MethodInfo
+struct QORGENLIB_EXPORT MethodInfo
 {
     QString name;
     QString returnType; // empty for a method without result
@@ -28,25 +30,25 @@ struct MethodInfo
     int methodIndex = -1;
 };
 
-struct PropertyInfo
+struct QORGENLIB_EXPORT PropertyInfo
 {
     QString name;
     QString type;
 };
 
-struct EnumMemberInfo
+struct QORGENLIB_EXPORT EnumMemberInfo
 {
     QString name;
     qint32 value = 0;
 };
 
-struct EnumInfo
+struct QORGENLIB_EXPORT EnumInfo
 {
     QString name;
     QList<EnumMemberInfo> members; // in declaration order
 };
 
-struct RecordInfo
+struct QORGENLIB_EXPORT RecordInfo
 {
     QString name;
     QList<PropertyInfo> fields;
@@ -57,7 +59,7 @@ struct RecordInfo
 // enumerations and records published beside it. Optional arguments and their
 // defaults come from the class info entry named after the method, a JSON object
 // of parameter name to default (null for an optional argument without one).
-class TypeLibrary
+class QORGENLIB_EXPORT TypeLibrary
 {
 public:
     TypeLibrary(const QMetaObject *cls, const QList<const QMetaObject *> &enumScopes,

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "qorgenlib_export.h"
+
 #include "platform/platform.h"
 
 #include <QHash>
@@ -12,7 +14,7 @@ namespace qor {
 // clock, files and processes, the system's regional settings. With no screen
 // to show dialogs on, every dialog takes its default answer (Enter, OK on the
 // default text, the calculator closed at once) and sounds and keys go nowhere.
-class CorePlatform : public Platform
+class QORGENLIB_EXPORT CorePlatform : public Platform
 {
 public:
     CorePlatform();

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "qorgenlib_export.h"
+
 #include "runtime/regionalsettings.h"
 
 #include <QDateTime>
@@ -17,7 +19,7 @@
 namespace qor {
 
 // One button of a dialog as the library laid it out.
-struct DialogButton
+struct QORGENLIB_EXPORT DialogButton
 {
     QString name; // "cmdOK", "cmdCancel", "cmdYes", "cmdNo"
     QString caption;
@@ -26,7 +28,7 @@ struct DialogButton
 
 // The extended message box, fully prepared by the library: what to show and
 // how keys and scanner codes map to results (0: the key chooses nothing).
-struct MessageBoxERequest
+struct QORGENLIB_EXPORT MessageBoxERequest
 {
     QString prompt;
     int style = 0; // the style value the caller passed
@@ -39,14 +41,14 @@ struct MessageBoxERequest
     std::function<int(const QString &scan)> resultForScan; // text typed by a scanner, e.g. "%[OK]"
 };
 
-struct SystemMessageBoxRequest
+struct QORGENLIB_EXPORT SystemMessageBoxRequest
 {
     QString prompt;
     int style = 0;
     QString title;
 };
 
-struct InputBoxERequest
+struct QORGENLIB_EXPORT InputBoxERequest
 {
     QString prompt;
     QString title;
@@ -57,27 +59,27 @@ struct InputBoxERequest
     QString cancelCaption;
 };
 
-struct InputBoxEAnswer
+struct QORGENLIB_EXPORT InputBoxEAnswer
 {
     bool cancelled = false;
     QString text; // untrimmed text of the field when OK was chosen
 };
 
-struct CalculatorRequest
+struct QORGENLIB_EXPORT CalculatorRequest
 {
     double start = 0;
     bool negativeAllowed = true;
     int decimals = 2;
 };
 
-struct CalculatorAnswer
+struct QORGENLIB_EXPORT CalculatorAnswer
 {
     bool cancelled = false;
     double result = 0; // the result register when the calculator closed
 };
 
 // The screen as the library measures it.
-struct ScreenInfo
+struct QORGENLIB_EXPORT ScreenInfo
 {
     int width = 1024; // pixels
     int height = 768;
@@ -89,7 +91,7 @@ struct ScreenInfo
 
 // A file found by a directory listing, with its attribute bits (1 read-only,
 // 2 hidden, 4 system, 16 directory, 32 archive).
-struct FileEntry
+struct QORGENLIB_EXPORT FileEntry
 {
     QString name;
     int attributes = 0;
@@ -99,7 +101,7 @@ struct FileEntry
 // settings, the screen, dialogs, sound, files, processes and keyboard through
 // the platform installed for its thread, so hosts, tests and the bridge can
 // choose what the library sees.
-class Platform
+class QORGENLIB_EXPORT Platform
 {
 public:
     virtual ~Platform();

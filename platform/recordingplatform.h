@@ -1,5 +1,7 @@
 #pragma once
 
+#include "qorgenlib_export.h"
+
 #include "platform/coreplatform.h"
 
 #include <QVariantList>
@@ -19,7 +21,7 @@ namespace qor {
 //   default OK on the default value;
 // - calculator: a number left in its result register, or {"cancel": true};
 //   default closed at once with the register unchanged.
-class RecordingPlatform : public CorePlatform
+class QORGENLIB_EXPORT RecordingPlatform : public CorePlatform
 {
 public:
     RecordingPlatform();

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "qorgenlib_export.h"
+
 #include <QChar>
 #include <QString>
 
@@ -7,7 +9,7 @@ namespace qor {
 
 // The user's regional settings as the library reads them: separators, the short
 // date notation and the window that places two-digit years in a century.
-struct RegionalSettings
+struct QORGENLIB_EXPORT RegionalSettings
 {
     QString localeName; // e.g. "nl_BE"
     QChar decimalSeparator = QLatin1Char('.');

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "qorgenlib_export.h"
+
 #include <QString>
 #include <exception>
 
@@ -7,7 +9,7 @@ namespace qor {
 
 // A run-time error as the host sees it: the classic error number and its text.
 // Conversion and overflow errors travel to the caller in this form.
-class RuntimeError : public std::exception
+class QORGENLIB_EXPORT RuntimeError : public std::exception
 {
 public:
     // The classic numbers the library raises.

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "qorgenlib_export.h"
+
 #include <QString>
 #include <QVariant>
 
@@ -23,36 +25,36 @@ enum class VarType {
 };
 
 // Empty is an invalid QVariant; Null a QVariant holding nullptr.
-QVariant emptyVariant();
-QVariant nullVariant();
-bool isEmpty(const QVariant &v);
-bool isNull(const QVariant &v);
-bool isObject(const QVariant &v);
-bool isArray(const QVariant &v);
+QORGENLIB_EXPORT QVariant emptyVariant();
+QORGENLIB_EXPORT QVariant nullVariant();
+QORGENLIB_EXPORT bool isEmpty(const QVariant &v);
+QORGENLIB_EXPORT bool isNull(const QVariant &v);
+QORGENLIB_EXPORT bool isObject(const QVariant &v);
+QORGENLIB_EXPORT bool isArray(const QVariant &v);
 
-VarType varType(const QVariant &v);
+QORGENLIB_EXPORT VarType varType(const QVariant &v);
 // "Empty", "Null", "Integer", "Long", "Single", "Double", "Currency", "Date",
 // "String", "Object", "Boolean", "Byte", "Array".
-QString varTypeName(VarType t);
-QString varTypeName(const QVariant &v);
+QORGENLIB_EXPORT QString varTypeName(VarType t);
+QORGENLIB_EXPORT QString varTypeName(const QVariant &v);
 
 // Typed constructors that keep the subtype a host expects.
-QVariant integerVariant(qint16 v);
-QVariant longVariant(qint32 v);
-QVariant doubleVariant(double v);
+QORGENLIB_EXPORT QVariant integerVariant(qint16 v);
+QORGENLIB_EXPORT QVariant longVariant(qint32 v);
+QORGENLIB_EXPORT QVariant doubleVariant(double v);
 
 } // namespace qor
 
 namespace qor {
 
 // The value an automation call passes for an optional argument left out.
-struct MissingArgument
+struct QORGENLIB_EXPORT MissingArgument
 {
     bool operator==(const MissingArgument &) const { return true; }
 };
 
-QVariant missingVariant();
-bool isMissing(const QVariant &v);
+QORGENLIB_EXPORT QVariant missingVariant();
+QORGENLIB_EXPORT bool isMissing(const QVariant &v);
 
 } // namespace qor
 

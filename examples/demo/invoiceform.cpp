@@ -1,7 +1,7 @@
-#include "examples/demo/invoiceform.h"
+#include "invoiceform.h"
 
-#include "host/qt/lineeditadapter.h"
-#include "lib/clsqorgenlib.h"
+#include <qorgenlib/host/qt/lineeditadapter.h>
+#include <qorgenlib/lib/clsqorgenlib.h>
 
 #include <QEvent>
 #include <QFormLayout>

@@ -1,7 +1,7 @@
-#include "examples/demo/invoiceform.h"
+#include "invoiceform.h"
 
-#include "lib/clsqorgenlib.h"
-#include "platform/qt/qtplatform.h"
+#include <qorgenlib/lib/clsqorgenlib.h>
+#include <qorgenlib/platform/qt/qtplatform.h>
 
 #include <QApplication>
 

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "qorgenlib_export.h"
+
 #include <QObject>
 #include <QPointer>
 
@@ -10,7 +12,7 @@ namespace qor {
 // Gives a QLineEdit the names of an edit control, so the library can work on
 // a real field: Text, SelStart, SelLength, MaxLength, Enabled, the position
 // and size, and the operation SetFocus. The adapter does not own the field.
-class LineEditAdapter : public QObject
+class QORGENLIB_WIDGETS_EXPORT LineEditAdapter : public QObject
 {
     Q_OBJECT
     Q_PROPERTY(QString Text READ text WRITE setText)

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "qorgenlib_export.h"
+
 #include <QObject>
 
 // The enumerations published with the library object. Every name, value and the
@@ -8,7 +10,7 @@
 // the type library (see typelibrary.cpp).
 
 namespace qorGenLib {
-Q_NAMESPACE
+Q_NAMESPACE_EXPORT(QORGENLIB_EXPORT)
 
 enum OstEenheid {
     ehKubiekeMeter = 1,

@@ -1,12 +1,14 @@
 #pragma once
 
+#include "qorgenlib_export.h"
+
 #include <QMetaType>
 #include <QObject>
 
 namespace qorGenLib {
 
 // A rectangle of the screen in twips, as the work-area query returns it.
-struct WindowSize
+struct QORGENLIB_EXPORT WindowSize
 {
     Q_GADGET
     Q_PROPERTY(qint32 Left MEMBER Left)

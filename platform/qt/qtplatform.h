@@ -1,5 +1,7 @@
 #pragma once
 
+#include "qorgenlib_export.h"
+
 #include "platform/coreplatform.h"
 
 #include <memory>
@@ -10,7 +12,7 @@ namespace qor {
 // system beep, wave sounds, the screen's size and resolution, the mouse
 // pointer, and keys posted to the widget that has the focus. Needs a
 // QApplication.
-class QtPlatform : public CorePlatform
+class QORGENLIB_WIDGETS_EXPORT QtPlatform : public CorePlatform
 {
 public:
     QtPlatform();

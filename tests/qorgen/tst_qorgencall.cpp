@@ -211,6 +211,13 @@ private slots:
         for (const char *command : { "qorgen call", "qorgen batch", "qorgen methods", "--version" })
             QVERIFY2(run.out.contains(command), command);
         QCOMPARE(run.out.count("Example"), 3);
+        for (const QString command : { QStringLiteral("call"), QStringLiteral("batch") }) {
+            const QorgenRun part = runQorgen({ command, QStringLiteral("--help") });
+            QCOMPARE(part.exitCode, 0);
+            QVERIFY(part.out.contains("qorgen " + command.toUtf8()));
+            QVERIFY(part.out.contains("Example"));
+            QVERIFY(!part.out.contains("qorgen methods"));
+        }
         const QorgenRun version = runQorgen({ QStringLiteral("--version") });
         QCOMPARE(version.exitCode, 0);
         QVERIFY(version.out.startsWith("qorgen "));

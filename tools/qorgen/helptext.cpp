@@ -1,5 +1,8 @@
 #include "tools/qorgen/helptext.h"
 
+#include <QRegularExpression>
+#include <QStringList>
+
 namespace qor {
 
 QString helpText()
@@ -46,6 +49,32 @@ Values in JSON: strings, true/false, numbers, null (Null), {"$empty": true}
 optional argument left out, and {"$object": "TextBox", "Text": "..."} for the
 model host controls.
 )");
+}
+
+QString commandHelpText(const QString &command)
+{
+    const QStringList lines = helpText().split(QLatin1Char('\n'));
+    const QString heading = QStringLiteral("  qorgen ") + command;
+    QStringList part;
+    for (const QString &line : lines) {
+        const bool startsCommand = line.startsWith(QLatin1String("  qorgen "));
+        if (startsCommand && !part.isEmpty())
+            break;
+        if (part.isEmpty() && !(startsCommand
+                                  && (line == heading || line.startsWith(heading + QLatin1Char(' ')))))
+            continue;
+        part.append(line);
+    }
+    if (part.isEmpty())
+        return QString();
+    while (!part.isEmpty() && part.last().trimmed().isEmpty())
+        part.removeLast();
+    const qsizetype values = lines.indexOf(QRegularExpression(QStringLiteral("^Values in JSON")));
+    QStringList text { QStringLiteral("Usage:") };
+    text += part;
+    if (values >= 0)
+        text += QStringList { QString() } + lines.mid(values);
+    return text.join(QLatin1Char('\n'));
 }
 
 } // namespace qor

@@ -37,6 +37,15 @@ int main(int argc, char *argv[])
     QCoreApplication app(argc, argv);
     const QStringList arguments = app.arguments().mid(1);
     const QString command = arguments.value(0);
+    // "qorgen COMMAND --help" answers with that command's help.
+    if (arguments.size() == 2
+        && (arguments.at(1) == QLatin1String("--help") || arguments.at(1) == QLatin1String("-h"))) {
+        const QString help = commandHelpText(command);
+        if (!help.isEmpty()) {
+            print(stdout, help.toUtf8());
+            return 0;
+        }
+    }
     if (command == QLatin1String("call"))
         return CallCommand::run(arguments.mid(1), stdout, stderr);
     if (command == QLatin1String("batch") && arguments.size() == 1)
