@@ -1,10 +1,12 @@
 #!/usr/bin/env bash
-# Installs what is missing, builds, and then runs the tour (tour) or all tests (test).
+# Installs what is missing, builds, and then runs the tour (tour) or all tests
+# (test: the suite, then the suite again under AddressSanitizer and
+# UndefinedBehaviorSanitizer in build-asan/).
 set -euo pipefail
 cd "$(dirname "$0")/.."
 
 job="${1:-test}"
-packages=(cmake ninja-build g++ qt6-base-dev qt6-multimedia-dev libgl-dev)
+packages=(cmake ninja-build g++ qt6-base-dev qt6-multimedia-dev libgl-dev pkg-config dpkg-dev file clang libclang-rt-14-dev)
 
 missing=()
 for package in "${packages[@]}"; do
@@ -12,22 +14,37 @@ for package in "${packages[@]}"; do
     missing+=("$package")
   fi
 done
+if ((${#missing[@]})) || ! ls /var/lib/apt/lists/*Packages >/dev/null 2>&1; then
+  apt-get update -qq
+fi
 if ((${#missing[@]})); then
   echo "Installing ${missing[*]}"
-  apt-get update -qq
   DEBIAN_FRONTEND=noninteractive apt-get install -y -qq --no-install-recommends "${missing[@]}" >/dev/null
 fi
 
-cmake -S . -B build -G Ninja -DCMAKE_BUILD_TYPE=RelWithDebInfo >/dev/null
-cmake --build build
+build() {
+  cmake -S . -B build -G Ninja -DCMAKE_BUILD_TYPE=RelWithDebInfo >/dev/null
+  cmake --build build
+}
+
+sanitized_tests() {
+  cmake -S . -B build-asan -G Ninja -DCMAKE_BUILD_TYPE=Debug -DCMAKE_CXX_COMPILER=clang++ \
+    -DQORGENLIB_SANITIZE=ON -DQORGENLIB_BUILD_BENCH=OFF -DBUILD_SHARED_LIBS=OFF >/dev/null
+  cmake --build build-asan
+  cd build-asan
+  ASAN_OPTIONS=detect_leaks=1:strict_string_checks=1 UBSAN_OPTIONS=print_stacktrace=1 \
+    QT_QPA_PLATFORM=offscreen ctest --output-on-failure -j2 -E '^(layers_|package_)'
+}
 
 case "$job" in
   tour)
+    build
     bash examples/tour.sh build/tools/qorgen/qorgen
     ;;
   test)
-    cd build
-    QT_QPA_PLATFORM=offscreen ctest --output-on-failure -j2
+    build
+    (cd build && QT_QPA_PLATFORM=offscreen ctest --output-on-failure -j2)
+    sanitized_tests
     ;;
   *)
     echo "usage: $0 tour|test" >&2
