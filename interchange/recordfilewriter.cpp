@@ -8,6 +8,7 @@ namespace qor {
 namespace {
 
 constexpr qsizetype bufferLimit = qsizetype(1) << 20;
+constexpr qint64 maxLineNumber = 999999;
 
 bool breaksLine(char16_t unit)
 {
@@ -84,7 +85,9 @@ bool RecordFileWriter::write(std::span<const QString> fields)
                       .arg(m_writer.layout().widths.size());
         return false;
     }
-    const qint64 lineNumber = m_lineNumbers ? m_records + 1 : 0;
+    // Six digits at most, so that the reader takes every line: 999999 is
+    // followed by 1 again.
+    const qint64 lineNumber = m_lineNumbers ? m_records % maxLineNumber + 1 : 0;
     m_record.clear();
     m_writer.append(lineNumber, fields, m_record);
     if (!encode(m_record)) {

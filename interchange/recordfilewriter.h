@@ -12,7 +12,8 @@
 namespace qor {
 
 // Writes a data file of records: windows-1252, one record per line, each line
-// ended by CRLF, numbered 1, 2, 3 ... when the layout has line numbers. A
+// ended by CRLF, numbered 1, 2, 3 ... when the layout has line numbers (999999
+// is followed by 1 again, as the reader takes six digits only). A
 // character the code page lacks is written as "?" (and counted so in the
 // checksum). Records are buffered and handed to the device in large pieces,
 // so a file of any size can be written from a stream of records.

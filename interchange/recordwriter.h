@@ -33,11 +33,11 @@ public:
     const RecordLayout &layout() const { return m_layout; }
 
 private:
-    void appendField(qsizetype index, const QString &value, QString &out) const;
+    QChar *putField(qsizetype index, const QString &value, QChar *out) const;
 
     RecordLayout m_layout;
     RegionalSettings m_settings;
-    qsizetype m_capacity = 0;
+    qsizetype m_bodyLength = 0; // the fields and the separators between them
 };
 
 } // namespace qor
