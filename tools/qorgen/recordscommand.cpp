@@ -3,6 +3,7 @@
 #include "interchange/recordfilereader.h"
 #include "interchange/recordfilewriter.h"
 #include "platform/platform.h"
+#include "runtime/conversion.h"
 #include "runtime/runtimeerror.h"
 #include "tools/qorgen/linereader.h"
 
@@ -149,7 +150,10 @@ std::unique_ptr<QIODevice> open(const QString &file, QIODevice::OpenMode mode, s
 }
 
 // One JSON array of strings (numbers taken as their JSON text) per line.
-std::optional<QStringList> fieldsOf(const QByteArray &line, QString &why)
+// One JSON array of strings per line; a number is taken as CStr writes it
+// under the regional settings, so that the masks read it back.
+std::optional<QStringList> fieldsOf(
+    const QByteArray &line, const RegionalSettings &rs, QString &why)
 {
     QJsonParseError error;
     const QJsonDocument json = QJsonDocument::fromJson(line, &error);
@@ -160,14 +164,11 @@ std::optional<QStringList> fieldsOf(const QByteArray &line, QString &why)
     }
     QStringList fields;
     for (const QJsonValue &value : json.array()) {
-        if (value.isString())
+        if (value.isString()) {
             fields.append(value.toString());
-        else if (value.isDouble())
-            fields.append(QString::fromUtf8(QJsonDocument(QJsonArray { value })
-                                                .toJson(QJsonDocument::Compact)
-                                                .mid(1)
-                                                .chopped(1)));
-        else {
+        } else if (value.isDouble()) {
+            fields.append(numberText(value.toDouble(), rs));
+        } else {
             why = QStringLiteral("every field is a string or a number");
             return std::nullopt;
         }
@@ -199,7 +200,7 @@ int writeRecords(const Options &options, const RegionalSettings &rs, std::FILE *
         if (read == LineReader::Status::TooLong)
             why = QStringLiteral("line too long");
         else
-            fields = fieldsOf(line, why);
+            fields = fieldsOf(line, rs, why);
         if (fields && !writer.write(*fields))
             why = writer.error();
         if (!why.isEmpty()) {
