@@ -30,12 +30,13 @@ function(qor_stage_headers stage)
   endforeach()
 endfunction()
 
-# qor_layer(name DIRS folder... [DEPENDS layer...] [LIBS library...] [EXPORTS macro-define])
+# qor_layer(name DIRS folder... [DEPENDS layer...] [LIBS library...])
 # One link per header, so that a sub-folder (platform/qt) is not seen by the
-# folder above it. EXPORTS names the define that marks the layer's code as
-# part of the library that exports it.
+# folder above it. QOR_LAYER_EXPORTS names the define that marks the layer's
+# code as part of the library that exports it.
 function(qor_layer name)
-  cmake_parse_arguments(L "" "EXPORTS" "DIRS;DEPENDS;LIBS" ${ARGN})
+  cmake_parse_arguments(L "" "" "DIRS;DEPENDS;LIBS" ${ARGN})
+  set(L_EXPORTS ${QOR_LAYER_EXPORTS})
   set(stage ${PROJECT_BINARY_DIR}/layers/${name})
   qor_stage_headers(${stage} ${L_DIRS})
   qor_sources(sources ${L_DIRS})

@@ -3,6 +3,7 @@
 #include "input/amounts.h"
 #include "input/editing.h"
 #include "input/textfilters.h"
+#include "interchange/recordmethods.h"
 #include "lib/frame/catalogue.h"
 #include "lib/latebinding.h"
 #include "lib/frame/modgenlib.h"
@@ -163,6 +164,25 @@ QString clsqorGenLib::ControleerOGM(QString &OGM, bool MBox)
 // End of dates and times
 
 // Fixed-field records
+
+QVariant clsqorGenLib::GetExportData(qint32 &LineNumber, QStringList &Data,
+    QVariant &arrFieldLength, QVariant &arrFormat, bool AddChecksum, const QVariant &Separator)
+{
+    return getExportData(LineNumber, Data, arrFieldLength,
+        isLeftOut(arrFormat) ? nullptr : &arrFormat, AddChecksum, Separator, m_vbCr2, m_Offset);
+}
+
+QVariant clsqorGenLib::GetExportData(qint32 &LineNumber, QStringList &Data, QVariant &arrFieldLength)
+{
+    QVariant noFormats;
+    return GetExportData(LineNumber, Data, arrFieldLength, noFormats);
+}
+
+QVariant clsqorGenLib::GetImportData(const QString &InputRecord, QVariant &arrFieldLength,
+    bool LineNumberIncluded, bool CheckSumIncluded)
+{
+    return getImportData(InputRecord, arrFieldLength, LineNumberIncluded, CheckSumIncluded, m_Offset);
+}
 
 // End of fixed-field records
 

@@ -108,6 +108,16 @@ public:
     // End of dates and times.
 
     // Fixed-field records.
+    // arrFormat left out (or Empty) writes every field as text; C++ gets that
+    // through the overload below, which is not published.
+    Q_CLASSINFO("GetExportData", "{\"arrFormat\": null, \"AddChecksum\": true, \"Separator\": \" \"}")
+    Q_CLASSINFO("GetImportData", "{\"LineNumberIncluded\": true, \"CheckSumIncluded\": true}")
+    Q_INVOKABLE QVariant GetExportData(qint32 &LineNumber, QStringList &Data,
+        QVariant &arrFieldLength, QVariant &arrFormat, bool AddChecksum = true,
+        const QVariant &Separator = QStringLiteral(" "));
+    QVariant GetExportData(qint32 &LineNumber, QStringList &Data, QVariant &arrFieldLength);
+    Q_INVOKABLE QVariant GetImportData(const QString &InputRecord, QVariant &arrFieldLength,
+        bool LineNumberIncluded = true, bool CheckSumIncluded = true);
     // End of fixed-field records.
 
     // Keystroke handlers, the calculator and VAT.

@@ -132,6 +132,14 @@ bool CorePlatform::writeFile(const QString &path, const QByteArray &contents)
     return file.write(contents) == contents.size();
 }
 
+std::unique_ptr<QIODevice> CorePlatform::openFile(const QString &path, QIODevice::OpenMode mode)
+{
+    auto file = std::make_unique<QFile>(localPath(path));
+    if (!file->open(mode))
+        return nullptr;
+    return file;
+}
+
 QString CorePlatform::systemDirectory() const
 {
     return m_systemDirectory;

@@ -42,6 +42,7 @@ public:
     std::optional<QByteArray> readFile(const QString &path) const override;
     bool writeFile(const QString &path, const QByteArray &contents) override;
     QString systemDirectory() const override;
+    std::unique_ptr<QIODevice> openFile(const QString &path, QIODevice::OpenMode mode) override;
     void setSystemDirectory(const QString &path);
 
     qint64 startProcess(const QString &commandLine, int windowStyle) override;

@@ -5,6 +5,7 @@
 #include "runtime/regionalsettings.h"
 
 #include <QDateTime>
+#include <QIODevice>
 #include <QList>
 #include <QPoint>
 #include <QRect>
@@ -131,6 +132,10 @@ public:
     virtual std::optional<QByteArray> readFile(const QString &path) const = 0;
     virtual bool writeFile(const QString &path, const QByteArray &contents) = 0;
     virtual QString systemDirectory() const = 0;
+
+    // Data files read and written as streams, so that a file larger than
+    // memory can pass (nullptr when the file cannot be opened).
+    virtual std::unique_ptr<QIODevice> openFile(const QString &path, QIODevice::OpenMode mode) = 0;
 
     // Processes: start a command line (returns a process id, or an error
     // number as a negative value) and wait until it ends.

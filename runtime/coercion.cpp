@@ -48,6 +48,15 @@ QVariant coerceTo(const QVariant &value, QMetaType target, const RegionalSetting
             throw RuntimeError::typeMismatch();
         return value.toList();
     }
+    case QMetaType::QStringList: {
+        // An array of String: every element through CStr (Null stops it with 94).
+        if (!isArray(value))
+            throw RuntimeError::typeMismatch();
+        QStringList texts;
+        for (const QVariant &element : value.toList())
+            texts.append(toText(element, rs));
+        return texts;
+    }
     default: break;
     }
     if (target.flags() & QMetaType::IsEnumeration) {

@@ -41,6 +41,25 @@ Usage:
       Example:
         qorgen methods
 
+  qorgen records write|read --widths W,W... [OPTIONS] FILE
+      Data files of fixed-field records (windows-1252, CRLF). write reads one
+      JSON array of field strings per line on standard input and writes FILE,
+      numbering the records; read writes one JSON array per record of FILE on
+      standard output and reports each faulty line on standard error as
+      {"line": N, "fault": "checksum", "reason": "..."}. FILE "-" is the
+      standard output (write) or input (read).
+      Options:
+        --widths 4,3            the field widths (required)
+        --formats JSON          one mask per field, e.g. '["","0.00"]'
+        --no-line-numbers       no six-digit line number in front
+        --no-checksum           no checksum at the end
+        --separator TEXT        what write puts between fields (read wants a blank)
+        --locale NAME           regional settings of the formats, e.g. nl_BE
+      Exit status: 0 every line passed, 1 some lines were faulty,
+                   2 the command could not run.
+      Example:
+        echo '["AB","7"]' | qorgen records write --widths 4,3 out.txt
+
   qorgen --help       this text
   qorgen --version    the version
 

@@ -3,6 +3,7 @@
 #include "tools/qorgen/callcommand.h"
 #include "tools/qorgen/helptext.h"
 #include "tools/qorgen/jsonwriter.h"
+#include "tools/qorgen/recordscommand.h"
 #include "tools/qorgen/typeinfojson.h"
 
 #include <QCoreApplication>
@@ -22,7 +23,7 @@ void print(std::FILE *stream, const QByteArray &bytes)
 
 int usage()
 {
-    print(stderr, "Usage: qorgen call|batch|methods|--help|--version (see qorgen --help)\n");
+    print(stderr, "Usage: qorgen call|batch|methods|records|--help|--version (see qorgen --help)\n");
     return 2;
 }
 
@@ -50,6 +51,8 @@ int main(int argc, char *argv[])
         return CallCommand::run(arguments.mid(1), stdout, stderr);
     if (command == QLatin1String("batch") && arguments.size() == 1)
         return BatchCommand::run(stdin, stdout);
+    if (command == QLatin1String("records"))
+        return RecordsCommand::run(arguments.mid(1), stdin, stdout, stderr);
     if (command == QLatin1String("methods") && arguments.size() == 1) {
         print(stdout, JsonWriter::indented(TypeInfoJson::describe(clsqorGenLib::typeLibrary())));
         return 0;

@@ -1,0 +1,271 @@
+// Data files of records: the exact bytes written, and a read that reports
+// every faulty line with its number while it reads the rest.
+
+#include "interchange/recordfilereader.h"
+#include "interchange/recordfilewriter.h"
+#include "tests/common/recordingmachine.h"
+
+#include <QBuffer>
+#include <QTemporaryDir>
+#include <QTest>
+
+using namespace qor;
+using namespace qor::test;
+
+namespace {
+
+RecordLayout layout43(bool lineNumbers = true, bool checksum = true)
+{
+    RecordLayout layout;
+    layout.widths = { 4, 3 };
+    layout.lineNumbers = lineNumbers;
+    layout.checksum = checksum;
+    return layout;
+}
+
+// What a read gave, one entry per line: "fields a|b" or "fault <kind> <position>".
+QStringList readAll(const QByteArray &bytes, const RecordLayout &layout,
+    qsizetype maxLineLength = RecordFileReader::defaultMaxLineLength)
+{
+    QBuffer buffer;
+    buffer.setData(bytes);
+    buffer.open(QIODevice::ReadOnly);
+    RecordFileReader reader(buffer, layout, RegionalSettings(), maxLineLength);
+    QStringList seen;
+    for (auto status = reader.next(); status != RecordFileReader::Status::End;
+         status = reader.next()) {
+        const QString line = QString::number(reader.line()) + QLatin1Char(' ');
+        if (status == RecordFileReader::Status::Record)
+            seen.append(line + reader.fields().join(QLatin1Char('|')));
+        else
+            seen.append(line + RecordFileFault::kindName(reader.fault().kind)
+                + (reader.fault().position ? QStringLiteral(" at %1").arg(reader.fault().position)
+                                           : QString()));
+    }
+    return seen;
+}
+
+// A device that breaks after its first bytes.
+class BrokenDevice : public QIODevice
+{
+public:
+    explicit BrokenDevice(QByteArray start)
+        : m_start(std::move(start))
+    {
+        open(QIODevice::ReadOnly);
+    }
+
+protected:
+    qint64 readData(char *data, qint64 max) override
+    {
+        if (m_start.isEmpty())
+            return -1;
+        const qint64 n = qMin<qint64>(max, m_start.size());
+        memcpy(data, m_start.constData(), size_t(n));
+        m_start.remove(0, n);
+        return n;
+    }
+    qint64 writeData(const char *, qint64) override { return -1; }
+
+private:
+    QByteArray m_start;
+};
+
+} // namespace
+
+class tst_RecordFile : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init() { installRecordingPlatform(QStringLiteral("en_US")); }
+
+    void writtenBytes_data()
+    {
+        QTest::addColumn<bool>("lineNumbers");
+        QTest::addColumn<bool>("checksum");
+        QTest::addColumn<QList<QStringList>>("records");
+        QTest::addColumn<QByteArray>("bytes");
+        const QList<QStringList> two { { "AB", "7" }, { QString::fromUtf8("Café"), "€" } };
+        QTest::newRow("numbered, with checksums")
+            << true << true << two
+            << QByteArray("000001 AB   7   9B\r\n000002 Caf\xE9 \x80   15\r\n");
+        QTest::newRow("plain") << false << false << two
+                               << QByteArray("AB   7  \r\nCaf\xE9 \x80  \r\n");
+        QTest::newRow("outside the code page as ?")
+            << false << true << QList<QStringList> { { QString::fromUtf8("Ω😀xy"), "" } }
+            << QByteArray("??xy     EF\r\n");
+        QTest::newRow("no records") << true << true << QList<QStringList>() << QByteArray();
+    }
+
+    void writtenBytes()
+    {
+        QFETCH(bool, lineNumbers);
+        QFETCH(bool, checksum);
+        QFETCH(QList<QStringList>, records);
+        QFETCH(QByteArray, bytes);
+
+        QBuffer buffer;
+        buffer.open(QIODevice::WriteOnly);
+        {
+            RecordFileWriter writer(buffer, layout43(lineNumbers, checksum), RegionalSettings());
+            for (const QStringList &record : records)
+                QVERIFY(writer.write(record));
+        }
+        QCOMPARE(buffer.data(), bytes);
+        QCOMPARE(readAll(bytes, layout43(lineNumbers, checksum)).size(), records.size());
+    }
+
+    void refusedRecords_data()
+    {
+        QTest::addColumn<QStringList>("fields");
+        QTest::newRow("line feed") << QStringList { "A\nB", "" };
+        QTest::newRow("carriage return") << QStringList { "A", "\r" };
+        QTest::newRow("NUL") << QStringList { QString(QChar(0)), "" };
+        QTest::newRow("too few fields") << QStringList { "A" };
+        QTest::newRow("too many fields") << QStringList { "A", "B", "C" };
+    }
+
+    // A record that would break the file is refused; the next one gets the number.
+    void refusedRecords()
+    {
+        QFETCH(QStringList, fields);
+        QBuffer buffer;
+        buffer.open(QIODevice::WriteOnly);
+        RecordFileWriter writer(buffer, layout43(), RegionalSettings());
+        QVERIFY(!writer.write(fields));
+        QVERIFY(!writer.error().isEmpty());
+        QVERIFY(writer.write(QStringList { "AB", "7" }));
+        QVERIFY(writer.flush());
+        QCOMPARE(buffer.data(), QByteArray("000001 AB   7   9B\r\n"));
+    }
+
+    void faultyLines_data()
+    {
+        QTest::addColumn<QByteArray>("bytes");
+        QTest::addColumn<bool>("lineNumbers");
+        QTest::addColumn<bool>("checksum");
+        QTest::addColumn<QStringList>("seen");
+        const QByteArray good1 = "000001 AB   7   9B";
+        const QByteArray good2 = "000002 CD   8   A1";
+        QTest::newRow("CRLF") << good1 + "\r\n" + good2 + "\r\n"
+                              << true << true << QStringList { "1 AB|7", "2 CD|8" };
+        QTest::newRow("LF") << good1 + "\n" + good2 + "\n"
+                            << true << true << QStringList { "1 AB|7", "2 CD|8" };
+        QTest::newRow("last line without line end")
+            << good1 + "\r\n" + good2 << true << true << QStringList { "1 AB|7", "2 CD|8" };
+        QTest::newRow("empty file") << QByteArray() << true << true << QStringList();
+        QTest::newRow("one empty line")
+            << QByteArray("\n") << true << true << QStringList { "1 checksum" };
+        QTest::newRow("every fault once") << good1 + "\r\n" + "000002 CD   8   A2\r\n" // wrong sum
+                + "\r\n" // empty
+                + "00000X CD   8   C7\r\n" // no number
+                + "000005 CDEFG8   16\r\n" // no blank: checksum fine, delimiter wrong
+                + QByteArray("000006 C\0   8   61\r\n", 20) // NUL byte
+                + "000007 CD   8 \r  0E\r\n" // a lone carriage return inside
+                + good2 + "\n" << true << true
+                                          << QStringList { "1 AB|7", "2 checksum", "3 checksum",
+                                                 "4 line number", "5 delimiter at 12",
+                                                 "6 NUL byte at 9", "7 checksum", "8 CD|8" };
+        QTest::newRow("delimiter without line numbers") << QByteArray(
+            "ABCDE   \nAB   7  ") << false << false << QStringList { "1 delimiter at 5", "2 AB|7" };
+        QTest::newRow("code page decoded") << QByteArray("Caf\xE9 \x80\x9C ") << false << false
+                                           << QStringList { QString::fromUtf8("1 Café|€œ") };
+    }
+
+    void faultyLines()
+    {
+        QFETCH(QByteArray, bytes);
+        QFETCH(bool, lineNumbers);
+        QFETCH(bool, checksum);
+        QFETCH(QStringList, seen);
+        QCOMPARE(readAll(bytes, layout43(lineNumbers, checksum)), seen);
+    }
+
+    // A line beyond the limit is skipped to its end, wherever the end falls.
+    void longLines_data()
+    {
+        QTest::addColumn<qsizetype>("limit");
+        QTest::addColumn<qsizetype>("length");
+        QTest::newRow("one over a small limit") << qsizetype(20) << qsizetype(21);
+        QTest::newRow("exactly the limit") << qsizetype(20) << qsizetype(20);
+        QTest::newRow("10 MB line, default limit")
+            << RecordFileReader::defaultMaxLineLength << qsizetype(10 << 20);
+    }
+
+    void longLines()
+    {
+        QFETCH(qsizetype, limit);
+        QFETCH(qsizetype, length);
+        const QByteArray good = "AB   7  ";
+        const QByteArray bytes = good + "\n" + QByteArray(length, 'x') + "\r\n" + good + "\n"
+            + QByteArray(length, 'y');
+        const QString verdict
+            = length > limit ? QStringLiteral("too long") : QStringLiteral("delimiter at 5");
+        QCOMPARE(readAll(bytes, layout43(false, false), limit),
+            (QStringList { "1 AB|7", "2 " + verdict, "3 AB|7", "4 " + verdict }));
+    }
+
+    void readError()
+    {
+        BrokenDevice device("AB   7  \nCD   8  \nEF");
+        RecordFileReader reader(device, layout43(false, false), RegionalSettings());
+        QCOMPARE(reader.next(), RecordFileReader::Status::Record);
+        QCOMPARE(reader.next(), RecordFileReader::Status::Record);
+        QCOMPARE(reader.next(), RecordFileReader::Status::Fault);
+        QCOMPARE(reader.fault().kind, RecordFileFault::ReadError);
+        QCOMPARE(reader.line(), 3);
+        QCOMPARE(reader.next(), RecordFileReader::Status::End);
+    }
+
+    // Through the platform: a whole file written and read back, larger than
+    // the reader's window.
+    void wholeFile()
+    {
+        QTemporaryDir dir;
+        const QString path = dir.filePath(QStringLiteral("export.txt"));
+        RecordLayout layout;
+        layout.widths = { 6, 20, 10 };
+        layout.formats = { "", "", "#,##0.00" };
+        const int count = 40000;
+        int made = 0;
+        QString error;
+        QVERIFY(RecordFileWriter::writeFile(
+            path, layout, RegionalSettings(),
+            [&](QStringList &fields) {
+                if (made == count)
+                    return false;
+                ++made;
+                fields = QStringList { QString::number(made),
+                    QStringLiteral("Article %1").arg(made), QString::number(made * 1.5) };
+                return true;
+            },
+            &error));
+        QVERIFY(error.isEmpty());
+        int read = 0;
+        const auto summary = RecordFileReader::readFile(
+            path, layout, RegionalSettings(),
+            [&](const QStringList &fields) {
+                ++read;
+                if (fields.value(0) != QString::number(read)
+                    || fields.value(1) != QStringLiteral("Article %1").arg(read))
+                    QFAIL(qPrintable(fields.join(QLatin1Char('|'))));
+            },
+            [](const RecordFileFault &fault) { QFAIL(qPrintable(fault.reason())); });
+        QVERIFY(summary.opened);
+        QCOMPARE(summary.records, qint64(count));
+        QCOMPARE(summary.faults, qint64(0));
+        QCOMPARE(read, count);
+
+        QVERIFY(!RecordFileReader::readFile(
+            dir.filePath("missing.txt"), layout, RegionalSettings(), nullptr, nullptr)
+                     .opened);
+        QVERIFY(!RecordFileWriter::writeFile(
+            dir.filePath("no/such/dir.txt"), layout, RegionalSettings(),
+            [](QStringList &) { return false; }, &error));
+        QVERIFY(!error.isEmpty());
+    }
+};
+
+QTEST_GUILESS_MAIN(tst_RecordFile)
+#include "tst_recordfile.moc"
