@@ -68,20 +68,30 @@ Outcome capture(const std::function<QVariant(QVariantList &)> &call, QVariantLis
 QVariant callDirectly(clsqorGenLib &lib, const QMetaMethod &method, QVariantList &args)
 {
     const RegionalSettings rs = platform().regionalSettings();
+    // A Variant parameter is passed as the QVariant itself, any other one as
+    // the value a QVariant holds.
     QVariantList storage;
     for (int i = 0; i < args.size(); ++i)
         storage.append(coerceTo(args.at(i), parameterType(method, i), rs));
+    const QList<QByteArray> names = method.parameterTypes();
     QGenericArgument generic[10];
-    for (int i = 0; i < storage.size(); ++i)
-        generic[i] = QGenericArgument(method.parameterTypeName(i).constData(), storage[i].data());
+    for (int i = 0; i < storage.size(); ++i) {
+        void *data = parameterType(method, i).id() == QMetaType::QVariant
+            ? static_cast<void *>(&storage[i])
+            : storage[i].data();
+        generic[i] = QGenericArgument(names.at(i).constData(), data);
+    }
     QVariant result = method.returnMetaType().id() == QMetaType::Void
         ? QVariant()
         : QVariant(method.returnMetaType(), nullptr);
     QGenericReturnArgument ret;
     if (result.isValid())
         ret = QGenericReturnArgument(method.typeName(), result.data());
-    method.invoke(&lib, Qt::DirectConnection, ret, generic[0], generic[1], generic[2], generic[3],
-        generic[4], generic[5], generic[6], generic[7], generic[8], generic[9]);
+    const bool invoked = method.invoke(&lib, Qt::DirectConnection, ret, generic[0], generic[1],
+        generic[2], generic[3], generic[4], generic[5], generic[6], generic[7], generic[8],
+        generic[9]);
+    if (!invoked)
+        qFatal("%s could not be invoked", method.methodSignature().constData());
     for (int i = 0; i < args.size(); ++i)
         args[i] = storage.at(i);
     if (result.metaType().id() == QMetaType::QVariant)

@@ -211,7 +211,7 @@ private slots:
         for (const char *command : { "qorgen call", "qorgen batch", "qorgen methods", "qorgen records", "--version" })
             QVERIFY2(run.out.contains(command), command);
         QCOMPARE(run.out.count("Example"), 4);
-        for (const QString command : { QStringLiteral("call"), QStringLiteral("batch") }) {
+        for (const QString &command : { QStringLiteral("call"), QStringLiteral("batch") }) {
             const QorgenRun part = runQorgen({ command, QStringLiteral("--help") });
             QCOMPARE(part.exitCode, 0);
             QVERIFY(part.out.contains("qorgen " + command.toUtf8()));
