@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/calculatorsession.h"
 #include "runtime/regionalsettings.h"
 
 #include <QDateTime>
@@ -63,19 +64,6 @@ struct InputBoxEAnswer
     QString text; // untrimmed text of the field when OK was chosen
 };
 
-struct CalculatorRequest
-{
-    double start = 0;
-    bool negativeAllowed = true;
-    int decimals = 2;
-};
-
-struct CalculatorAnswer
-{
-    bool cancelled = false;
-    double result = 0; // the result register when the calculator closed
-};
-
 // The screen as the library measures it.
 struct ScreenInfo
 {
@@ -112,8 +100,10 @@ public:
     virtual int messageBoxE(const MessageBoxERequest &request) = 0;
     virtual int systemMessageBox(const SystemMessageBoxRequest &request) = 0;
     virtual InputBoxEAnswer inputBoxE(const InputBoxERequest &request) = 0;
+    // The calculator and the VAT note (platform/calculatorsession.h). The note
+    // closes itself after half a second and never holds the caller longer.
     virtual CalculatorAnswer calculator(const CalculatorRequest &request) = 0;
-    virtual void showNote(const QString &text) = 0; // the VAT note beside a field
+    virtual void showNote(const NoteRequest &note) = 0;
     virtual void beep() = 0;
     virtual void processEvents() = 0;
 
