@@ -212,7 +212,7 @@ QVariant clsqorGenLib::KeyEuro(QObject *TextBox, short &KA)
 }
 
 bool clsqorGenLib::KeySpin(
-    qorGenLib::SpinUpDown &UpDown, QObject *TxtBox, QVariant &MaxValue, QVariant &MinValue)
+    qorGenLib::SpinUpDown UpDown, QObject *TxtBox, QVariant &MaxValue, QVariant &MinValue)
 {
     return keySpin(UpDown, TxtBox, MaxValue, MinValue);
 }

@@ -126,10 +126,11 @@ public:
     Q_INVOKABLE QVariant KeyEuro(
         QObject *TextBox, short &KA, QVariant &EurDecimals, bool &NegNumber);
     QVariant KeyEuro(QObject *TextBox, short &KA);
-    // Bounds left out are filled in; a minimum left out beside a given maximum
+    // The direction is never written back, so it is taken by value. Bounds
+    // left out are filled in; a minimum left out beside a given maximum
     // raises RuntimeError 13 when stepping a number down.
     Q_INVOKABLE bool KeySpin(
-        qorGenLib::SpinUpDown &UpDown, QObject *TxtBox, QVariant &MaxValue, QVariant &MinValue);
+        qorGenLib::SpinUpDown UpDown, QObject *TxtBox, QVariant &MaxValue, QVariant &MinValue);
     bool KeySpin(qorGenLib::SpinUpDown UpDown, QObject *TxtBox);
     Q_INVOKABLE void LoadComboBTW(QObject *Cbo, qint32 &SetValue, qint32 &SetListIndex);
     void LoadComboBTW(QObject *Cbo);
