@@ -1,0 +1,2 @@
+qor_add_test(tst_calculatorengine ${dir}/tst_calculatorengine.cpp)
+qor_add_test(tst_vatrates ${dir}/tst_vatrates.cpp)
