@@ -319,6 +319,7 @@ CalculatorView CalculatorEngine::view() const
     view.error = m_error;
     static const char *const symbols[] = { "", "+", "-", "x", "/" };
     view.pendingOperator = QString::fromLatin1(symbols[int(m_operator)]);
+    view.decimalSeparator = m_rs.decimalSeparator;
     view.insertCaption = loadCatalogueText(InsertCaption);
     view.helpCaption = loadCatalogueText(HelpCaption);
     view.conversionCaption = loadCatalogueText(m_francs ? FrancToEuroCaption : EuroToFrancCaption);

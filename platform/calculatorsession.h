@@ -26,6 +26,7 @@ struct CalculatorView
     QString display; // the number, or the error text
     bool error = false;
     QString pendingOperator; // "+", "-", "x", "/" or empty
+    QChar decimalSeparator = QLatin1Char(','); // the caption of the separator key
     QString insertCaption;
     QString helpCaption;
     QString conversionCaption; // the euro/franc switch

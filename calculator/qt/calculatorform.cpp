@@ -216,6 +216,7 @@ void CalculatorForm::refresh()
     findChild<QLabel *>(QStringLiteral("lblTitle"))->setText(view.title);
     m_display->setText(view.display + QLatin1Char(' '));
     m_operator->setText(view.pendingOperator);
+    findChild<QPushButton *>(QStringLiteral("cmdKey10"))->setText(view.decimalSeparator);
     m_currency->setText(view.francs ? QStringLiteral("BEF") : QStringLiteral("EUR"));
     findChild<QPushButton *>(QStringLiteral("cmdInsert"))->setText(view.insertCaption);
     findChild<QPushButton *>(QStringLiteral("cmdHelp"))->setText(view.helpCaption);
