@@ -1,4 +1,5 @@
 #include "calculator/calculatorengine.h"
+#include "lib/clsqorgenlib.h"
 #include "lib/frame/modgenlib.h"
 #include "platform/recordingplatform.h"
 
@@ -144,6 +145,42 @@ private slots:
         engine.press(QStringLiteral("Euro"));
         QCOMPARE(engine.view().conversionCaption, QStringLiteral("BEF  >>  EUR"));
         QVERIFY(engine.view().francs);
+    }
+
+    // The bridge's scripted answers drive the engine through the recording platform.
+    void scriptedSessions_data()
+    {
+        QTest::addColumn<QVariant>("answer");
+        QTest::addColumn<double>("result");
+        QTest::addColumn<QStringList>("kinds");
+        // clang-format off
+        QTest::newRow("keys until a second enter") << QVariant(QVariantMap { { "keys", "+1{Enter}{Enter}99" } }) << 11.0 << QStringList { "Calculator" };
+        QTest::newRow("text ending with the calculator open") << QVariant(QVariantMap { { "keys", "x5" } }) << 10.0 << QStringList { "Calculator" };
+        QTest::newRow("help card takes the next key") << QVariant(QVariantMap { { "keys", "{Help}{Esc}+2{Insert}" } }) << 12.0 << QStringList { "CalculatorHelp", "Calculator" };
+        QTest::newRow("beep on a VAT key over zero") << QVariant(QVariantMap { { "keys", "{Delete}{VAT1}7{Insert}" } }) << 7.0 << QStringList { "beep", "Calculator" };
+        QTest::newRow("a number is the register") << QVariant(42.5) << 42.5 << QStringList { "Calculator" };
+        QTest::newRow("cancel") << QVariant(QVariantMap { { "cancel", true } }) << 10.0 << QStringList { "Calculator" };
+        // clang-format on
+    }
+    void scriptedSessions()
+    {
+        QFETCH(QVariant, answer);
+        auto machine = test::installRecordingPlatform(QStringLiteral("nl_BE"));
+        machine->setAnswers({ answer });
+        clsqorGenLib lib;
+        lib.setProperty("BtwTar1", 2100);
+        QTEST(lib.ShowCalculator(10), "result");
+        QTEST(modGenLib().calculatorRegister, "result");
+        QStringList kinds;
+        for (const QVariant &shown : machine->shown())
+            kinds.append(shown.toMap().value("kind").toString());
+        QTEST(kinds, "kinds");
+        if (kinds.first() == QLatin1String("CalculatorHelp")) {
+            const QVariantMap help = machine->shown().first().toMap();
+            QCOMPARE(
+                help.value("title").toString(), QStringLiteral("  Help bij Velantis Calculator"));
+            QCOMPARE(help.value("lines").toStringList().size(), 12);
+        }
     }
 
     void longSequencesStayCalm()
