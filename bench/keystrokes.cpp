@@ -25,7 +25,8 @@ bool report(const char *name, const std::function<void(int)> &key)
     const auto start = std::chrono::steady_clock::now();
     for (int i = 0; i < keysPerRun; ++i)
         key(i);
-    const std::chrono::duration<double, std::micro> spent = std::chrono::steady_clock::now() - start;
+    const std::chrono::duration<double, std::micro> spent
+        = std::chrono::steady_clock::now() - start;
     const double perKey = spent.count() / keysPerRun;
     const bool met = perKey < goalMicroseconds;
     std::printf("%-34s %10.2f us/key  %s\n", name, perKey, met ? "ok" : "TOO SLOW");
@@ -78,7 +79,7 @@ int main()
         lib.KeyPress(ka, allowed);
     });
     CalculatorEngine engine({ 100, 2100, 600, false, machine->regionalSettings() });
-    engine.setBeep([] { });
+    engine.setBeep([] {});
     const QString keys = QStringLiteral("12+3x4,5-6/7=");
     met &= report("calculator engine", [&](int i) {
         engine.press(QString(keys.at(i % keys.size())));

@@ -35,7 +35,8 @@ struct Outcome
 
 Outcome outcomeOf(const RecordingPlatform &machine, const QList<int> &results)
 {
-    Outcome outcome { results };
+    Outcome outcome;
+    outcome.results = results;
     for (const QVariant &shown : machine.shown()) {
         const QVariantMap event = shown.toMap();
         const QString kind = event.value("kind").toString();
