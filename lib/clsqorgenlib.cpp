@@ -1,6 +1,11 @@
 #include "lib/clsqorgenlib.h"
 
+#include "calculator/showcalculator.h"
+#include "calculator/vatrates.h"
+#include "input/amountkeys.h"
 #include "input/amounts.h"
+#include "input/keypress.h"
+#include "input/keyspin.h"
 #include "input/editing.h"
 #include "input/textfilters.h"
 #include "interchange/recordmethods.h"
@@ -11,6 +16,7 @@
 #include "lib/frame/windowsize.h"
 #include "platform/platform.h"
 #include "runtime/conversion.h"
+#include "runtime/variant.h"
 #include "system/stationflags.h"
 #include "validate/identifierchecks.h"
 
@@ -187,6 +193,84 @@ QVariant clsqorGenLib::GetImportData(const QString &InputRecord, QVariant &arrFi
 // End of fixed-field records
 
 // Keystroke handlers, the calculator and VAT
+
+QVariant clsqorGenLib::KeyPress(short &KA, QString &ToegelatenTekens)
+{
+    return keyPress(KA, ToegelatenTekens, regional());
+}
+
+QVariant clsqorGenLib::KeyGetal(
+    QObject *TextBox, short &KA, QVariant &NbrDecimals, bool &NegNumber, bool &Flexgrid)
+{
+    return keyGetal(TextBox, KA, NbrDecimals, NegNumber, Flexgrid,
+        { m_NbrDec, m_BtwTar1, m_BtwTar2, m_Offset });
+}
+
+QVariant clsqorGenLib::KeyGetal(QObject *TextBox, short &KA)
+{
+    QVariant nbrDecimals = missingVariant();
+    return KeyGetal(TextBox, KA, nbrDecimals);
+}
+
+QVariant clsqorGenLib::KeyGetal(QObject *TextBox, short &KA, QVariant &NbrDecimals)
+{
+    bool negNumber = false;
+    bool flexgrid = false;
+    return KeyGetal(TextBox, KA, NbrDecimals, negNumber, flexgrid);
+}
+
+QVariant clsqorGenLib::KeyEuro(QObject *TextBox, short &KA, QVariant &EurDecimals, bool &NegNumber)
+{
+    return keyEuro(TextBox, KA, EurDecimals, NegNumber, { m_NbrDec, m_BtwTar1, m_BtwTar2, m_Offset });
+}
+
+QVariant clsqorGenLib::KeyEuro(QObject *TextBox, short &KA)
+{
+    QVariant eurDecimals = missingVariant();
+    bool negNumber = false;
+    return KeyEuro(TextBox, KA, eurDecimals, negNumber);
+}
+
+bool clsqorGenLib::KeySpin(
+    qorGenLib::SpinUpDown UpDown, QObject *TxtBox, QVariant &MaxValue, QVariant &MinValue)
+{
+    return keySpin(UpDown, TxtBox, MaxValue, MinValue);
+}
+
+bool clsqorGenLib::KeySpin(qorGenLib::SpinUpDown UpDown, QObject *TxtBox)
+{
+    QVariant maxValue = missingVariant();
+    QVariant minValue = missingVariant();
+    return KeySpin(UpDown, TxtBox, maxValue, minValue);
+}
+
+void clsqorGenLib::LoadComboBTW(QObject *Cbo, qint32 &SetValue, qint32 &SetListIndex)
+{
+    loadComboBTW(Cbo, SetValue, SetListIndex, m_BtwTar1, m_BtwTar2, regional());
+}
+
+void clsqorGenLib::LoadComboBTW(QObject *Cbo)
+{
+    qint32 setValue = 0;
+    qint32 setListIndex = 0;
+    LoadComboBTW(Cbo, setValue, setListIndex);
+}
+
+bool clsqorGenLib::ControleerBtwClick(bool &Reset)
+{
+    return controleerBtwClick(Reset, m_Offset);
+}
+
+bool clsqorGenLib::ControleerBtwClick()
+{
+    bool reset = false;
+    return ControleerBtwClick(reset);
+}
+
+double clsqorGenLib::ShowCalculator(double Value)
+{
+    return showCalculator(Value, m_BtwTar1, m_BtwTar2, m_Offset);
+}
 
 // End of keystroke handlers, the calculator and VAT
 

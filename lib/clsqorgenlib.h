@@ -121,6 +121,35 @@ public:
     // End of fixed-field records.
 
     // Keystroke handlers, the calculator and VAT.
+    // The handlers return the key code the host uses (0: consumed) and rewrite
+    // KA where they refuse or translate a key. Optional arguments are written
+    // back, so C++ gets their defaults through the overloads, which are not published.
+    Q_CLASSINFO("KeyGetal", "{\"NbrDecimals\": null, \"NegNumber\": false, \"Flexgrid\": false}")
+    Q_CLASSINFO("KeyEuro", "{\"EurDecimals\": 2, \"NegNumber\": false}")
+    Q_CLASSINFO("KeySpin", "{\"MaxValue\": null, \"MinValue\": null}")
+    Q_CLASSINFO("LoadComboBTW", "{\"SetValue\": 0, \"SetListIndex\": 0}")
+    Q_CLASSINFO("ControleerBtwClick", "{\"Reset\": false}")
+    Q_CLASSINFO("ShowCalculator", "{\"Value\": 0}")
+    Q_INVOKABLE QVariant KeyPress(short &KA, QString &ToegelatenTekens);
+    Q_INVOKABLE QVariant KeyGetal(
+        QObject *TextBox, short &KA, QVariant &NbrDecimals, bool &NegNumber, bool &Flexgrid);
+    QVariant KeyGetal(QObject *TextBox, short &KA);
+    QVariant KeyGetal(QObject *TextBox, short &KA, QVariant &NbrDecimals);
+    Q_INVOKABLE QVariant KeyEuro(
+        QObject *TextBox, short &KA, QVariant &EurDecimals, bool &NegNumber);
+    QVariant KeyEuro(QObject *TextBox, short &KA);
+    // The direction is never written back, so it is taken by value. Bounds
+    // left out are filled in; a minimum left out beside a given maximum
+    // raises RuntimeError 13 when stepping a number down.
+    Q_INVOKABLE bool KeySpin(
+        qorGenLib::SpinUpDown UpDown, QObject *TxtBox, QVariant &MaxValue, QVariant &MinValue);
+    bool KeySpin(qorGenLib::SpinUpDown UpDown, QObject *TxtBox);
+    Q_INVOKABLE void LoadComboBTW(QObject *Cbo, qint32 &SetValue, qint32 &SetListIndex);
+    void LoadComboBTW(QObject *Cbo);
+    Q_INVOKABLE bool ControleerBtwClick(bool &Reset);
+    bool ControleerBtwClick();
+    // Shows the calculator with Value and returns the result register it leaves.
+    Q_INVOKABLE double ShowCalculator(double Value = 0);
     // End of keystroke handlers, the calculator and VAT.
 
     // Grids, lists and sorting.

@@ -74,6 +74,8 @@ QVariant LateBinding::callMethod(const MethodInfo &method, QVariantList &args) c
             value = param.defaultValue;
         else if (param.metaType.id() != QMetaType::QVariant)
             value = QVariant(param.metaType, nullptr);
+        else
+            value = missingVariant(); // an optional Variant without default: IsMissing
         storage.push_back(storageFor(value, param.metaType));
     }
     const QMetaMethod meta = m_object->metaObject()->method(method.methodIndex);

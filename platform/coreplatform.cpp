@@ -59,7 +59,7 @@ CalculatorAnswer CorePlatform::calculator(const CalculatorRequest &request)
     return { false, request.start };
 }
 
-void CorePlatform::showNote(const QString &) { }
+void CorePlatform::showNote(const NoteRequest &) { }
 void CorePlatform::beep() { }
 
 void CorePlatform::processEvents()

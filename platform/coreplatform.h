@@ -28,7 +28,7 @@ public:
     int systemMessageBox(const SystemMessageBoxRequest &request) override;
     InputBoxEAnswer inputBoxE(const InputBoxERequest &request) override;
     CalculatorAnswer calculator(const CalculatorRequest &request) override;
-    void showNote(const QString &text) override;
+    void showNote(const NoteRequest &note) override;
     void beep() override;
     void processEvents() override;
 

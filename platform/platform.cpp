@@ -16,6 +16,18 @@ std::shared_ptr<Platform> &threadPlatform()
 
 Platform::~Platform() = default;
 
+CalculatorSession::~CalculatorSession() = default;
+
+QStringList CalculatorHelpCard::lines() const
+{
+    QStringList all { callLine, heading };
+    for (const auto &key : keys)
+        all.append(key.second);
+    all.append(movingLine);
+    all.append(vatLine);
+    return all;
+}
+
 Platform &Platform::current()
 {
     auto &installed = threadPlatform();

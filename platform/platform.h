@@ -2,6 +2,7 @@
 
 #include "qorgenlib_export.h"
 
+#include "platform/calculatorsession.h"
 #include "runtime/regionalsettings.h"
 
 #include <QDateTime>
@@ -115,8 +116,10 @@ public:
     virtual int messageBoxE(const MessageBoxERequest &request) = 0;
     virtual int systemMessageBox(const SystemMessageBoxRequest &request) = 0;
     virtual InputBoxEAnswer inputBoxE(const InputBoxERequest &request) = 0;
+    // The calculator and the VAT note (platform/calculatorsession.h). The note
+    // closes itself after half a second and never holds the caller longer.
     virtual CalculatorAnswer calculator(const CalculatorRequest &request) = 0;
-    virtual void showNote(const QString &text) = 0; // the VAT note beside a field
+    virtual void showNote(const NoteRequest &note) = 0;
     virtual void beep() = 0;
     virtual void processEvents() = 0;
 

@@ -19,8 +19,10 @@ namespace qor {
 // - plain message box: a result number; default 1;
 // - input box: a string typed into the field before OK, or {"cancel": true};
 //   default OK on the default value;
-// - calculator: a number left in its result register, or {"cancel": true};
-//   default closed at once with the register unchanged.
+// - calculator: a number left in its result register, {"keys": text} typed
+//   into it (one character a key, named keys in braces: "12+3{Enter}{Enter}";
+//   "{Help}" shows the help card, which takes the next key), or
+//   {"cancel": true}; default closed at once with the register unchanged.
 class QORGENLIB_EXPORT RecordingPlatform : public CorePlatform
 {
 public:
@@ -49,7 +51,7 @@ public:
     int systemMessageBox(const SystemMessageBoxRequest &request) override;
     InputBoxEAnswer inputBoxE(const InputBoxERequest &request) override;
     CalculatorAnswer calculator(const CalculatorRequest &request) override;
-    void showNote(const QString &text) override;
+    void showNote(const NoteRequest &note) override;
     void beep() override;
     void processEvents() override;
     void playSound(const QString &file, bool continuous) override;
@@ -60,8 +62,12 @@ public:
     void setMousePointer(int pointer) override;
     void keyEvent(int virtualKey, int scanCode, int flags) override;
 
+    // The keys of a scripted calculator text, in order.
+    static QStringList calculatorKeys(const QString &text);
+
 private:
     std::optional<QVariant> takeAnswer();
+    void typeIntoCalculator(CalculatorSession &session, const QString &text);
     int messageBoxEAnswer(const MessageBoxERequest &request);
     void record(const QVariantMap &event) { m_shown.append(event); }
 

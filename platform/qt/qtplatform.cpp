@@ -3,6 +3,8 @@
 #include "platform/keyboardlayout.h"
 #include "dialogs/qt/inputboxdialog.h"
 #include "dialogs/qt/messageboxdialog.h"
+#include "calculator/qt/calculatorform.h"
+#include "calculator/qt/vatnoteform.h"
 
 #include <QApplication>
 #include <QGuiApplication>
@@ -109,6 +111,30 @@ InputBoxEAnswer QtPlatform::inputBoxE(const InputBoxERequest &request)
     InputBoxDialog dialog(request, QApplication::activeWindow());
     dialog.exec();
     return dialog.answer();
+}
+
+CalculatorAnswer QtPlatform::calculator(const CalculatorRequest &request)
+{
+    if (!request.session)
+        return CorePlatform::calculator(request);
+    CalculatorForm form(request.session, QApplication::activeWindow());
+    form.exec();
+    return { false, request.session->resultRegister() };
+}
+
+// The widget of a host control: the control itself, or the widget an adapter belongs to.
+static QWidget *widgetOf(QObject *control)
+{
+    for (QObject *object = control; object; object = object->parent()) {
+        if (auto *widget = qobject_cast<QWidget *>(object))
+            return widget;
+    }
+    return nullptr;
+}
+
+void QtPlatform::showNote(const NoteRequest &note)
+{
+    VatNoteForm::flash(note.text, widgetOf(note.field));
 }
 
 void QtPlatform::beep()

@@ -23,6 +23,9 @@ public:
     InputBoxEAnswer inputBoxE(const InputBoxERequest &request) override;
     void beep() override;
     void processEvents() override;
+    // The calculator and the VAT note (calculator/qt).
+    CalculatorAnswer calculator(const CalculatorRequest &request) override;
+    void showNote(const NoteRequest &note) override;
     void playSound(const QString &file, bool continuous) override;
     void stopSound() override;
     ScreenInfo screen() const override;

@@ -1,3 +1,6 @@
 qor_add_test(tst_textfilters ${dir}/tst_textfilters.cpp)
 qor_add_test(tst_amounts ${dir}/tst_amounts.cpp)
 qor_add_test(tst_editing ${dir}/tst_editing.cpp)
+qor_add_test(tst_amountkeys ${dir}/tst_amountkeys.cpp)
+qor_add_test(tst_keypress ${dir}/tst_keypress.cpp)
+qor_add_test(tst_keyspin ${dir}/tst_keyspin.cpp)

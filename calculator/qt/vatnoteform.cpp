@@ -1,0 +1,82 @@
+#include "calculator/qt/vatnoteform.h"
+
+#include <QCursor>
+#include <QGuiApplication>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QScreen>
+#include <QTimer>
+
+namespace qor {
+
+namespace {
+
+// The note is 40 twips wider than its label.
+constexpr int extraWidthTwips = 40;
+constexpr int gapPixels = 4;
+
+int twipsToPixels(int twips, const QScreen *screen)
+{
+    const double dpi = screen ? screen->logicalDotsPerInchX() : 96.0;
+    return qMax(1, qRound(twips * dpi / 1440.0));
+}
+
+} // namespace
+
+VatNoteForm::VatNoteForm(const QString &text, QWidget *field)
+    : QWidget(nullptr, Qt::ToolTip | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint)
+{
+    setObjectName(QStringLiteral("frmBtwToolTip"));
+    setAttribute(Qt::WA_ShowWithoutActivating);
+    setAttribute(Qt::WA_DeleteOnClose);
+    setFocusPolicy(Qt::NoFocus);
+    setAutoFillBackground(true);
+    QPalette palette = this->palette();
+    palette.setColor(QPalette::Window, QColor(0xFF, 0xFF, 0xE1));
+    setPalette(palette);
+    m_label = new QLabel(text, this);
+    m_label->setObjectName(QStringLiteral("lblBtw"));
+    m_label->setTextFormat(Qt::PlainText);
+    auto *layout = new QHBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(m_label);
+    const QScreen *screen = field ? field->screen() : QGuiApplication::primaryScreen();
+    setFixedSize(m_label->sizeHint().width() + twipsToPixels(extraWidthTwips, screen),
+        m_label->sizeHint().height() + 2);
+    placeBeside(field);
+}
+
+VatNoteForm *VatNoteForm::flash(const QString &text, QWidget *field)
+{
+    auto *note = new VatNoteForm(text, field);
+    note->show();
+    return note;
+}
+
+void VatNoteForm::showEvent(QShowEvent *event)
+{
+    QWidget::showEvent(event);
+    m_shown.start();
+    QTimer::singleShot(lifetimeMs, this, &QWidget::close);
+}
+
+// Right of the field at its height, or left of it when the screen ends there.
+void VatNoteForm::placeBeside(QWidget *field)
+{
+    const QScreen *screen = field ? field->screen() : QGuiApplication::screenAt(QCursor::pos());
+    if (!screen)
+        screen = QGuiApplication::primaryScreen();
+    const QRect area = screen ? screen->availableGeometry() : QRect(0, 0, 1024, 768);
+    QRect beside(QCursor::pos(), size());
+    if (field) {
+        const QRect fieldRect(field->mapToGlobal(QPoint(0, 0)), field->size());
+        beside.moveTopLeft(QPoint(fieldRect.right() + gapPixels, fieldRect.top()));
+        if (beside.right() > area.right())
+            beside.moveRight(fieldRect.left() - gapPixels);
+    }
+    beside.moveLeft(qBound(area.left(), beside.left(), qMax(area.left(), area.right() - width())));
+    beside.moveTop(qBound(area.top(), beside.top(), qMax(area.top(), area.bottom() - height())));
+    move(beside.topLeft());
+}
+
+} // namespace qor

@@ -1,0 +1,38 @@
+#pragma once
+
+#include <QElapsedTimer>
+#include <QWidget>
+
+class QLabel;
+
+namespace qor {
+
+// The VAT note: a borderless label beside an amount field that closes itself
+// half a second after it is shown (on the monotonic clock). It never takes
+// the focus and never holds up the caller.
+class VatNoteForm : public QWidget
+{
+    Q_OBJECT
+
+public:
+    static constexpr int lifetimeMs = 500;
+
+    explicit VatNoteForm(const QString &text, QWidget *field = nullptr);
+
+    // Shows a note beside the field (or at the mouse when there is none); it deletes itself.
+    static VatNoteForm *flash(const QString &text, QWidget *field);
+
+    // How long it has been shown.
+    qint64 shownForMs() const { return m_shown.isValid() ? m_shown.elapsed() : 0; }
+
+protected:
+    void showEvent(QShowEvent *event) override;
+
+private:
+    void placeBeside(QWidget *field);
+
+    QLabel *m_label = nullptr;
+    QElapsedTimer m_shown;
+};
+
+} // namespace qor

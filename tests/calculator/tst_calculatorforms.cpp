@@ -1,0 +1,270 @@
+#include "host/qt/lineeditadapter.h"
+#include "lib/clsqorgenlib.h"
+#include "lib/frame/modgenlib.h"
+#include "platform/qt/qtplatform.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QScreen>
+#include <QTest>
+#include <QTimer>
+
+using namespace qor;
+
+namespace {
+
+// Runs an action on the next modal window with this name once it is active.
+void whenModalIsActive(const QString &name, std::function<void(QWidget *)> action)
+{
+    QTimer::singleShot(0, [name, action] {
+        QTRY_VERIFY(QApplication::activeModalWidget()
+            && QApplication::activeModalWidget()->objectName() == name);
+        QWidget *window = QApplication::activeModalWidget();
+        QVERIFY(QTest::qWaitForWindowActive(window));
+        action(window);
+    });
+}
+
+QString displayOf(QWidget *calculator)
+{
+    return calculator->findChild<QLabel *>(QStringLiteral("lblDisplay"))->text().trimmed();
+}
+
+QPushButton *button(QWidget *window, const QString &name)
+{
+    return window->findChild<QPushButton *>(name);
+}
+
+// Screenshots go beside the test program, in the build folder.
+void saveScreenshot(QWidget *window, const QString &file)
+{
+    const QString path = QDir(QCoreApplication::applicationDirPath()).filePath(file);
+    QVERIFY(window->grab().save(path));
+}
+
+} // namespace
+
+class TestCalculatorForms : public QObject
+{
+    Q_OBJECT
+
+    std::shared_ptr<QtPlatform> machine;
+
+private slots:
+    void initTestCase()
+    {
+        machine = std::make_shared<QtPlatform>();
+        machine->setRegionalSettings(RegionalSettings::fromLocale(QStringLiteral("nl_BE")));
+        Platform::install(machine);
+    }
+    void init() { ModGenLib::reset(); }
+
+    void keysTypedIntoTheCalculator_data()
+    {
+        QTest::addColumn<double>("start");
+        QTest::addColumn<QString>("typed");
+        QTest::addColumn<QString>("shown");
+        QTest::addColumn<int>("closingKey");
+        QTest::addColumn<double>("result");
+        // clang-format off
+        QTest::newRow("sum inserted with a second enter") << 100.0 << "+5" << "105" << int(Qt::Key_Return) << 105.0;
+        QTest::newRow("point typed as the comma") << 0.0 << "1.5x2" << "3" << int(Qt::Key_Equal) << 3.0;
+        QTest::newRow("escape inserts nothing new") << 7.0 << "9-1" << "8" << int(Qt::Key_Escape) << 7.0;
+        QTest::newRow("division by zero") << 1.0 << "/0" << "-E-" << int(Qt::Key_Escape) << 1.0;
+        // clang-format on
+    }
+    void keysTypedIntoTheCalculator()
+    {
+        QFETCH(double, start);
+        QFETCH(QString, typed);
+        QFETCH(int, closingKey);
+        QString seen;
+        whenModalIsActive(QStringLiteral("frmCalculator"), [&](QWidget *calculator) {
+            QTest::keyClicks(calculator, typed);
+            QTest::keyClick(calculator, Qt::Key_Equal);
+            seen = displayOf(calculator);
+            if (closingKey != Qt::Key_Escape)
+                QTest::keyClick(calculator, Qt::Key(closingKey));
+            QTest::keyClick(
+                calculator, closingKey == Qt::Key_Escape ? Qt::Key_Escape : Qt::Key_Enter);
+        });
+        clsqorGenLib lib;
+        QTEST(lib.ShowCalculator(start), "result");
+        QTEST(seen, "shown");
+        QTEST(modGenLib().calculatorRegister, "result");
+    }
+
+    void vatKeysAndTheirMirrors()
+    {
+        clsqorGenLib lib;
+        lib.setProperty("BtwTar1", 2100);
+        lib.setProperty("BtwTar2", 600);
+        QStringList captions;
+        QString afterVat;
+        bool disabledAfter = false;
+        whenModalIsActive(QStringLiteral("frmCalculator"), [&](QWidget *calculator) {
+            for (const char *name : { "cmdBTW1", "cmdBTW2", "cmdKey18", "cmdKey19" }) {
+                QPushButton *key = button(calculator, QLatin1String(name));
+                captions.append(key->isVisible() ? key->text() : QStringLiteral("hidden"));
+            }
+            saveScreenshot(calculator, QStringLiteral("calculator.png"));
+            QTest::mouseClick(button(calculator, QStringLiteral("cmdKey18")), Qt::LeftButton);
+            afterVat = displayOf(calculator);
+            disabledAfter = !button(calculator, QStringLiteral("cmdBTW1"))->isEnabled()
+                && !button(calculator, QStringLiteral("cmdKey19"))->isEnabled();
+            QTest::mouseClick(button(calculator, QStringLiteral("cmdInsert")), Qt::LeftButton);
+        });
+        QCOMPARE(lib.ShowCalculator(100), 121.0);
+        QCOMPARE(captions, QStringList({ "21,0 %", "6,0 %", "21,0 %", "6,0 %" }));
+        QCOMPARE(afterVat, QStringLiteral("121"));
+        QVERIFY(disabledAfter);
+    }
+
+    void oneRateHidesTheSecondKeys()
+    {
+        clsqorGenLib lib;
+        lib.setProperty("BtwTar1", 2100);
+        bool hidden = false;
+        whenModalIsActive(QStringLiteral("frmCalculator"), [&](QWidget *calculator) {
+            hidden = !button(calculator, QStringLiteral("cmdBTW2"))->isVisible()
+                && !button(calculator, QStringLiteral("cmdKey19"))->isVisible()
+                && button(calculator, QStringLiteral("cmdKey18"))->isVisible();
+            QTest::mouseClick(button(calculator, QStringLiteral("cmdEuro")), Qt::LeftButton);
+            QCOMPARE(button(calculator, QStringLiteral("cmdEuro"))->text(),
+                QStringLiteral("BEF  >>  EUR"));
+            QCOMPARE(displayOf(calculator), QStringLiteral("40,3399"));
+            QTest::keyClick(calculator, Qt::Key_Insert);
+        });
+        QCOMPARE(lib.ShowCalculator(1), 40.3399);
+        QVERIFY(hidden);
+        QCOMPARE(modGenLib().calculatorMode, 1);
+    }
+
+    void helpCardTakesTheKey_data()
+    {
+        QTest::addColumn<int>("offset");
+        QTest::addColumn<bool>("byClick");
+        QTest::addColumn<QString>("title");
+        QTest::newRow("Dutch, closed by escape") << 0 << false << "  Help bij Velantis Calculator";
+        QTest::newRow("French, closed by a click")
+            << 10000 << true << "Aide de la Calculatrice Velantis";
+    }
+    void helpCardTakesTheKey()
+    {
+        QFETCH(int, offset);
+        QFETCH(bool, byClick);
+        clsqorGenLib lib;
+        lib.setProperty("Offset", offset);
+        QString title;
+        QString vatLine;
+        bool stillOpen = false;
+        QString display;
+        whenModalIsActive(QStringLiteral("frmCalculator"), [&](QWidget *calculator) {
+            QTest::keyClicks(calculator, QStringLiteral("12"));
+            whenModalIsActive(QStringLiteral("frmCalculatorHelp"), [&](QWidget *help) {
+                title = help->windowTitle();
+                vatLine = help->findChild<QLabel *>(QStringLiteral("lblVat"))->text();
+                if (offset == 0)
+                    saveScreenshot(help, QStringLiteral("calculator-help.png"));
+                if (byClick)
+                    QTest::mouseClick(
+                        help->findChild<QLabel *>(QStringLiteral("lblExplain3")), Qt::LeftButton);
+                else
+                    QTest::keyClick(help, Qt::Key_Escape);
+            });
+            QTest::mouseClick(button(calculator, QStringLiteral("cmdHelp")), Qt::LeftButton);
+            stillOpen = calculator->isVisible();
+            display = displayOf(calculator);
+            QTest::keyClick(calculator, Qt::Key_Insert);
+        });
+        QCOMPARE(lib.ShowCalculator(5), 12.0);
+        QTEST(title, "title");
+        QCOMPARE(vatLine, lib.LLGenLib(1220));
+        QVERIFY(stillOpen);
+        QCOMPARE(display, QStringLiteral("12"));
+    }
+
+    void helpCardFromTheKeyboard()
+    {
+        clsqorGenLib lib;
+        bool shown = false;
+        whenModalIsActive(QStringLiteral("frmCalculator"), [&](QWidget *calculator) {
+            whenModalIsActive(QStringLiteral("frmCalculatorHelp"), [&](QWidget *help) {
+                shown = true;
+                QTest::keyClick(help, Qt::Key_Return);
+            });
+            QTest::keyClick(calculator, Qt::Key_F1);
+            QTest::keyClick(calculator, Qt::Key_Escape);
+        });
+        QCOMPARE(lib.ShowCalculator(3), 3.0);
+        QVERIFY(shown);
+    }
+
+    void draggingTheDisplayMovesTheWindow()
+    {
+        clsqorGenLib lib;
+        QPoint moved;
+        whenModalIsActive(QStringLiteral("frmCalculator"), [&](QWidget *calculator) {
+            QWidget *display = calculator->findChild<QLabel *>(QStringLiteral("lblDisplay"));
+            const QPoint before = calculator->pos();
+            QTest::mousePress(display, Qt::LeftButton, {}, QPoint(5, 5));
+            QMouseEvent drag(QEvent::MouseMove, QPointF(45, 35),
+                display->mapToGlobal(QPointF(45, 35)), Qt::NoButton, Qt::LeftButton,
+                Qt::NoModifier);
+            QApplication::sendEvent(display, &drag);
+            QTest::mouseRelease(display, Qt::LeftButton, {}, QPoint(45, 35));
+            moved = calculator->pos() - before;
+            QTest::keyClick(calculator, Qt::Key_Escape);
+        });
+        lib.ShowCalculator(0);
+        QCOMPARE(moved, QPoint(40, 30));
+    }
+
+    void vatNoteBesideTheField()
+    {
+        QWidget form;
+        form.setGeometry(50, 50, 300, 100);
+        QLineEdit field(&form);
+        field.setGeometry(10, 10, 120, 24);
+        form.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&form));
+        LineEditAdapter adapter(&field, &field);
+        platform().showNote({ QStringLiteral(" + 21 % BTW toevoegen "), &adapter });
+        // Shown and handed back at once; it closes itself.
+        QWidget *note = nullptr;
+        for (QWidget *window : QApplication::topLevelWidgets()) {
+            if (window->objectName() == QLatin1String("frmBtwToolTip") && window->isVisible())
+                note = window;
+        }
+        QVERIFY(note);
+        QCOMPARE(note->findChild<QLabel *>()->text(), QStringLiteral(" + 21 % BTW toevoegen "));
+        const QRect fieldOnScreen(field.mapToGlobal(QPoint(0, 0)), field.size());
+        QVERIFY(note->x() > fieldOnScreen.right());
+        QCOMPARE(note->y(), fieldOnScreen.top());
+        QVERIFY(note->width() > note->findChild<QLabel *>()->sizeHint().width());
+        QPointer<QWidget> watched(note);
+        QTRY_VERIFY_WITH_TIMEOUT(watched.isNull(), 3000);
+    }
+
+    void vatNoteStaysOnScreen()
+    {
+        QWidget form;
+        const QRect area = QGuiApplication::primaryScreen()->availableGeometry();
+        form.setGeometry(area.right() - 60, area.bottom() - 20, 60, 40);
+        QLineEdit field(&form);
+        field.setGeometry(0, 0, 60, 40);
+        form.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&form));
+        platform().showNote({ QStringLiteral(" + 6 % BTW toevoegen "), &field });
+        for (QWidget *window : QApplication::topLevelWidgets()) {
+            if (window->objectName() == QLatin1String("frmBtwToolTip") && window->isVisible())
+                QVERIFY(area.contains(window->geometry()));
+        }
+    }
+};
+
+QTEST_MAIN(TestCalculatorForms)
+#include "tst_calculatorforms.moc"

@@ -1,0 +1,84 @@
+#include "calculator/calculatorhelp.h"
+#include "lib/frame/catalogue.h"
+
+#include <QTest>
+
+using namespace qor;
+
+class TestCalculatorHelp : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void ownDutchTexts_data()
+    {
+        QTest::addColumn<qint32>("offset");
+        QTest::newRow("Dutch") << 0;
+        QTest::newRow("negative offset") << -10000;
+    }
+    void ownDutchTexts()
+    {
+        QFETCH(qint32, offset);
+        const CalculatorHelpCard card = calculatorHelpCard(offset);
+        QCOMPARE(card.title, QStringLiteral("  Help bij Velantis Calculator"));
+        QCOMPARE(card.callLine,
+            QStringLiteral("U kan de Calculator vanuit eender welk numeriek invulkvak aanroepen "
+                           "door      te drukken !"));
+        QCOMPARE(card.heading,
+            QStringLiteral("U kan de Calculator volledig bedienen via het toetsenbord :"));
+        // The three own texts differ from the catalogue; the rest is the catalogue's.
+        QVERIFY(card.title != Catalogue::text(1205));
+        QVERIFY(card.callLine != Catalogue::text(1214));
+        QVERIFY(card.heading != Catalogue::text(1207));
+        QCOMPARE(card.keys.at(0).second, *Catalogue::text(1208));
+        QCOMPARE(card.movingLine, *Catalogue::text(1219));
+        QCOMPARE(card.vatLine, *Catalogue::text(1220));
+    }
+
+    void catalogueTexts_data()
+    {
+        QTest::addColumn<qint32>("offset");
+        QTest::newRow("French") << 10000;
+    }
+    void catalogueTexts()
+    {
+        QFETCH(qint32, offset);
+        const CalculatorHelpCard card = calculatorHelpCard(offset);
+        QCOMPARE(card.title, *Catalogue::text(1205 + offset));
+        QCOMPARE(card.callLine, *Catalogue::text(1214 + offset));
+        QCOMPARE(card.heading, *Catalogue::text(1207 + offset));
+        const QList<qint32> explanations { 1208, 1206, 1213, 1209, 1211, 1210, 1212, 1218 };
+        QCOMPARE(card.keys.size(), explanations.size());
+        for (int i = 0; i < explanations.size(); ++i)
+            QCOMPARE(card.keys.at(i).second, *Catalogue::text(explanations.at(i) + offset));
+        QCOMPARE(card.movingLine, *Catalogue::text(1219 + offset));
+        // Never re-labelled: the Dutch line in every language.
+        QCOMPARE(card.vatLine, *Catalogue::text(1220));
+        QVERIFY(card.vatLine != *Catalogue::text(1220 + offset));
+    }
+
+    void keyNamesAreFixed()
+    {
+        const QStringList expected { "[0] [1] ... [9]", "[,] [.]", "[+] [-] [x] [/]", "[=] [Enter]",
+            "", "[Insert]", "[Esc]", "[BackSpace]" };
+        for (qint32 offset : { 0, 10000, 30000 }) {
+            QStringList names;
+            for (const auto &key : calculatorHelpCard(offset).keys)
+                names.append(key.first);
+            QCOMPARE(names, expected);
+        }
+    }
+
+    // The catalogue holds the card's texts in Dutch and French only.
+    void aLanguageWithoutTheTextsShowsMarkers()
+    {
+        const CalculatorHelpCard card = calculatorHelpCard(20000);
+        QCOMPARE(card.title, QStringLiteral(" [LL 21205 ?] "));
+        QCOMPARE(card.keys.at(0).second, QStringLiteral(" [LL 21208 ?] "));
+        QCOMPARE(card.vatLine, *Catalogue::text(1220));
+        QCOMPARE(card.lines().size(), 12);
+    }
+};
+
+QTEST_GUILESS_MAIN(TestCalculatorHelp)
+#include "tst_calculatorhelp.moc"

@@ -1,0 +1,192 @@
+#include "host/qt/keyfilteradapter.h"
+#include "host/qt/lineeditadapter.h"
+#include "lib/clsqorgenlib.h"
+#include "runtime/variant.h"
+
+#include "tests/common/recordingmachine.h"
+
+#include <QApplication>
+#include <QKeyEvent>
+#include <QLineEdit>
+#include <QTest>
+
+using namespace qor;
+
+namespace {
+
+// Types a key sequence into a widget: characters as typed, and {Up}, {Down},
+// {BS}, {Enter}, {Home}, {CtrlA} as those keys, {Zhe} a Cyrillic letter.
+void typeKeys(QWidget *widget, const QString &keys)
+{
+    static const QHash<QString, QPair<Qt::Key, Qt::KeyboardModifiers>> named {
+        { "Up", { Qt::Key_Up, Qt::NoModifier } },
+        { "Down", { Qt::Key_Down, Qt::NoModifier } },
+        { "BS", { Qt::Key_Backspace, Qt::NoModifier } },
+        { "Enter", { Qt::Key_Return, Qt::NoModifier } },
+        { "Home", { Qt::Key_Home, Qt::NoModifier } },
+        { "CtrlA", { Qt::Key_A, Qt::ControlModifier } },
+    };
+    for (qsizetype i = 0; i < keys.size(); ++i) {
+        const qsizetype close
+            = keys.at(i) == QLatin1Char('{') ? keys.indexOf(QLatin1Char('}'), i) : -1;
+        if (close < 0) {
+            QTest::keyClicks(widget, keys.at(i));
+            continue;
+        }
+        const QString name = keys.mid(i + 1, close - i - 1);
+        if (name == QLatin1String("Zhe")) {
+            // A Cyrillic letter, as a keyboard with that layout types it.
+            QKeyEvent event(
+                QEvent::KeyPress, Qt::Key_unknown, Qt::NoModifier, QStringLiteral("\u0416"));
+            QApplication::sendEvent(widget, &event);
+        } else {
+            const auto key = named.value(name);
+            QTest::keyClick(widget, key.first, key.second);
+        }
+        i = close;
+    }
+}
+
+int count(const RecordingPlatform &machine, const QString &kind)
+{
+    int n = 0;
+    for (const QVariant &shown : machine.shown())
+        n += shown.toMap().value("kind").toString() == kind ? 1 : 0;
+    return n;
+}
+
+} // namespace
+
+// Real QLineEdits with a key handler attached, typed into as a user types.
+class TestKeyFilterAdapter : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void typing_data()
+    {
+        QTest::addColumn<QString>("handler");
+        QTest::addColumn<QString>("locale");
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<bool>("selectAll");
+        QTest::addColumn<int>("maxLength");
+        QTest::addColumn<QVariantList>("answers");
+        QTest::addColumn<QString>("keys");
+        QTest::addColumn<QString>("expectedText");
+        QTest::addColumn<int>("cursor");
+        QTest::addColumn<QString>("selected");
+        QTest::addColumn<int>("beeps");
+        QTest::addColumn<int>("notes");
+        const QVariantList none;
+        // clang-format off
+        QTest::newRow("amount with comma decimals") << "KeyGetal" << "nl_BE" << "" << false << 0 << none << "12.345" << "12,34" << 5 << "" << 1 << 0;
+        QTest::newRow("amount with point decimals") << "KeyGetal" << "en_US" << "" << false << 0 << none << "12,3.45" << "123.45" << 6 << "" << 1 << 0;
+        QTest::newRow("separator first") << "KeyGetal" << "nl_BE" << "" << false << 0 << none << ",5" << "0,5" << 3 << "" << 0 << 0;
+        QTest::newRow("selection of all replaced") << "KeyGetal" << "nl_BE" << "12,34" << true << 0 << none << "5" << "5" << 1 << "" << 0 << 0;
+        QTest::newRow("full decimals refuse digits anywhere") << "KeyGetal" << "nl_BE" << "12,34" << false << 0 << none << "{Home}9" << "12,34" << 0 << "" << 1 << 0;
+        QTest::newRow("backspace passes, enter is refused") << "KeyGetal" << "nl_BE" << "12,34" << false << 0 << none << "{BS}{Enter}" << "12,3" << 4 << "" << 1 << 0;
+        QTest::newRow("minus toggles the sign") << "KeyGetal" << "nl_BE" << "12,50" << false << 0 << none << "-" << "-12,5" << 5 << "" << 0 << 0;
+        QTest::newRow("shortcuts pass untouched") << "KeyGetal" << "nl_BE" << "12" << false << 0 << none << "{CtrlA}" << "12" << 2 << "12" << 0 << 0;
+        QTest::newRow("calculator result inserted") << "KeyGetal" << "nl_BE" << "12" << false << 0 << QVariantList { 12.3456 } << "*" << "12,35" << 5 << "" << 0 << 0;
+        QTest::newRow("calculator typed into") << "KeyGetal" << "nl_BE" << "8" << false << 0 << QVariantList { QVariantMap { { "keys", "x2{Insert}" } } } << "*" << "16" << 2 << "" << 0 << 0;
+        QTest::newRow("calculator result too long") << "KeyGetal" << "nl_BE" << "12" << false << 4 << QVariantList { 12345.0 } << "*" << "12" << 2 << "" << 0 << 0;
+        QTest::newRow("euro amount with VAT at once") << "KeyEuro" << "nl_BE" << "" << false << 0 << none << "100%" << "121" << 3 << "" << 0 << 1;
+        QTest::newRow("euro amount keeps two decimals") << "KeyEuro" << "en_US" << "" << false << 0 << none << "9.999" << "9.99" << 4 << "" << 1 << 0;
+        QTest::newRow("upper-cased letters; the accent from a quote is no letter") << "KeyPress:H" << "nl_BE" << "" << false << 0 << none << "ab'c1" << "ABC" << 3 << "" << 2 << 0;
+        QTest::newRow("the quote rewritten into an allowed accent") << "KeyPress:L\u00B4" << "nl_BE" << "" << false << 0 << none << "d'a" << "d\u00B4a" << 3 << "" << 0 << 0;
+        QTest::newRow("a rewritten key respects the maximum length") << "KeyPress:" << "nl_BE" << "ab" << false << 3 << none << "'x" << "ab\u00B4" << 3 << "" << 0 << 0;
+        QTest::newRow("digits only") << "KeyPress:C" << "nl_BE" << "" << false << 0 << none << "1a2" << "12" << 2 << "" << 1 << 0;
+        QTest::newRow("a character outside the code page") << "KeyPress:L" << "nl_BE" << "" << false << 0 << none << "{Zhe}" << "" << 0 << "" << 1 << 0;
+        QTest::newRow("spin up twice") << "KeySpin" << "nl_BE" << "5" << false << 0 << none << "{Up}{Up}" << "7" << 1 << "7" << 0 << 0;
+        QTest::newRow("spin down stops at one") << "KeySpin" << "nl_BE" << "2" << false << 0 << none << "{Down}{Down}" << "1" << 1 << "1" << 1 << 0;
+        QTest::newRow("spin lets typing through") << "KeySpin" << "nl_BE" << "2" << false << 0 << none << "x" << "2x" << 2 << "" << 0 << 0;
+        // clang-format on
+    }
+    void typing()
+    {
+        QFETCH(QString, handler);
+        QFETCH(QString, locale);
+        QFETCH(QString, text);
+        QFETCH(bool, selectAll);
+        QFETCH(int, maxLength);
+        QFETCH(QVariantList, answers);
+        QFETCH(QString, keys);
+        auto machine = test::installRecordingPlatform(locale);
+        machine->setAnswers(answers);
+        clsqorGenLib lib;
+        lib.setProperty("BtwTar1", 2100);
+        QLineEdit field;
+        if (maxLength > 0)
+            field.setMaxLength(maxLength);
+        field.setText(text);
+        if (selectAll)
+            field.selectAll();
+        if (handler == QLatin1String("KeyGetal"))
+            KeyFilterAdapter::attachKeyGetal(&field, &lib, 2, true);
+        else if (handler == QLatin1String("KeyEuro"))
+            KeyFilterAdapter::attachKeyEuro(&field, &lib);
+        else if (handler == QLatin1String("KeySpin"))
+            KeyFilterAdapter::attachKeySpin(&field, &lib);
+        else
+            KeyFilterAdapter::attachKeyPress(&field, &lib, handler.section(QLatin1Char(':'), 1));
+        typeKeys(&field, keys);
+        QTEST(field.text(), "expectedText");
+        QTEST(field.cursorPosition(), "cursor");
+        QTEST(field.selectedText(), "selected");
+        QTEST(count(*machine, QStringLiteral("beep")), "beeps");
+        QTEST(count(*machine, QStringLiteral("Note")), "notes");
+    }
+
+    void missingDecimalsTakeTheObjectsDefault()
+    {
+        test::installRecordingPlatform(QStringLiteral("nl_BE"));
+        clsqorGenLib lib;
+        lib.setProperty("NbrDec", 1);
+        QLineEdit field;
+        KeyFilterAdapter::attachKeyGetal(&field, &lib);
+        QTest::keyClicks(&field, QStringLiteral("3,145"));
+        QCOMPARE(field.text(), QStringLiteral("3,1"));
+    }
+
+    void codesOfKeyEvents_data()
+    {
+        QTest::addColumn<int>("key");
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<int>("modifiers");
+        QTest::addColumn<int>("code");
+        // clang-format off
+        QTest::newRow("digit") << int(Qt::Key_5) << "5" << 0 << 53;
+        QTest::newRow("keypad digit") << int(Qt::Key_5) << "5" << int(Qt::KeypadModifier) << 53;
+        QTest::newRow("euro sign") << int(Qt::Key_unknown) << "\u20AC" << 0 << 128;
+        QTest::newRow("accented letter") << int(Qt::Key_Eacute) << "\u00E9" << 0 << 233;
+        QTest::newRow("backspace") << int(Qt::Key_Backspace) << "\b" << 0 << 8;
+        QTest::newRow("enter on the keypad") << int(Qt::Key_Enter) << "\r" << int(Qt::KeypadModifier) << 13;
+        QTest::newRow("arrow types nothing") << int(Qt::Key_Left) << "" << 0 << -1;
+        QTest::newRow("delete types nothing") << int(Qt::Key_Delete) << "\u007F" << 0 << -1;
+        QTest::newRow("control shortcut") << int(Qt::Key_C) << "\u0003" << int(Qt::ControlModifier) << -1;
+        QTest::newRow("outside the code page") << int(Qt::Key_unknown) << "\u4E2D" << 0 << 63;
+        // clang-format on
+    }
+    void codesOfKeyEvents()
+    {
+        QFETCH(int, key);
+        QFETCH(QString, text);
+        QFETCH(int, modifiers);
+        const QKeyEvent event(QEvent::KeyPress, key, Qt::KeyboardModifiers(modifiers), text);
+        QTEST(KeyFilterAdapter::characterCode(&event), "code");
+    }
+
+    void theAdapterGoesWithTheField()
+    {
+        test::installRecordingPlatform(QStringLiteral("nl_BE"));
+        clsqorGenLib lib;
+        auto *field = new QLineEdit;
+        QPointer<KeyFilterAdapter> adapter = KeyFilterAdapter::attachKeyPress(field, &lib, "C");
+        QCOMPARE(adapter->control()->field(), field);
+        delete field;
+        QVERIFY(adapter.isNull());
+    }
+};
+
+QTEST_MAIN(TestKeyFilterAdapter)
+#include "tst_keyfilteradapter.moc"

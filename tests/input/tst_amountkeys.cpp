@@ -1,0 +1,367 @@
+#include "host/grideditor.h"
+#include "host/textbox.h"
+#include "lib/clsqorgenlib.h"
+#include "runtime/conversion.h"
+#include "runtime/variant.h"
+
+#include "tests/common/errornumber.h"
+#include "tests/common/keysequence.h"
+#include "tests/common/recordingmachine.h"
+
+#include <QTest>
+
+using namespace qor;
+
+namespace {
+
+const QString calculatorTitle = QStringLiteral("qorSoft Calculator");
+const QString negativeRefused = QStringLiteral("Het resultaat kan niet worden ingevoegd, omdat het "
+                                               "invulvak geen negatieve waarde aanvaardt...");
+
+QString tooLong(int maxLength)
+{
+    return QStringLiteral("Het resultaat kan niet worden ingevoegd, omdat het invulvak maximaal %1 "
+                          "tekens aanvaardt...")
+        .arg(maxLength);
+}
+
+struct Outcome
+{
+    QList<int> results;
+    int beeps = 0;
+    QStringList prompts;
+    QStringList notes;
+};
+
+Outcome outcomeOf(const RecordingPlatform &machine, const QList<int> &results)
+{
+    Outcome outcome;
+    outcome.results = results;
+    for (const QVariant &shown : machine.shown()) {
+        const QVariantMap event = shown.toMap();
+        const QString kind = event.value("kind").toString();
+        if (kind == QLatin1String("beep"))
+            ++outcome.beeps;
+        else if (kind == QLatin1String("MsgBoxE")) {
+            // Every refusal of the calculator's result has the same title and buttons.
+            const bool calculatorBox = event.value("title").toString() == calculatorTitle
+                && event.value("buttons").toInt() == 48;
+            outcome.prompts.append(
+                calculatorBox ? event.value("prompt").toString() : QStringLiteral("another box"));
+        } else if (kind == QLatin1String("Note"))
+            outcome.notes.append(event.value("text").toString());
+    }
+    return outcome;
+}
+
+} // namespace
+
+// Key sequences typed into model fields through KeyGetal and KeyEuro, each
+// key applied as a host applies the returned code.
+class TestAmountKeys : public QObject
+{
+    Q_OBJECT
+
+    // The columns both handlers share.
+    static void addFieldColumns()
+    {
+        QTest::addColumn<QString>("locale");
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<int>("selStart");
+        QTest::addColumn<int>("selLength");
+        QTest::addColumn<int>("maxLength");
+        QTest::addColumn<QVariant>("decimals");
+        QTest::addColumn<bool>("negNumber");
+        QTest::addColumn<double>("startRegister");
+        QTest::addColumn<QVariantList>("answers");
+        QTest::addColumn<QString>("keys");
+        QTest::addColumn<QString>("expectedText");
+        QTest::addColumn<int>("expectedCaret");
+        QTest::addColumn<QString>("results");
+        QTest::addColumn<int>("beeps");
+        QTest::addColumn<QString>("prompt");
+    }
+
+private slots:
+    void keyGetal_data()
+    {
+        addFieldColumns();
+        QTest::addColumn<bool>("grid");
+        const QVariant two = 2;
+        const QVariant none = 0;
+        const QVariant missing = missingVariant();
+        const QVariantList noAnswers;
+        // clang-format off
+        QTest::newRow("digits and a comma") << "nl_BE" << "" << 0 << 0 << 0 << two << false << 0.0 << noAnswers << "12,34" << "12,34" << 5 << "49 50 44 51 52" << 0 << "" << false;
+        QTest::newRow("point becomes the comma") << "nl_BE" << "" << 0 << 0 << 0 << two << false << 0.0 << noAnswers << "12.3" << "12,3" << 4 << "49 50 44 51" << 0 << "" << false;
+        QTest::newRow("point on a point system") << "en_US" << "" << 0 << 0 << 0 << two << false << 0.0 << noAnswers << "12.3" << "12.3" << 4 << "49 50 46 51" << 0 << "" << false;
+        QTest::newRow("comma refused on a point system") << "en_US" << "" << 0 << 0 << 0 << two << false << 0.0 << noAnswers << "12,3" << "123" << 3 << "49 50 0 51" << 1 << "" << false;
+        QTest::newRow("third decimal refused") << "nl_BE" << "" << 0 << 0 << 0 << two << false << 0.0 << noAnswers << "1,234" << "1,23" << 4 << "49 44 50 51 0" << 1 << "" << false;
+        QTest::newRow("full decimals refuse the integer part too") << "nl_BE" << "12,34" << 0 << 0 << 0 << two << false << 0.0 << noAnswers << "5" << "12,34" << 0 << "0" << 1 << "" << false;
+        QTest::newRow("full decimals take backspace") << "nl_BE" << "12,34" << 5 << 0 << 0 << two << false << 0.0 << noAnswers << "{BS}5" << "12,35" << 5 << "8 53" << 0 << "" << false;
+        QTest::newRow("all selected lets a digit in") << "nl_BE" << "12,34" << 0 << 5 << 0 << two << false << 0.0 << noAnswers << "5" << "5" << 1 << "53" << 0 << "" << false;
+        QTest::newRow("part selected does not") << "nl_BE" << "12,34" << 3 << 2 << 0 << two << false << 0.0 << noAnswers << "5" << "12,34" << 3 << "0" << 1 << "" << false;
+        QTest::newRow("separator first writes 0 and the separator") << "nl_BE" << "" << 0 << 0 << 0 << two << false << 0.0 << noAnswers << ".5" << "0,5" << 3 << "0 53" << 0 << "" << false;
+        QTest::newRow("separator over a selection of all") << "en_US" << "12" << 0 << 2 << 0 << two << false << 0.0 << noAnswers << "," << "12" << 0 << "0" << 1 << "" << false;
+        QTest::newRow("point over a selection of all") << "en_US" << "12" << 0 << 2 << 0 << two << false << 0.0 << noAnswers << "." << "0." << 2 << "0" << 0 << "" << false;
+        QTest::newRow("second separator refused") << "nl_BE" << "1,2" << 3 << 0 << 0 << two << false << 0.0 << noAnswers << ",." << "1,2" << 3 << "0 0" << 2 << "" << false;
+        QTest::newRow("no decimals refuse enter and take backspace") << "nl_BE" << "12" << 2 << 0 << 0 << none << false << 0.0 << noAnswers << "{Enter}{BS}" << "1" << 1 << "0 8" << 1 << "" << false;
+        QTest::newRow("no decimals refuse both separators") << "nl_BE" << "12" << 2 << 0 << 0 << none << false << 0.0 << noAnswers << ",." << "12" << 2 << "0 0" << 2 << "" << false;
+        QTest::newRow("letters and quotes refused") << "nl_BE" << "" << 0 << 0 << 0 << two << false << 0.0 << noAnswers << "a'" << "" << 0 << "0 0" << 2 << "" << false;
+        QTest::newRow("codes outside the code page refused") << "nl_BE" << "" << 0 << 0 << 0 << two << false << 0.0 << noAnswers << "{-1}{0}{256}{32767}{-32768}" << "" << 0 << "0 0 0 0 0" << 5 << "" << false;
+        QTest::newRow("missing decimals take NbrDec 1") << "nl_BE" << "" << 0 << 0 << 0 << missing << false << 0.0 << noAnswers << "1,23" << "1,2" << 3 << "49 44 50 0" << 1 << "" << false;
+        QTest::newRow("decimals as numeric text") << "nl_BE" << "" << 0 << 0 << 0 << QVariant("1") << false << 0.0 << noAnswers << "1,23" << "1,2" << 3 << "49 44 50 0" << 1 << "" << false;
+        QTest::newRow("minus toggles the sign wherever the caret") << "nl_BE" << "12,50" << 1 << 0 << 0 << two << true << 0.0 << noAnswers << "-" << "-12,5" << 5 << "0" << 0 << "" << false;
+        QTest::newRow("minus twice gives the value back") << "nl_BE" << "12,50" << 1 << 0 << 0 << two << true << 0.0 << noAnswers << "--" << "12,5" << 4 << "0 0" << 0 << "" << false;
+        QTest::newRow("minus refused without negatives") << "nl_BE" << "12,50" << 5 << 0 << 0 << two << false << 0.0 << noAnswers << "-" << "12,50" << 5 << "0" << 1 << "" << false;
+        QTest::newRow("minus on an empty field") << "nl_BE" << "" << 0 << 0 << 0 << two << true << 0.0 << noAnswers << "-5" << "-5" << 2 << "0 53" << 0 << "" << false;
+        QTest::newRow("minus on blanks") << "nl_BE" << "  " << 2 << 0 << 0 << two << true << 0.0 << noAnswers << "-" << "-" << 1 << "0" << 0 << "" << false;
+        QTest::newRow("minus over a selection of all") << "nl_BE" << "12" << 0 << 2 << 0 << two << true << 0.0 << noAnswers << "-" << "-" << 1 << "0" << 0 << "" << false;
+        QTest::newRow("minus on a word gives 0") << "nl_BE" << "abc" << 3 << 0 << 0 << two << true << 0.0 << noAnswers << "-" << "0" << 1 << "0" << 0 << "" << false;
+        QTest::newRow("minus drops grouping") << "nl_BE" << "1.234,50" << 0 << 0 << 0 << two << true << 0.0 << noAnswers << "-" << "-1234,5" << 7 << "0" << 0 << "" << false;
+        QTest::newRow("calculator result rounded to the decimals") << "nl_BE" << "12" << 2 << 0 << 0 << two << false << 0.0 << QVariantList { 12.3456 } << "*" << "12,35" << 5 << "0" << 0 << "" << false;
+        QTest::newRow("rounding takes halves away from zero") << "nl_BE" << "" << 0 << 0 << 0 << two << true << 0.0 << QVariantList { -0.125 } << "*" << "-0,13" << 5 << "0" << 0 << "" << false;
+        QTest::newRow("whole result without decimals") << "en_US" << "100" << 0 << 0 << 0 << two << false << 0.0 << QVariantList { 121.0 } << "*" << "121" << 3 << "0" << 0 << "" << false;
+        QTest::newRow("no decimals round to whole") << "nl_BE" << "" << 0 << 0 << 0 << none << false << 0.0 << QVariantList { 2.5 } << "*" << "3" << 1 << "0" << 0 << "" << false;
+        QTest::newRow("calculator typed through") << "nl_BE" << "100" << 3 << 0 << 0 << two << false << 0.0 << QVariantList { QVariantMap { { "keys", "+5{Enter}{Enter}" } } } << "*" << "105" << 3 << "0" << 0 << "" << false;
+        QTest::newRow("calculator left with escape inserts the start") << "nl_BE" << "12,345" << 6 << 0 << 0 << two << false << 0.0 << QVariantList { QVariantMap { { "keys", "99{Esc}" } } } << "*" << "12,35" << 5 << "0" << 0 << "" << false;
+        QTest::newRow("percent inserts the register as it is") << "nl_BE" << "1" << 1 << 0 << 0 << two << false << 7.5 << noAnswers << "%" << "7,5" << 3 << "0" << 0 << "" << false;
+        QTest::newRow("negative result refused") << "nl_BE" << "1" << 1 << 0 << 0 << two << false << -5.0 << noAnswers << "%" << "1" << 1 << "0" << 0 << negativeRefused << false;
+        QTest::newRow("negative result taken") << "nl_BE" << "1" << 1 << 0 << 0 << two << true << -5.0 << noAnswers << "%" << "-5" << 2 << "0" << 0 << "" << false;
+        QTest::newRow("result longer than the field refused") << "nl_BE" << "1" << 1 << 0 << 6 << two << false << 1234.56 << noAnswers << "%" << "1" << 1 << "0" << 0 << tooLong(6) << false;
+        QTest::newRow("result as long as the field taken") << "nl_BE" << "1" << 1 << 0 << 7 << two << false << 1234.56 << noAnswers << "%" << "1234,56" << 7 << "0" << 0 << "" << false;
+        QTest::newRow("one character field") << "nl_BE" << "" << 0 << 0 << 1 << two << false << 12.0 << noAnswers << "%" << "" << 0 << "0" << 0 << tooLong(1) << false;
+        QTest::newRow("huge result in the plain number form") << "nl_BE" << "" << 0 << 0 << 0 << two << false << 1e20 << noAnswers << "%" << "1E+20" << 5 << "0" << 0 << "" << false;
+        QTest::newRow("huge decimals do not blow up") << "nl_BE" << "" << 0 << 0 << 0 << QVariant(2147483647) << false << 0.5 << noAnswers << "%1" << "0,51" << 4 << "0 49" << 0 << "" << false;
+        QTest::newRow("grid cell editor") << "nl_BE" << "" << 0 << 0 << 0 << two << false << 0.0 << noAnswers << "1.234" << "1,23" << 4 << "49 44 50 51 0" << 1 << "" << true;
+        QTest::newRow("grid caret follows the cell text") << "nl_BE" << "1" << 1 << 0 << 0 << two << false << 42.0 << noAnswers << "%" << "42" << 0 << "0" << 0 << "" << true;
+        QTest::newRow("grid maximum length") << "nl_BE" << "1" << 1 << 0 << 1 << two << false << 42.0 << noAnswers << "%" << "1" << 1 << "0" << 0 << tooLong(1) << true;
+        // clang-format on
+    }
+    void keyGetal()
+    {
+        QFETCH(QString, locale);
+        QFETCH(QString, text);
+        QFETCH(int, selStart);
+        QFETCH(int, selLength);
+        QFETCH(int, maxLength);
+        QFETCH(QVariant, decimals);
+        QFETCH(bool, negNumber);
+        QFETCH(double, startRegister);
+        QFETCH(QVariantList, answers);
+        QFETCH(QString, keys);
+        QFETCH(bool, grid);
+        auto machine = test::installRecordingPlatform(locale);
+        machine->setAnswers(answers);
+        clsqorGenLib lib;
+        lib.setProperty("NbrDec", 1);
+        modGenLib().calculatorRegister = startRegister;
+        TextBox textBox;
+        GridEditor editor;
+        QObject *field = grid ? static_cast<QObject *>(&editor) : &textBox;
+        const char *textName = grid ? "EditText" : "Text";
+        const char *startName = grid ? "EditSelStart" : "SelStart";
+        const RegionalSettings rs;
+        qor::setProperty(field, textName, text, rs);
+        qor::setProperty(field, startName, selStart, rs);
+        qor::setProperty(field, grid ? "EditSelLength" : "SelLength", selLength, rs);
+        qor::setProperty(field, grid ? "editMaxLength" : "MaxLength", maxLength, rs);
+        QList<int> results;
+        for (int code : test::keyCodes(keys)) {
+            short ka = short(code);
+            QVariant nbrDecimals = decimals;
+            bool flexgrid = grid;
+            const int result = lib.KeyGetal(field, ka, nbrDecimals, negNumber, flexgrid).toInt();
+            results.append(result);
+            if (isMissing(decimals))
+                QCOMPARE(nbrDecimals, QVariant(1));
+            test::typeIntoModel(field, result, grid);
+        }
+        const Outcome outcome = outcomeOf(*machine, results);
+        QTEST(getProperty(field, textName).toString(), "expectedText");
+        QTEST(getProperty(field, startName).toInt(), "expectedCaret");
+        QTEST(test::codesText(outcome.results), "results");
+        QTEST(outcome.beeps, "beeps");
+        QTEST(outcome.prompts.join(QLatin1Char('|')), "prompt");
+    }
+
+    void keyGetalWritesKeyCodes_data()
+    {
+        QTest::addColumn<QString>("locale");
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<int>("key");
+        QTest::addColumn<int>("result");
+        QTest::addColumn<int>("ka");
+        // clang-format off
+        QTest::newRow("point rewritten to the comma") << "nl_BE" << "1" << 46 << 44 << 44;
+        QTest::newRow("refused digit path clears the key") << "nl_BE" << "1,23" << 52 << 0 << 0;
+        QTest::newRow("calculator key cleared") << "nl_BE" << "1" << 37 << 0 << 0;
+        QTest::newRow("minus leaves the key") << "nl_BE" << "1" << 45 << 0 << 45;
+        // clang-format on
+    }
+    void keyGetalWritesKeyCodes()
+    {
+        QFETCH(QString, locale);
+        QFETCH(QString, text);
+        QFETCH(int, key);
+        test::installRecordingPlatform(locale);
+        clsqorGenLib lib;
+        TextBox box;
+        box.setText(text);
+        box.setSelStart(int(text.size()));
+        short ka = short(key);
+        QVariant decimals = 2;
+        bool negNumber = true;
+        bool flexgrid = false;
+        QTEST(lib.KeyGetal(&box, ka, decimals, negNumber, flexgrid).toInt(), "result");
+        QTEST(int(ka), "ka");
+    }
+
+    void digitTypedFlag()
+    {
+        test::installRecordingPlatform(QStringLiteral("nl_BE"));
+        clsqorGenLib lib;
+        TextBox box;
+        short ka = 'a';
+        lib.KeyGetal(&box, ka);
+        QVERIFY(!modGenLib().calculatorFlag);
+        ka = '7';
+        lib.KeyGetal(&box, ka);
+        QVERIFY(modGenLib().calculatorFlag);
+    }
+
+    void keyEuro_data()
+    {
+        addFieldColumns();
+        QTest::addColumn<int>("rate1");
+        QTest::addColumn<int>("rate2");
+        QTest::addColumn<QString>("note");
+        const QVariant missing = missingVariant();
+        const QVariantList noAnswers;
+        // clang-format off
+        QTest::newRow("two decimals by default") << "nl_BE" << "" << 0 << 0 << 0 << missing << false << 0.0 << noAnswers << "12.345" << "12,34" << 5 << "49 50 44 51 52 0" << 1 << "" << 0 << 0 << "";
+        QTest::newRow("decimals as text count as two") << "nl_BE" << "" << 0 << 0 << 0 << QVariant("abc") << false << 0.0 << noAnswers << "1,234" << "1,23" << 4 << "49 44 50 51 0" << 1 << "" << 0 << 0 << "";
+        QTest::newRow("empty decimals count as two") << "en_US" << "" << 0 << 0 << 0 << QVariant() << false << 0.0 << noAnswers << "1.234" << "1.23" << 4 << "49 46 50 51 0" << 1 << "" << 0 << 0 << "";
+        QTest::newRow("null decimals count as two") << "nl_BE" << "" << 0 << 0 << 0 << nullVariant() << false << 0.0 << noAnswers << "1,234" << "1,23" << 4 << "49 44 50 51 0" << 1 << "" << 0 << 0 << "";
+        QTest::newRow("no decimals") << "nl_BE" << "" << 0 << 0 << 0 << QVariant(0) << false << 0.0 << noAnswers << "1,2" << "12" << 2 << "49 0 50" << 1 << "" << 0 << 0 << "";
+        QTest::newRow("one rate applied at once") << "nl_BE" << "" << 0 << 0 << 0 << missing << false << 0.0 << noAnswers << "100%" << "121" << 3 << "49 48 48 0" << 0 << "" << 2100 << 0 << " + 21 % BTW toevoegen ";
+        QTest::newRow("second percent only beeps") << "nl_BE" << "" << 0 << 0 << 0 << missing << false << 0.0 << noAnswers << "100%%" << "121" << 3 << "49 48 48 0 0" << 1 << "" << 2100 << 0 << " + 21 % BTW toevoegen ";
+        QTest::newRow("percent before any digit beeps") << "nl_BE" << "100" << 3 << 0 << 0 << missing << false << 0.0 << noAnswers << "%" << "100" << 3 << "0" << 1 << "" << 2100 << 0 << "";
+        QTest::newRow("rate rounded with grouping read back") << "nl_BE" << "" << 0 << 0 << 0 << missing << false << 0.0 << noAnswers << "1234,5%" << "1493,75" << 7 << "49 50 51 52 44 53 0" << 0 << "" << 2100 << 0 << " + 21 % BTW toevoegen ";
+        QTest::newRow("rate with decimals in the note") << "nl_BE" << "" << 0 << 0 << 0 << missing << false << 0.0 << noAnswers << "10%" << "11,25" << 5 << "49 48 0" << 0 << "" << 1250 << 0 << " + 12,5 % BTW toevoegen ";
+        QTest::newRow("only the second rate") << "nl_BE" << "" << 0 << 0 << 0 << missing << false << 0.0 << noAnswers << "100%" << "106" << 3 << "49 48 48 0" << 0 << "" << 0 << 600 << " + 6 % BTW toevoegen ";
+        QTest::newRow("no rate adds nothing") << "nl_BE" << "" << 0 << 0 << 0 << missing << false << 0.0 << noAnswers << "100%" << "100" << 3 << "49 48 48 0" << 0 << "" << 0 << 0 << " + 0 % BTW toevoegen ";
+        QTest::newRow("negative rate lowers") << "nl_BE" << "" << 0 << 0 << 0 << missing << false << 0.0 << noAnswers << "100%" << "99" << 2 << "49 48 48 0" << 0 << "" << -100 << 0 << " + -1 % BTW toevoegen ";
+        QTest::newRow("huge rate") << "nl_BE" << "" << 0 << 0 << 0 << missing << false << 0.0 << noAnswers << "1%" << "214749,36" << 9 << "49 0" << 0 << "" << 2147483647 << 0 << " + 21474836,47 % BTW toevoegen ";
+        QTest::newRow("both rates open the calculator") << "nl_BE" << "" << 0 << 0 << 0 << missing << false << 0.0 << QVariantList { QVariantMap { { "keys", "{VAT2}{Insert}" } } } << "100%" << "106" << 3 << "49 48 48 0" << 0 << "" << 2100 << 600 << "";
+        QTest::newRow("star opens the calculator") << "nl_BE" << "2" << 1 << 0 << 0 << missing << false << 0.0 << QVariantList { QVariantMap { { "keys", "x3,3333={Enter}" } } } << "*" << "6,67" << 4 << "0" << 0 << "" << 0 << 0 << "";
+        QTest::newRow("negative refused") << "nl_BE" << "5" << 1 << 0 << 0 << missing << false << 0.0 << QVariantList { -5.0 } << "*" << "5" << 1 << "0" << 0 << negativeRefused << 0 << 0 << "";
+        QTest::newRow("too long refused") << "nl_BE" << "5" << 1 << 0 << 4 << missing << false << 0.0 << QVariantList { 1234.5 } << "*" << "5" << 1 << "0" << 0 << tooLong(4) << 0 << 0 << "";
+        QTest::newRow("whole numbers keep no decimals") << "en_US" << "5" << 1 << 0 << 0 << missing << false << 0.0 << QVariantList { 7.0 } << "*" << "7" << 1 << "0" << 0 << "" << 0 << 0 << "";
+        // clang-format on
+    }
+    void keyEuro()
+    {
+        QFETCH(QString, locale);
+        QFETCH(QString, text);
+        QFETCH(int, selStart);
+        QFETCH(int, selLength);
+        QFETCH(int, maxLength);
+        QFETCH(QVariant, decimals);
+        QFETCH(bool, negNumber);
+        QFETCH(QVariantList, answers);
+        QFETCH(QString, keys);
+        QFETCH(int, rate1);
+        QFETCH(int, rate2);
+        QFETCH(QString, note);
+        auto machine = test::installRecordingPlatform(locale);
+        machine->setAnswers(answers);
+        clsqorGenLib lib;
+        lib.setProperty("BtwTar1", rate1);
+        lib.setProperty("BtwTar2", rate2);
+        TextBox box;
+        box.setText(text);
+        box.setSelStart(selStart);
+        box.setSelLength(selLength);
+        box.setMaxLength(maxLength);
+        QList<int> results;
+        for (int code : test::keyCodes(keys)) {
+            short ka = short(code);
+            QVariant eurDecimals = decimals;
+            const int result = lib.KeyEuro(&box, ka, eurDecimals, negNumber).toInt();
+            results.append(result);
+            if (!isNumeric(decimals, RegionalSettings()) || isEmpty(decimals))
+                QCOMPARE(eurDecimals, QVariant::fromValue<short>(2));
+            test::typeIntoModel(&box, result);
+        }
+        const Outcome outcome = outcomeOf(*machine, results);
+        QTEST(box.text(), "expectedText");
+        QTEST(box.selStart(), "expectedCaret");
+        QCOMPARE(box.selLength(), 0);
+        QTEST(test::codesText(outcome.results), "results");
+        QTEST(outcome.beeps, "beeps");
+        QTEST(outcome.prompts.join(QLatin1Char('|')), "prompt");
+        QCOMPARE(outcome.notes.join(QLatin1Char('|')), note);
+        if (!note.isEmpty())
+            QVERIFY(!modGenLib().calculatorFlag);
+    }
+
+    void overflowingVatIsAnError()
+    {
+        test::installRecordingPlatform(QStringLiteral("nl_BE"));
+        clsqorGenLib lib;
+        lib.setProperty("BtwTar1", 2147483647);
+        TextBox box;
+        box.setText(QStringLiteral("1E+305"));
+        modGenLib().calculatorFlag = true;
+        short ka = '%';
+        QVariant decimals = 2;
+        bool negNumber = false;
+        QCOMPARE(test::errorNumber([&] { lib.KeyEuro(&box, ka, decimals, negNumber); }), 6);
+        QCOMPARE(box.text(), QStringLiteral("1E+305"));
+    }
+
+    void aControlWithoutTheNamesRaises438()
+    {
+        test::installRecordingPlatform(QStringLiteral("nl_BE"));
+        clsqorGenLib lib;
+        QObject plain;
+        short ka = '1';
+        QVariant decimals = 2;
+        bool negNumber = false;
+        bool flexgrid = false;
+        QCOMPARE(
+            test::errorNumber([&] { lib.KeyGetal(&plain, ka, decimals, negNumber, flexgrid); }),
+            438);
+        QCOMPARE(
+            test::errorNumber([&] { lib.KeyGetal(nullptr, ka, decimals, negNumber, flexgrid); }),
+            91);
+        TextBox box;
+        ka = '%';
+        flexgrid = true;
+        QCOMPARE(
+            test::errorNumber([&] { lib.KeyGetal(&box, ka, decimals, negNumber, flexgrid); }), 438);
+    }
+
+    void aMegabyteFieldStaysWhole()
+    {
+        test::installRecordingPlatform(QStringLiteral("nl_BE"));
+        clsqorGenLib lib;
+        TextBox box;
+        const QString huge = QStringLiteral("1,") + QString(1 << 20, QLatin1Char('9'));
+        box.setText(huge);
+        short ka = '5';
+        QVariant decimals = 2;
+        bool negNumber = true;
+        bool flexgrid = false;
+        // Only exactly full decimals refuse a digit: a longer text takes one more.
+        QCOMPARE(lib.KeyGetal(&box, ka, decimals, negNumber, flexgrid).toInt(), 53);
+        QCOMPARE(box.text(), huge);
+        ka = '-';
+        lib.KeyGetal(&box, ka, decimals, negNumber, flexgrid);
+        QCOMPARE(box.text(), QStringLiteral("-2"));
+    }
+};
+
+QTEST_GUILESS_MAIN(TestAmountKeys)
+#include "tst_amountkeys.moc"
