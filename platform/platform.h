@@ -67,19 +67,6 @@ struct QORGENLIB_EXPORT InputBoxEAnswer
     QString text; // untrimmed text of the field when OK was chosen
 };
 
-struct QORGENLIB_EXPORT CalculatorRequest
-{
-    double start = 0;
-    bool negativeAllowed = true;
-    int decimals = 2;
-};
-
-struct QORGENLIB_EXPORT CalculatorAnswer
-{
-    bool cancelled = false;
-    double result = 0; // the result register when the calculator closed
-};
-
 // The screen as the library measures it.
 struct QORGENLIB_EXPORT ScreenInfo
 {
