@@ -91,6 +91,19 @@ bool keyGoesBefore(int sortOrder, const SortKey &x, const SortKey &y)
     return isReversed(sortOrder) ? x.number > y.number : x.number < y.number;
 }
 
+// <0 when x goes before y, >0 when y goes before x, 0 when neither does.
+int compareKeys(int sortOrder, const SortKey &x, const SortKey &y)
+{
+    if (!isOrder(sortOrder) || x.null || y.null)
+        return 0;
+    int ascending = 0;
+    if (isTextOrder(sortOrder))
+        ascending = x.text.compare(y.text);
+    else
+        ascending = x.number < y.number ? -1 : (y.number < x.number ? 1 : 0);
+    return isReversed(sortOrder) ? -ascending : ascending;
+}
+
 QVariantList arrayElements(const QVariant &v)
 {
     if (!isArray(v))
@@ -142,11 +155,8 @@ public:
         std::sort(arrival.begin(), arrival.end(), [this](qsizetype a, qsizetype b) {
             const SortKey &ka = m_keys[size_t(m_placed[size_t(a)].rankOf)];
             const SortKey &kb = m_keys[size_t(m_placed[size_t(b)].rankOf)];
-            if (keyGoesBefore(m_order, ka, kb))
-                return true;
-            if (keyGoesBefore(m_order, kb, ka))
-                return false;
-            return a < b;
+            const int order = compareKeys(m_order, ka, kb);
+            return order != 0 ? order < 0 : a < b;
         });
         std::vector<qsizetype> sources;
         sources.reserve(arrival.size());
