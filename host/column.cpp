@@ -7,7 +7,28 @@ namespace qor {
 Column::Column(QObject *parent)
     : HostObject(parent)
     , m_headingStyle(new qor::HeadingStyle(this))
+    , m_valueItems(new ValueItems(this))
 { }
+
+QVariant Column::valueItems() const
+{
+    return QVariant::fromValue<QObject *>(m_valueItems);
+}
+
+void Column::setValueItems(const QVariant &items)
+{
+    m_valueItems->setElements(items);
+}
+
+bool Column::translate() const
+{
+    return m_valueItems->property("Translate").toBool();
+}
+
+void Column::setTranslate(bool on)
+{
+    m_valueItems->setProperty("Translate", on);
+}
 
 QString Column::elementClass(const QString &property) const
 {

@@ -3,6 +3,7 @@
 #include "qorgenlib_export.h"
 
 #include "host/hostobject.h"
+#include "host/valueitems.h"
 
 namespace qor {
 
@@ -26,13 +27,20 @@ class QORGENLIB_EXPORT Column : public HostObject
     Q_PROPERTY(qint32 HeadAlignment MEMBER m_headAlignment)
     Q_PROPERTY(QString Tag MEMBER m_tag)
     Q_PROPERTY(QObject *HeadingStyle MEMBER m_headingStyle)
-    Q_PROPERTY(QVariantList ValueItems MEMBER m_valueItems)
-    Q_PROPERTY(bool Translate MEMBER m_translate)
+    Q_PROPERTY(QVariant ValueItems READ valueItems WRITE setValueItems)
+    Q_PROPERTY(bool Translate READ translate WRITE setTranslate)
 
 public:
     explicit Column(QObject *parent = nullptr);
 
     QString elementClass(const QString &property) const override;
+
+    // The translation list (a ValueItems collection); an array of items replaces its elements.
+    QVariant valueItems() const;
+    void setValueItems(const QVariant &items);
+    // The list's Translate.
+    bool translate() const;
+    void setTranslate(bool on);
 
 private:
     qint32 m_colIndex = 0;
@@ -50,8 +58,7 @@ private:
     qint32 m_headAlignment = 0;
     QString m_tag;
     QObject *m_headingStyle = nullptr;
-    QVariantList m_valueItems;
-    bool m_translate = false;
+    ValueItems *m_valueItems = nullptr;
 };
 
 } // namespace qor

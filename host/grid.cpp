@@ -9,7 +9,18 @@ Grid::Grid(QObject *parent)
     , m_style(new GridStyle(this))
     , m_highlightRowStyle(new GridStyle(this))
     , m_selectedStyle(new GridStyle(this))
+    , m_columns(new Columns(this))
 { }
+
+QVariant Grid::columns() const
+{
+    return QVariant::fromValue<QObject *>(m_columns);
+}
+
+void Grid::setColumns(const QVariant &columns)
+{
+    m_columns->setElements(columns);
+}
 
 QString Grid::elementClass(const QString &property) const
 {

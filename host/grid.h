@@ -2,6 +2,7 @@
 
 #include "qorgenlib_export.h"
 
+#include "host/columns.h"
 #include "host/hostobject.h"
 
 namespace qor {
@@ -36,12 +37,16 @@ class QORGENLIB_EXPORT Grid : public HostObject
     Q_PROPERTY(QObject *Style MEMBER m_style)
     Q_PROPERTY(QObject *HighlightRowStyle MEMBER m_highlightRowStyle)
     Q_PROPERTY(QObject *SelectedStyle MEMBER m_selectedStyle)
-    Q_PROPERTY(QVariantList Columns MEMBER m_columns)
+    Q_PROPERTY(QVariant Columns READ columns WRITE setColumns)
 
 public:
     explicit Grid(QObject *parent = nullptr);
 
     QString elementClass(const QString &property) const override;
+
+    // The Columns collection; an array of columns replaces its elements.
+    QVariant columns() const;
+    void setColumns(const QVariant &columns);
 
 private:
     bool m_allowAddNew = false;
@@ -68,7 +73,7 @@ private:
     QObject *m_style = nullptr;
     QObject *m_highlightRowStyle = nullptr;
     QObject *m_selectedStyle = nullptr;
-    QVariantList m_columns;
+    Columns *m_columns = nullptr;
 };
 
 } // namespace qor

@@ -2,7 +2,9 @@
 
 #include "host/application.h"
 #include "host/calendar.h"
+#include "host/checkbox.h"
 #include "host/column.h"
+#include "host/columns.h"
 #include "host/combobox.h"
 #include "host/control.h"
 #include "host/datecontrol.h"
@@ -16,6 +18,7 @@
 #include "host/menuform.h"
 #include "host/textbox.h"
 #include "host/valueitem.h"
+#include "host/valueitems.h"
 
 #include <QMetaClassInfo>
 
@@ -49,11 +52,14 @@ const QList<HostClass> &hostClasses()
         hostClass<Calendar>(),
         hostClass<Grid>(),
         hostClass<Column>(),
+        hostClass<Columns>(),
+        hostClass<ValueItems>(),
         hostClass<GridStyle>(),
         hostClass<HeadingStyle>(),
         hostClass<ValueItem>(),
         hostClass<Frame>(),
         hostClass<Form>(),
+        hostClass<CheckBox>(),
         hostClass<MenuForm>(),
         hostClass<Control>(),
         hostClass<Application>(),

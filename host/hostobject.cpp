@@ -63,7 +63,15 @@ bool HostObject::isWritable(const QString &name) const
 QVariant HostObject::value(const QString &name) const
 {
     const QString resolved = resolveName(name);
-    return resolved.isEmpty() ? QVariant() : property(resolved.toUtf8().constData());
+    if (resolved.isEmpty())
+        return QVariant();
+    const QVariant held = property(resolved.toUtf8().constData());
+    if (held.metaType() == QMetaType::fromType<QObject *>()) {
+        if (auto *collection = qobject_cast<HostObject *>(held.value<QObject *>());
+            collection && collection->isCollection())
+            return collection->elements();
+    }
+    return held;
 }
 
 void HostObject::assign(const QString &name, const QVariant &value)

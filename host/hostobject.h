@@ -48,6 +48,12 @@ public:
     // (a column of a grid's Columns); empty when the property holds no objects.
     virtual QString elementClass(const QString &property) const;
 
+    // A collection (a grid's Columns, a column's ValueItems) shows itself to
+    // callers that read its owner as data, such as the bridge, as the array
+    // of its elements.
+    virtual bool isCollection() const { return false; }
+    virtual QVariantList elements() const { return {}; }
+
 protected:
     void recordCall(const QString &name, const QVariantList &args = {});
 

@@ -3,6 +3,10 @@
 #include "calculator/showcalculator.h"
 #include "calculator/vatrates.h"
 #include "input/amountkeys.h"
+#include "grid/gridsetup.h"
+#include "grid/listselection.h"
+#include "grid/sortarray.h"
+#include "grid/translationtables.h"
 #include "input/amounts.h"
 #include "input/keypress.h"
 #include "input/keyspin.h"
@@ -275,6 +279,55 @@ double clsqorGenLib::ShowCalculator(double Value)
 // End of keystroke handlers, the calculator and VAT
 
 // Grids, lists and sorting
+
+void clsqorGenLib::SetDBGridSize(QObject *DBGrid, QObject *Frame, bool FetchRowStyle)
+{
+    setDBGridSize(DBGrid, Frame, FetchRowStyle, m_gridWidths);
+}
+
+void clsqorGenLib::SetDBGridCol(QObject *DBGrid, short ColIndex, const QString &DataField,
+    const QString &Caption, qint32 Alignment, qint32 ColWidth, bool Visible,
+    const QString &NumberFormat, bool Merge, bool FetchStyle, bool AllowColSizing)
+{
+    setDBGridCol(DBGrid,
+        { ColIndex, DataField, Caption, Alignment, ColWidth, Visible, NumberFormat, Merge,
+            FetchStyle, AllowColSizing },
+        m_gridWidths);
+}
+
+void clsqorGenLib::SetDBGridIcon(
+    QObject *DBGrid, short ColIndex, const QString &ForceState, const QString &OrderColumn)
+{
+    setDBGridIcon(DBGrid, ColIndex, ForceState, OrderColumn);
+}
+
+void clsqorGenLib::SetDBGridTranslation(QObject *grd, qorGenLib::TranslateEnum translateType,
+    short col, qint32 CrossValue, bool TypeADO)
+{
+    setDBGridTranslation(grd, translateType, col, CrossValue, TypeADO, m_Offset);
+}
+
+bool clsqorGenLib::SetListIndex(QObject *ListComboCTL, qint32 ItemData, const QString &Text,
+    qorGenLib::NotFoundIndexType NotFoundSetIndex)
+{
+    return setListIndex(ListComboCTL, ItemData, Text, NotFoundSetIndex);
+}
+
+bool clsqorGenLib::DataChange(QObject *FRM, bool Reset)
+{
+    return m_DataCH = dataChange(FRM, Reset, m_vbSplit);
+}
+
+void clsqorGenLib::SortArray(
+    QVariant &ArrayName, qorGenLib::OstSortOrder SortOrder, QVariant &RefArrayName)
+{
+    sortArray(ArrayName, SortOrder, &RefArrayName, m_Offset);
+}
+
+void clsqorGenLib::SortArray(QVariant &ArrayName, qorGenLib::OstSortOrder SortOrder)
+{
+    sortArray(ArrayName, SortOrder, nullptr, m_Offset);
+}
 
 // End of grids, lists and sorting
 

@@ -2,6 +2,7 @@
 
 #include "qorgenlib_export.h"
 
+#include "grid/gridcolumnwidths.h"
 #include "lib/frame/qorenums.h"
 
 #include <QObject>
@@ -153,6 +154,39 @@ public:
     // End of keystroke handlers, the calculator and VAT.
 
     // Grids, lists and sorting.
+    Q_CLASSINFO("SetDBGridSize", "{\"FetchRowStyle\": false}")
+    Q_CLASSINFO("SetDBGridCol",
+        "{\"Visible\": true, \"NumberFormat\": \"\", \"Merge\": false, \"FetchStyle\": false, "
+        "\"AllowColSizing\": false}")
+    Q_CLASSINFO("SetDBGridIcon", "{\"ForceState\": \"\", \"OrderColumn\": \"\"}")
+    Q_CLASSINFO("SetDBGridTranslation", "{\"CrossValue\": -1, \"TypeADO\": false}")
+    Q_CLASSINFO("SetListIndex", "{\"ItemData\": -9999, \"Text\": \"\", \"NotFoundSetIndex\": -1}")
+    Q_CLASSINFO("DataChange", "{\"Reset\": false}")
+    Q_CLASSINFO("SortArray", "{\"SortOrder\": 3, \"RefArrayName\": null}")
+    Q_INVOKABLE void SetDBGridSize(QObject *DBGrid, QObject *Frame, bool FetchRowStyle = false);
+    Q_INVOKABLE void SetDBGridCol(QObject *DBGrid, short ColIndex, const QString &DataField,
+        const QString &Caption, qint32 Alignment, qint32 ColWidth, bool Visible = true,
+        const QString &NumberFormat = QString(), bool Merge = false, bool FetchStyle = false,
+        bool AllowColSizing = false);
+    Q_INVOKABLE void SetDBGridIcon(QObject *DBGrid, short ColIndex,
+        const QString &ForceState = QString(), const QString &OrderColumn = QString());
+    Q_INVOKABLE void SetDBGridTranslation(QObject *grd, qorGenLib::TranslateEnum translateType,
+        short col, qint32 CrossValue = -1, bool TypeADO = false);
+    Q_INVOKABLE bool SetListIndex(QObject *ListComboCTL, qint32 ItemData = -9999,
+        const QString &Text = QString(),
+        qorGenLib::NotFoundIndexType NotFoundSetIndex = qorGenLib::SetListIndexMinusOne);
+    Q_INVOKABLE bool DataChange(QObject *FRM, bool Reset = false);
+    // Both arrays are sorted in place; C++ leaves out the companion through the
+    // overload below, which is not published.
+    Q_INVOKABLE void SortArray(
+        QVariant &ArrayName, qorGenLib::OstSortOrder SortOrder, QVariant &RefArrayName);
+    void SortArray(QVariant &ArrayName, qorGenLib::OstSortOrder SortOrder = qorGenLib::soAlphabetic);
+
+private:
+    // The column widths of the grid being set up, carried from call to call.
+    qor::GridColumnWidths m_gridWidths;
+
+public:
     // End of grids, lists and sorting.
 
     // Desktop and system services.

@@ -18,6 +18,12 @@ cmake -S "$source/examples/consumer" -B "$work/cmake" -G Ninja -DCMAKE_PREFIX_PA
 cmake --build "$work/cmake" >/dev/null
 LD_LIBRARY_PATH="$libdir" "$work/cmake/consumer"
 
+echo "== the installed headers need nothing that is not installed"
+include="$prefix/include"
+find "$include/qorgenlib" -name '*.h' | sort | sed "s|^$include/|#include <|; s|\$|>|" \
+  | c++ -std=c++20 -fPIC -fsyntax-only -x c++ - -I"$include" -I"$include/qorgenlib" \
+      $(pkg-config --cflags Qt6Widgets Qt6Multimedia)
+
 echo "== pkg-config"
 export PKG_CONFIG_PATH="$libdir/pkgconfig"
 c++ -std=c++20 -fPIC "$source/examples/consumer/main.cpp" -o "$work/consumer-pc" \

@@ -1,0 +1,33 @@
+#pragma once
+
+#include "qorgenlib_export.h"
+
+#include <QAbstractSpinBox>
+#include <QObject>
+#include <QPointer>
+#include <QVariant>
+
+namespace qor {
+
+// Gives a QSpinBox or QDoubleSpinBox the names of an up-down field: Text as
+// shown and Value as a number (Long for a QSpinBox, Double otherwise).
+class QORGENLIB_WIDGETS_EXPORT SpinBoxAdapter : public QObject
+{
+    Q_OBJECT
+    Q_PROPERTY(QString Text READ text)
+    Q_PROPERTY(QVariant Value READ value WRITE setValue)
+
+public:
+    explicit SpinBoxAdapter(QAbstractSpinBox *box, QObject *parent = nullptr);
+
+    QString text() const;
+    QVariant value() const;
+    void setValue(const QVariant &value);
+
+private:
+    QAbstractSpinBox *box() const;
+
+    QPointer<QAbstractSpinBox> m_box;
+};
+
+} // namespace qor

@@ -1,0 +1,368 @@
+#include "grid/gridpicture.h"
+#include "gridfixture.h"
+#include "lib/clsqorgenlib.h"
+#include "tests/common/errornumber.h"
+#include "tests/common/recordingmachine.h"
+
+#include <QtTest>
+
+using namespace qor;
+using namespace qor::test;
+
+namespace {
+
+// One SetDBGridCol call written as "index:width", "index:width:hidden".
+struct ColumnCall
+{
+    short index;
+    qint32 width;
+    bool visible;
+};
+
+QList<ColumnCall> columnCalls(const QString &spec)
+{
+    QList<ColumnCall> calls;
+    for (const QString &call : spec.split(QLatin1Char(','), Qt::SkipEmptyParts)) {
+        const QStringList parts = call.split(QLatin1Char(':'));
+        calls.append({ short(parts.at(0).toInt()), parts.at(1).toInt(), parts.size() < 3 });
+    }
+    return calls;
+}
+
+void defineColumns(clsqorGenLib &lib, Grid &grid, const QString &spec)
+{
+    for (const ColumnCall &call : columnCalls(spec)) {
+        lib.SetDBGridCol(&grid, call.index, QStringLiteral("F%1").arg(call.index),
+            QStringLiteral("C%1").arg(call.index), 0, call.width, call.visible);
+    }
+}
+
+// A grid already set up in a 6045 x 3130 frame: 6000 wide.
+void setUp(clsqorGenLib &lib, Grid &grid, Frame &frame)
+{
+    frame.assign(QStringLiteral("Width"), 6045);
+    frame.assign(QStringLiteral("Height"), 3130);
+    lib.SetDBGridSize(&grid, &frame);
+}
+
+qint32 pictureOf(QObject *column)
+{
+    const QVariant picture = getProperty(child(column, "HeadingStyle"), "ForegroundPicture");
+    return picture.isValid() ? picture.value<GridPicture>().resourceId : 0;
+}
+
+} // namespace
+
+class TestGridSetup : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init() { installRecordingPlatform(); }
+
+    void gridFitsTheFrameInWholeRows_data()
+    {
+        QTest::addColumn<double>("frameWidth");
+        QTest::addColumn<double>("frameHeight");
+        QTest::addColumn<double>("rowHeight");
+        QTest::addColumn<double>("gridWidth");
+        QTest::addColumn<double>("gridHeight");
+        QTest::addColumn<double>("newFrameHeight");
+        QTest::addColumn<int>("error");
+
+        QTest::newRow("grid 2000 high, rows of 225")
+            << 6045.0 << 2130.0 << 225.0 << 6000.0 << 1875.0 << 1995.0 << 0;
+        QTest::newRow("rows fit exactly")
+            << 6045.0 << 2220.0 << 225.0 << 6000.0 << 2100.0 << 2220.0 << 0;
+        QTest::newRow("one twip more than whole rows")
+            << 6045.0 << 2221.0 << 225.0 << 6000.0 << 2100.0 << 2220.0 << 0;
+        QTest::newRow("grid lower than the heading band")
+            << 1000.0 << 300.0 << 225.0 << 955.0 << 300.0 << 420.0 << 0;
+        QTest::newRow("row height rounded half to even")
+            << 6045.0 << 2130.0 << 224.5 << 6000.0 << 1868.0 << 1988.0 << 0;
+        QTest::newRow("fractional grid height rounded for Mod")
+            << 6045.0 << 2130.4 << 225.0 << 6000.0 << 1875.4 << 1995.4 << 0;
+        QTest::newRow("empty frame") << 0.0 << 0.0 << 225.0 << -45.0 << 75.0 << 195.0 << 0;
+        QTest::newRow("row height 0") << 6045.0 << 2130.0 << 0.0 << 6000.0 << 2000.0 << 2130.0
+                                      << int(RuntimeError::DivisionByZero);
+        QTest::newRow("row height below a half") << 6045.0 << 2130.0 << 0.4 << 6000.0 << 2000.0
+                                                 << 2130.0 << int(RuntimeError::DivisionByZero);
+    }
+
+    void gridFitsTheFrameInWholeRows()
+    {
+        QFETCH(double, frameWidth);
+        QFETCH(double, frameHeight);
+        QFETCH(double, rowHeight);
+        QFETCH(double, gridWidth);
+        QFETCH(double, gridHeight);
+        QFETCH(double, newFrameHeight);
+        QFETCH(int, error);
+        clsqorGenLib lib;
+        Grid grid;
+        Frame frame;
+        frame.assign(QStringLiteral("Width"), frameWidth);
+        frame.assign(QStringLiteral("Height"), frameHeight);
+        grid.assign(QStringLiteral("RowHeight"), rowHeight);
+        QCOMPARE(errorNumber([&] { lib.SetDBGridSize(&grid, &frame); }), error);
+        QCOMPARE(grid.value("Left").toDouble(), 20.0);
+        QCOMPARE(grid.value("Top").toDouble(), 100.0);
+        QCOMPARE(grid.value("Width").toDouble(), gridWidth);
+        QCOMPARE(grid.value("Height").toFloat(), float(gridHeight));
+        QCOMPARE(frame.value("Height").toFloat(), float(newFrameHeight));
+    }
+
+    void sizeClearsTheGridAndSetsTheHouseStyle()
+    {
+        clsqorGenLib lib;
+        Grid grid;
+        Frame frame;
+        frame.assign(QStringLiteral("BackColor"), 0x123456);
+        grid.assign(QStringLiteral("AllowUpdate"), true);
+        for (qint32 i = 0; i < 3; ++i)
+            callOperation(child(&grid, "Columns"), "Add", { i });
+        lib.SetDBGridSize(&grid, &frame, true);
+        QCOMPARE(columnCount(&grid), 0);
+        const QVariantList calls = qobject_cast<HostObject *>(child(&grid, "Columns"))->calls();
+        QCOMPARE(calls.size(), 6);
+        QCOMPARE(calls.last().toMap().value("args").toList(), QVariantList { 0 });
+        const QVariantMap expected { { "AllowAddNew", false }, { "AllowDelete", false },
+            { "AllowUpdate", false }, { "AllowColSelect", false },
+            { "DeadAreaBackColor", 0x123456 }, { "BorderStyle", 0 }, { "HeadLines", 1.29 },
+            { "RecordSelectors", false }, { "PartialRightColumn", true }, { "MultipleLines", 0 },
+            { "MarqueeStyle", 3 }, { "MultiSelect", 1 }, { "ScrollBars", 2 },
+            { "RowDividerStyle", 6 }, { "FetchRowStyle", true } };
+        for (auto it = expected.begin(); it != expected.end(); ++it)
+            QVERIFY2(grid.value(it.key()) == it.value(), qPrintable(it.key()));
+        QObject *style = child(&grid, "Style");
+        QCOMPARE(getProperty(style, "BackColor").toInt(), 0xFFFFFF);
+        QCOMPARE(getProperty(style, "ForeColor").toInt(), 0);
+        QCOMPARE(getProperty(style, "WrapText").toBool(), true);
+        for (const char *name : { "HighlightRowStyle", "SelectedStyle" }) {
+            QCOMPARE(getProperty(child(&grid, name), "BackColor").toInt(), qint32(0x8000000D));
+            QCOMPARE(getProperty(child(&grid, name), "ForeColor").toInt(), 0xFFFFFF);
+        }
+    }
+
+    void lastVisibleColumnTakesTheRest_data()
+    {
+        QTest::addColumn<QString>("calls");
+        QTest::addColumn<QString>("widths");
+
+        QTest::newRow("three visible columns") << "0:1000,1:1500,2:800"
+                                               << "1000,1500,3260";
+        QTest::newRow("one column fills the grid") << "0:1000"
+                                                   << "5760";
+        QTest::newRow("hidden column keeps the rest at its time") << "0:1000,1:700:h,2:800"
+                                                                  << "1000,5760,4760";
+        QTest::newRow("hidden last column") << "0:1000,1:700:h"
+                                            << "5760,5760";
+        QTest::newRow("width 0 adds nothing") << "0:0,1:1500"
+                                              << "0,5760";
+        QTest::newRow("negative width adds nothing") << "0:-500,1:1500"
+                                                     << "-500,5760";
+        QTest::newRow("width 1 counts") << "0:1,1:1500"
+                                        << "1,5759";
+        QTest::newRow("gap adds the columns before") << "3:1000"
+                                                     << "0,0,0,5760";
+        QTest::newRow("falling index keeps the later width") << "2:1000,1:500"
+                                                             << "0,5760,5760";
+        QTest::newRow("same column twice") << "0:1000,0:2000,1:500"
+                                           << "2000,3760";
+        QTest::newRow("columns wider than the grid") << "0:4000,1:4000,2:100"
+                                                     << "4000,4000,-2240";
+    }
+
+    void lastVisibleColumnTakesTheRest()
+    {
+        QFETCH(QString, calls);
+        QFETCH(QString, widths);
+        clsqorGenLib lib;
+        Grid grid;
+        Frame frame;
+        setUp(lib, grid, frame);
+        defineColumns(lib, grid, calls);
+        QCOMPARE(columnWidths(&grid), widths);
+    }
+
+    void widthsCarryOverToTheNextGridUntilSize()
+    {
+        clsqorGenLib lib;
+        Grid first, second;
+        Frame frame;
+        setUp(lib, first, frame);
+        defineColumns(lib, first, "0:1000,1:1500");
+        second.assign(QStringLiteral("Width"), 6000);
+        defineColumns(lib, second, "2:700,3:100");
+        // Column 1 of the first grid was still the last: its width lands on the
+        // second grid, and the first grid's 1000 still counts.
+        QCOMPARE(columnWidths(&second), QStringLiteral("0,1500,700,2560"));
+        Frame other;
+        setUp(lib, second, other);
+        defineColumns(lib, second, "0:700,1:100");
+        QCOMPARE(columnWidths(&second), QStringLiteral("700,5060"));
+    }
+
+    void columnProperties_data()
+    {
+        QTest::addColumn<qint32>("alignment");
+        QTest::addColumn<bool>("merge");
+        QTest::addColumn<qint32>("headAlignment");
+
+        QTest::newRow("left: heading left") << 0 << false << 0;
+        QTest::newRow("right: heading centred") << 1 << false << 2;
+        QTest::newRow("centre: heading centred") << 2 << true << 2;
+        QTest::newRow("unknown alignment: heading centred") << 7 << false << 2;
+    }
+
+    void columnProperties()
+    {
+        QFETCH(qint32, alignment);
+        QFETCH(bool, merge);
+        QFETCH(qint32, headAlignment);
+        clsqorGenLib lib;
+        Grid grid;
+        Frame frame;
+        setUp(lib, grid, frame);
+        lib.SetDBGridCol(
+            &grid, 0, "Naam", "Klant", alignment, 1200, false, "#,##0", merge, true, true);
+        QObject *column = columnOf(&grid, 0);
+        QCOMPARE(getProperty(column, "DataField").toString(), QStringLiteral("Naam"));
+        QCOMPARE(getProperty(column, "Caption").toString(), QStringLiteral("Klant"));
+        QCOMPARE(getProperty(column, "Alignment").toInt(), alignment);
+        QCOMPARE(getProperty(column, "NumberFormat").toString(), QStringLiteral("#,##0"));
+        QCOMPARE(getProperty(column, "Visible").toBool(), false);
+        QCOMPARE(getProperty(column, "Merge").toBool(), merge);
+        QCOMPARE(getProperty(column, "AllowFocus").toBool(), !merge);
+        QCOMPARE(getProperty(column, "AllowSizing").toBool(), true);
+        QCOMPARE(getProperty(column, "FetchStyle").toBool(), true);
+        QCOMPARE(getProperty(column, "DividerStyle").toInt(), 6);
+        QCOMPARE(getProperty(column, "HeadAlignment").toInt(), headAlignment);
+        QCOMPARE(getProperty(child(column, "HeadingStyle"), "EllipsisText").toBool(), true);
+    }
+
+    void columnIndexAtTheEdges_data()
+    {
+        QTest::addColumn<QVariant>("colIndex");
+        QTest::addColumn<int>("error");
+        QTest::addColumn<int>("columns");
+
+        QTest::newRow("-1: no such column")
+            << QVariant(-1) << int(RuntimeError::SubscriptOutOfRange) << 0;
+        QTest::newRow("Integer maximum overflows the count")
+            << QVariant(32767) << int(RuntimeError::Overflow) << 32768;
+        QTest::newRow("beyond Integer") << QVariant(32768) << int(RuntimeError::Overflow) << 0;
+        QTest::newRow("below Integer") << QVariant(-32769) << int(RuntimeError::Overflow) << 0;
+        QTest::newRow("text index") << QVariant("x") << int(RuntimeError::TypeMismatch) << 0;
+    }
+
+    void columnIndexAtTheEdges()
+    {
+        QFETCH(QVariant, colIndex);
+        QFETCH(int, error);
+        QFETCH(int, columns);
+        clsqorGenLib lib;
+        Grid grid;
+        const QVariantList args { QVariant::fromValue<QObject *>(&grid), colIndex, "F", "C", 0,
+            100 };
+        QCOMPARE(errorNumber([&] { lib.Invoke("SetDBGridCol", args); }), error);
+        QCOMPARE(columnCount(&grid), columns);
+    }
+
+    void iconShowsTheSortDirection_data()
+    {
+        QTest::addColumn<QStringList>("clicks"); // "column" or "column|force|orderColumn"
+        QTest::addColumn<QStringList>("tags");
+        QTest::addColumn<QList<qint32>>("pictures");
+        QTest::addColumn<QString>("gridTag");
+
+        QTest::newRow("first click ascending")
+            << QStringList { "1" } << QStringList { "", " ASC", "" } << QList<qint32> { 0, 1000, 0 }
+            << "old";
+        QTest::newRow("second click descending")
+            << QStringList { "1", "1" } << QStringList { "", " DESC", "" }
+            << QList<qint32> { 0, 1001, 0 } << "old";
+        QTest::newRow("third click ascending again")
+            << QStringList { "1", "1", "1" } << QStringList { "", " ASC", "" }
+            << QList<qint32> { 0, 1000, 0 } << "old";
+        QTest::newRow("another column clears the first")
+            << QStringList { "1", "2" } << QStringList { "", "", " ASC" }
+            << QList<qint32> { 0, 0, 1000 } << "old";
+        QTest::newRow("forced descending writes the clause")
+            << QStringList { "0|DESC|Naam" } << QStringList { " DESC", "", "" }
+            << QList<qint32> { 1001, 0, 0 } << "Naam DESC";
+        QTest::newRow("forced state is trimmed")
+            << QStringList { "0|  DESC |Naam" } << QStringList { " DESC", "", "" }
+            << QList<qint32> { 1001, 0, 0 } << "Naam DESC";
+        QTest::newRow("forced state is case-sensitive")
+            << QStringList { "0|desc|Naam" } << QStringList { " ASC", "", "" }
+            << QList<qint32> { 1000, 0, 0 } << "Naam ASC";
+        QTest::newRow("forced anything else ascends")
+            << QStringList { "2|X|Datum" } << QStringList { "", "", " ASC" }
+            << QList<qint32> { 0, 0, 1000 } << "Datum ASC";
+        QTest::newRow("forced then toggled")
+            << QStringList { "2|ASC|Datum", "2" } << QStringList { "", "", " DESC" }
+            << QList<qint32> { 0, 0, 1001 } << "Datum ASC";
+        QTest::newRow("no such column clears all")
+            << QStringList { "1", "7" } << QStringList { "", "", "" } << QList<qint32> { 0, 0, 0 }
+            << "old";
+        QTest::newRow("forced on no such column")
+            << QStringList { "1", "9|DESC|Naam" } << QStringList { "", "", "" }
+            << QList<qint32> { 0, 0, 0 } << "old";
+    }
+
+    void iconShowsTheSortDirection()
+    {
+        QFETCH(QStringList, clicks);
+        QFETCH(QStringList, tags);
+        QFETCH(QList<qint32>, pictures);
+        QFETCH(QString, gridTag);
+        clsqorGenLib lib;
+        Grid grid;
+        Frame frame;
+        setUp(lib, grid, frame);
+        defineColumns(lib, grid, "0:1000,1:1000,2:1000");
+        grid.assign(QStringLiteral("Tag"), QStringLiteral("old"));
+        for (const QString &click : clicks) {
+            const QStringList parts = click.split(QLatin1Char('|'));
+            lib.SetDBGridIcon(&grid, short(parts.at(0).toInt()), parts.value(1), parts.value(2));
+        }
+        for (qint32 i = 0; i < 3; ++i) {
+            QCOMPARE(getProperty(columnOf(&grid, i), "Tag").toString(), tags.at(i));
+            QCOMPARE(pictureOf(columnOf(&grid, i)), pictures.at(i));
+            QObject *heading = child(columnOf(&grid, i), "HeadingStyle");
+            QCOMPARE(getProperty(heading, "ForegroundPicturePosition").toInt(), 1);
+            QCOMPARE(getProperty(heading, "TransparentForegroundPicture").toBool(), true);
+        }
+        QCOMPARE(grid.value("Tag").toString(), gridTag);
+    }
+
+    void headingPicturesAreTenBySixteenBitmaps()
+    {
+        for (auto id : { GridPicture::SortAscending, GridPicture::SortDescending }) {
+            const QByteArray bmp = GridPicture::of(id).bytes();
+            QVERIFY(bmp.startsWith("BM"));
+            QCOMPARE(qFromLittleEndian<qint32>(bmp.constData() + 18), 10);
+            QCOMPARE(qFromLittleEndian<qint32>(bmp.constData() + 22), 16);
+            QCOMPARE(qFromLittleEndian<quint16>(bmp.constData() + 28), quint16(4));
+        }
+        QVERIFY(GridPicture::of(GridPicture::SortAscending).bytes()
+            != GridPicture::of(GridPicture::SortDescending).bytes());
+    }
+
+    void wrongObjectsRaiseTheHostError()
+    {
+        clsqorGenLib lib;
+        Frame frame;
+        HostObject bag;
+        QCOMPARE(errorNumber([&] { lib.SetDBGridSize(nullptr, &frame); }),
+            int(RuntimeError::ObjectNotSet));
+        QCOMPARE(errorNumber([&] { lib.SetDBGridSize(&bag, &frame); }),
+            int(RuntimeError::NotSupportedByObject));
+        QCOMPARE(errorNumber([&] { lib.SetDBGridIcon(&frame, 0); }),
+            int(RuntimeError::NotSupportedByObject));
+    }
+};
+
+QTEST_GUILESS_MAIN(TestGridSetup)
+#include "tst_gridsetup.moc"

@@ -1,0 +1,347 @@
+#include "grid/gridpicture.h"
+#include "host/qt/comboboxadapter.h"
+#include "host/qt/formadapter.h"
+#include "host/qt/frameadapter.h"
+#include "host/qt/listwidgetadapter.h"
+#include "host/qt/tableviewadapter.h"
+#include "host/qt/translationdelegate.h"
+#include "lib/clsqorgenlib.h"
+#include "runtime/callbyname.h"
+#include "tests/common/errornumber.h"
+#include "tests/common/recordingmachine.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QDateEdit>
+#include <QGroupBox>
+#include <QHeaderView>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QSpinBox>
+#include <QStandardItemModel>
+#include <QTableView>
+#include <QVBoxLayout>
+#include <QtTest>
+
+using namespace qor;
+using namespace qor::test;
+
+namespace {
+
+// An invoice list: a frame of 6045 x 3135 twips (403 x 209 pixels at 15 twips a
+// pixel) around a table of invoices with a number, a customer, a payment code
+// and a language.
+struct InvoiceList
+{
+    QGroupBox frame;
+    QTableView *table = new QTableView(&frame);
+    QStandardItemModel *model = new QStandardItemModel(&frame);
+    TableViewAdapter grid { table };
+    FrameAdapter frameAdapter { &frame };
+
+    InvoiceList()
+    {
+        frame.setTitle(QStringLiteral("Facturen"));
+        frame.resize(403, 209);
+        table->setModel(model);
+        const QList<QList<QVariant>> rows { { 1001, "Janssens", 1, 0 },
+            { 1002, "Peeters", 4, 10000 }, { 1003, "Maes", 99, 20000 }, { 1004, "Claes", 10, 0 } };
+        model->setRowCount(int(rows.size()));
+        model->setColumnCount(4);
+        for (int r = 0; r < rows.size(); ++r) {
+            for (int c = 0; c < 4; ++c)
+                model->setData(model->index(r, c), rows[r][c]);
+        }
+        grid.setRowHeight(225);
+    }
+
+    // The standard set-up of the list, as a host program makes it.
+    void setUp(clsqorGenLib &lib)
+    {
+        lib.SetDBGridSize(&grid, &frameAdapter);
+        // SetDBGridSize cleared the columns: the model rows are back with new columns.
+        lib.SetDBGridCol(&grid, 0, "FactNr", "Nummer", 1, 1000);
+        lib.SetDBGridCol(&grid, 1, "Klant", "Klant", 0, 1500);
+        lib.SetDBGridCol(&grid, 2, "Betaling", "Betaling", 2, 800);
+        lib.SetDBGridCol(&grid, 3, "Taal", "Taal", 0, 700, false);
+        const QList<QList<QVariant>> rows { { 1001, "Janssens", 1, 0 },
+            { 1002, "Peeters", 4, 10000 }, { 1003, "Maes", 99, 20000 }, { 1004, "Claes", 10, 0 } };
+        for (int r = 0; r < rows.size(); ++r) {
+            for (int c = 0; c < 4; ++c)
+                model->setData(model->index(r, c), rows[r][c]);
+        }
+    }
+
+    QString shown(int row, int column) const
+    {
+        auto *delegate = qobject_cast<QStyledItemDelegate *>(table->itemDelegateForColumn(column));
+        return delegate->displayText(model->index(row, column).data(), QLocale::c());
+    }
+};
+
+QObject *column(TableViewAdapter &grid, qint32 index)
+{
+    return callOperation(grid.columns(), "Item", { index }).value<QObject *>();
+}
+
+} // namespace
+
+class TestGridWidgets : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init() { installRecordingPlatform(QStringLiteral("nl_BE")); }
+
+    void sizeFitsTheTableIntoItsFrameInPixels()
+    {
+        clsqorGenLib lib;
+        InvoiceList list;
+        lib.SetDBGridSize(&list.grid, &list.frameAdapter);
+        QCOMPARE(list.model->columnCount(), 0);
+        QCOMPARE(list.table->geometry(), QRect(1, 7, 400, 200));
+        // 3005 twips is 200 pixels (3000); (3000 - 290) Mod 225 = 10 takes it to 2990,
+        // 199 pixels; 10 more is 200 pixels again; the frame 3120 twips, 208 pixels.
+        QCOMPARE(list.grid.height(), 3000.0f);
+        QCOMPARE(list.frame.height(), 208);
+        QCOMPARE(list.table->verticalHeader()->isVisible(), false);
+        QCOMPARE(list.table->selectionBehavior(), QAbstractItemView::SelectRows);
+        QCOMPARE(list.table->editTriggers(), QAbstractItemView::NoEditTriggers);
+        QCOMPARE(list.table->palette().color(QPalette::Base), QColor(Qt::white));
+        QCOMPARE(list.table->horizontalScrollBarPolicy(), Qt::ScrollBarAlwaysOff);
+        list.grid.setRowHeight(0);
+        QCOMPARE(list.grid.rowHeight(), 15.0f); // a row is never less than a pixel
+    }
+
+    void columnsTakeTheirWidthsReadBackInTwips()
+    {
+        clsqorGenLib lib;
+        InvoiceList list;
+        list.setUp(lib);
+        QHeaderView *header = list.table->horizontalHeader();
+        QCOMPARE(list.model->columnCount(), 4);
+        // 1000 twips is 67 pixels, read back as 1005: the last visible column gets the rest.
+        QCOMPARE(header->sectionSize(0), 67);
+        QCOMPARE(header->sectionSize(1), 100);
+        QCOMPARE(header->sectionSize(2), (6000 - 1005 - 1500 - 240) / 15);
+        QCOMPARE(getProperty(column(list.grid, 0), "Width").toFloat(), 1005.0f);
+        QVERIFY(list.table->isColumnHidden(3));
+        QCOMPARE(list.model->headerData(1, Qt::Horizontal).toString(), QStringLiteral("Klant"));
+        QCOMPARE(list.model->headerData(0, Qt::Horizontal, Qt::TextAlignmentRole).toInt(),
+            int(Qt::AlignHCenter | Qt::AlignVCenter));
+        QCOMPARE(list.model->headerData(1, Qt::Horizontal, Qt::TextAlignmentRole).toInt(),
+            int(Qt::AlignLeft | Qt::AlignVCenter));
+        QCOMPARE(header->sectionResizeMode(0), QHeaderView::Fixed);
+        QCOMPARE(getProperty(column(list.grid, 2), "ColIndex").toInt(), 2);
+        QCOMPARE(
+            errorNumber([&] { column(list.grid, 4); }), int(RuntimeError::SubscriptOutOfRange));
+    }
+
+    void negativeWidthShowsAsZero()
+    {
+        clsqorGenLib lib;
+        InvoiceList list;
+        lib.SetDBGridSize(&list.grid, &list.frameAdapter);
+        lib.SetDBGridCol(&list.grid, 0, "A", "A", 0, -500);
+        lib.SetDBGridCol(&list.grid, 1, "B", "B", 0, 100);
+        QCOMPARE(list.table->horizontalHeader()->sectionSize(0), 0);
+        QCOMPARE(list.table->horizontalHeader()->sectionSize(1), (6000 - 240) / 15);
+    }
+
+    void translatedColumnsShowTheirTexts_data()
+    {
+        QTest::addColumn<qint32>("offset");
+        QTest::addColumn<QStringList>("payments");
+        QTest::addColumn<QStringList>("languages");
+
+        QTest::newRow("Dutch") << 0
+                               << QStringList { "Contant", "Bancontact", "9999", "Domiciliëring" }
+                               << QStringList { "NL", "FR", "EN", "NL" };
+        QTest::newRow("French") << 10000
+                                << QStringList { "Comptant", "Bancontact", "9999", "Domiciliation" }
+                                << QStringList { "NL", "FR", "EN", "NL" };
+    }
+
+    void translatedColumnsShowTheirTexts()
+    {
+        QFETCH(qint32, offset);
+        QFETCH(QStringList, payments);
+        QFETCH(QStringList, languages);
+        clsqorGenLib lib;
+        lib.setProperty("Offset", offset);
+        InvoiceList list;
+        list.setUp(lib);
+        lib.SetDBGridTranslation(&list.grid, qorGenLib::ttlBetalingLang, 2);
+        lib.SetDBGridTranslation(&list.grid, qorGenLib::ttlTaalKort, 3, -1, true);
+        for (int row = 0; row < 4; ++row) {
+            QCOMPARE(list.shown(row, 2), payments.at(row));
+            QCOMPARE(list.shown(row, 3), languages.at(row));
+            QCOMPARE(list.shown(row, 1), list.model->index(row, 1).data().toString());
+        }
+        QObject *items = getProperty(column(list.grid, 2), "ValueItems").value<QObject *>();
+        QCOMPARE(getProperty(items, "Count").toInt(), 21);
+        QCOMPARE(getProperty(items, "Translate").toBool(), true);
+        QCOMPARE(errorNumber(
+                     [&] { lib.SetDBGridTranslation(&list.grid, qorGenLib::TranslateEnum(9), 1); }),
+            int(RuntimeError::SubscriptOutOfRange));
+        QCOMPARE(list.shown(0, 1), QStringLiteral("Janssens"));
+    }
+
+    void sortIconInTheHeading()
+    {
+        clsqorGenLib lib;
+        InvoiceList list;
+        list.setUp(lib);
+        auto picture = [&](int section) {
+            return list.model->headerData(section, Qt::Horizontal, Qt::DecorationRole)
+                .value<QPixmap>();
+        };
+        lib.SetDBGridIcon(&list.grid, 1);
+        QCOMPARE(picture(1).size(), QSize(10, 16));
+        QVERIFY(picture(1).hasAlphaChannel() || !picture(1).mask().isNull());
+        const QImage ascending = picture(1).toImage();
+        lib.SetDBGridIcon(&list.grid, 1);
+        QVERIFY(picture(1).toImage() != ascending);
+        QCOMPARE(getProperty(column(list.grid, 1), "Tag").toString(), QStringLiteral(" DESC"));
+        lib.SetDBGridIcon(&list.grid, 0, "ASC", "FactNr");
+        QVERIFY(picture(1).isNull());
+        QCOMPARE(picture(0).toImage(), ascending);
+        QCOMPARE(list.grid.property("Tag").toString(), QStringLiteral("FactNr ASC"));
+    }
+
+    void screenshotOfASetUpGrid()
+    {
+        clsqorGenLib lib;
+        InvoiceList list;
+        list.setUp(lib);
+        lib.SetDBGridTranslation(&list.grid, qorGenLib::ttlBetalingLang, 2);
+        lib.SetDBGridIcon(&list.grid, 1, "DESC", "Klant");
+        list.frame.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&list.frame));
+        const QImage shot = list.frame.grab().toImage();
+        QCOMPARE(shot.size(), list.frame.size() * list.frame.devicePixelRatio());
+        const QString path
+            = QCoreApplication::applicationDirPath() + QStringLiteral("/gridwidgets.png");
+        QVERIFY(shot.save(path));
+        QVERIFY(QFileInfo(path).size() > 0);
+    }
+
+    void listsSelectByNumberOrText_data()
+    {
+        QTest::addColumn<qint32>("itemData");
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<qint32>("notFound");
+        QTest::addColumn<bool>("found");
+        QTest::addColumn<qint32>("index");
+
+        QTest::newRow("by number") << 30 << "" << -1 << true << 2;
+        QTest::newRow("by text") << -9999 << "Gent" << -1 << true << 1;
+        QTest::newRow("first in list order") << 30 << "Brugge" << -1 << true << 0;
+        QTest::newRow("none: cleared") << 99 << "Luik" << -1 << false << -1;
+        QTest::newRow("none: first") << 99 << "" << 0 << false << 0;
+        QTest::newRow("none: unchanged") << 99 << "" << 99 << false << 1;
+    }
+
+    void listsSelectByNumberOrText()
+    {
+        QFETCH(qint32, itemData);
+        QFETCH(QString, text);
+        QFETCH(qint32, notFound);
+        QFETCH(bool, found);
+        QFETCH(qint32, index);
+        clsqorGenLib lib;
+        QComboBox combo;
+        QListWidget listWidget;
+        ComboBoxAdapter comboAdapter(&combo);
+        ListWidgetAdapter listAdapter(&listWidget);
+        for (QObject *list : std::initializer_list<QObject *> { &comboAdapter, &listAdapter }) {
+            callOperation(list, "AddItem", { "Brugge" });
+            callOperation(list, "AddItem", { "Gent" });
+            callOperation(list, "AddItem", { "Antwerpen" });
+            qor::setProperty(list, "ItemData", QVariantList { 10, 20, 30 }, RegionalSettings());
+            qor::setProperty(list, "ListIndex", 1, RegionalSettings());
+            QCOMPARE(lib.SetListIndex(list, itemData, text, qorGenLib::NotFoundIndexType(notFound)),
+                found);
+        }
+        QCOMPARE(combo.currentIndex(), index);
+        QCOMPARE(listWidget.currentRow(), index);
+        QCOMPARE(comboAdapter.text(), index >= 0 ? combo.itemText(index) : QString());
+        QCOMPARE(errorNumber([&] { comboAdapter.setListIndex(3); }),
+            int(RuntimeError::InvalidPropertyValue));
+    }
+
+    void emptyListsAreLeftAlone()
+    {
+        clsqorGenLib lib;
+        QComboBox combo;
+        ComboBoxAdapter adapter(&combo);
+        QCOMPARE(lib.SetListIndex(&adapter, 5, "x", qorGenLib::SetListIndexLineZero), false);
+        QCOMPARE(combo.currentIndex(), -1);
+    }
+
+    void formChangesAreTracked_data()
+    {
+        QTest::addColumn<QString>("typed"); // keys typed into the name field
+        QTest::addColumn<bool>("ticked");
+        QTest::addColumn<int>("steps"); // spin box steps up
+        QTest::addColumn<bool>("changed");
+
+        QTest::newRow("nothing") << "" << false << 0 << false;
+        QTest::newRow("a letter") << "s" << false << 0 << true;
+        QTest::newRow("typed and deleted") << "s\b" << false << 0 << false;
+        QTest::newRow("ticked") << "" << true << 0 << true;
+        QTest::newRow("spun") << "" << false << 1 << true;
+    }
+
+    void formChangesAreTracked()
+    {
+        QFETCH(QString, typed);
+        QFETCH(bool, ticked);
+        QFETCH(int, steps);
+        QFETCH(bool, changed);
+        clsqorGenLib lib;
+        QWidget form;
+        auto *layout = new QVBoxLayout(&form);
+        auto *name = new QLineEdit(QStringLiteral("Jans"), &form);
+        name->setObjectName(QStringLiteral("name"));
+        auto *city = new QComboBox(&form);
+        city->setEditable(true);
+        city->addItems({ QStringLiteral("Brugge"), QStringLiteral("Gent") });
+        auto *paid = new QCheckBox(QStringLiteral("Betaald"), &form);
+        auto *count = new QSpinBox(&form);
+        auto *date = new QDateEdit(QDate(2004, 5, 20), &form);
+        for (QWidget *w : std::initializer_list<QWidget *> { name, city, paid, count, date })
+            layout->addWidget(w);
+        FormAdapter adapter(&form);
+        QCOMPARE(adapter.controls().size(), 5);
+        QCOMPARE(lib.DataChange(&adapter, true), false);
+        name->setFocus();
+        name->end(false);
+        for (QChar key : typed) {
+            if (key == QLatin1Char('\b'))
+                QTest::keyClick(name, Qt::Key_Backspace);
+            else
+                QTest::keyClicks(name, QString(key));
+        }
+        if (ticked)
+            QTest::mouseClick(paid, Qt::LeftButton);
+        count->stepBy(steps);
+        QCOMPARE(lib.DataChange(&adapter), changed);
+        QCOMPARE(lib.property("DataCH").toBool(), changed);
+        const QString split(2, QChar(173));
+        QVERIFY(form.property("qorTag").toString().startsWith(
+            "Jans" + split + "Brugge" + split + "0" + split));
+    }
+
+    void formWithoutControls()
+    {
+        clsqorGenLib lib;
+        QWidget form;
+        FormAdapter adapter(&form);
+        QCOMPARE(lib.DataChange(&adapter, true), false);
+        QCOMPARE(lib.DataChange(&adapter), false);
+    }
+};
+
+QTEST_MAIN(TestGridWidgets)
+#include "tst_gridwidgets.moc"
