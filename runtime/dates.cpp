@@ -34,6 +34,8 @@ bool inDateRange(const QDate &date)
     return date.isValid() && date.year() >= 100 && date.year() <= 9999;
 }
 
+QDate dateSerialOfFullYear(qint64 y, int month, int day);
+
 // --- reading date texts ---------------------------------------------------
 
 struct Token
@@ -272,6 +274,19 @@ QDate dateSerial(int year, int month, int day)
         y += 2000;
     else if (y >= 30 && y <= 99)
         y += 1900;
+    return dateSerialOfFullYear(y, month, day);
+}
+
+QDate dateSerial(int year, int month, int day, const RegionalSettings &rs)
+{
+    const qint64 y = (year >= 0 && year <= 99) ? rs.expandYear(year) : year;
+    return dateSerialOfFullYear(y, month, day);
+}
+
+namespace {
+
+QDate dateSerialOfFullYear(qint64 y, int month, int day)
+{
     const qint64 months = y * 12 + (qint64(month) - 1);
     const qint64 firstYear = floorDiv(months, 12);
     if (firstYear < 0 || firstYear > 10000)
@@ -282,6 +297,8 @@ QDate dateSerial(int year, int month, int day)
         throw RuntimeError::invalidProcedureCall();
     return date;
 }
+
+} // namespace
 
 QTime timeSerial(int hour, int minute, int second)
 {
