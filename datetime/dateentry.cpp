@@ -27,9 +27,10 @@ struct DateParts
     QString yearText;
 };
 
-std::optional<DateParts> partsOf(const QString &entry, const RegionalSettings &rs)
+std::optional<DateParts> partsOf(
+    const QString &entry, const QDate &today, const RegionalSettings &rs)
 {
-    if (const auto read = readDate(entry, rs)) {
+    if (const auto read = readDate(entry, rs, today)) {
         const QDate date = read->date();
         return DateParts { double(date.day()), double(date.month()), double(date.year()),
             QString::number(date.year()) };
@@ -128,7 +129,7 @@ DateEntry readDateEntry(
     entry = trimBlanks(entry);
     if (entry.isEmpty())
         return {};
-    const auto parts = partsOf(entry, rs);
+    const auto parts = partsOf(entry, today, rs);
     if (!parts || !passesDayInMonth(*parts) || parts->month > 12)
         return { DateEntry::Invalid, QString() };
     const auto date = buildDate(*parts, rs);

@@ -39,5 +39,9 @@ QDate zeroDate();
 // optional AM/PM. A time alone lies on zeroDate(). Anything else: nullopt.
 // A day and month without a year are not read (they would need today's date).
 std::optional<QDateTime> readDate(const QString &text, const RegionalSettings &rs);
+// readDate that also takes a day and a month without a year, as people type
+// them ("1/2", "15 jan"), in the year of `today`.
+std::optional<QDateTime> readDate(
+    const QString &text, const RegionalSettings &rs, const QDate &today);
 
 } // namespace qor

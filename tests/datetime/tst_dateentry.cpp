@@ -75,6 +75,16 @@ private slots:
         QTest::newRow("negative number") << nl << "-12345" << missing << "" << "-12345" << notation;
         QTest::newRow("slashes, two-digit year") << nl << "1/2/03" << missing << "1/02/2003" << "1/02/2003" << "";
         QTest::newRow("slashes month first") << us << "1/2/03" << missing << "1/2/2003" << "1/2/2003" << "";
+        QTest::newRow("German points") << "de_DE" << "1.2.03" << missing << "01.02.2003" << "01.02.2003" << "";
+        QTest::newRow("German six digits") << "de_DE" << "311299" << missing << "31.12.1999" << "31.12.1999" << "";
+        QTest::newRow("German slashes") << "de_DE" << "1/2/2003" << missing << "01.02.2003" << "01.02.2003" << "";
+        QTest::newRow("French dashes") << "fr_BE" << "1-2-03" << missing << "1/02/2003" << "1/02/2003" << "";
+        QTest::newRow("French blanks") << "fr_BE" << "29 2 2004" << missing << "29/02/2004" << "29/02/2004" << "";
+        QTest::newRow("day and month are this year") << nl << "1/2" << missing << "1/02/2024" << "1/02/2024" << "";
+        QTest::newRow("month and day are this year") << us << "2/1" << missing << "2/1/2024" << "2/1/2024" << "";
+        QTest::newRow("a month name, this year") << nl << "15 maart" << missing << "15/03/2024" << "15/03/2024" << "";
+        QTest::newRow("later this year is the future") << nl << "1/12" << missing << "" << "1/12/2024" << future;
+        QTest::newRow("31/02 is no day this year") << nl << "31/02" << missing << "" << "31/02" << notation;
         QTest::newRow("dashes") << nl << "1-2-2003" << missing << "1/02/2003" << "1/02/2003" << "";
         QTest::newRow("points") << nl << "1.2.2003" << missing << "1/02/2003" << "1/02/2003" << "";
         QTest::newRow("blanks between") << nl << "1 2 2003" << missing << "1/02/2003" << "1/02/2003" << "";
