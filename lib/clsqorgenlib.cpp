@@ -7,6 +7,7 @@
 #include "grid/listselection.h"
 #include "grid/sortarray.h"
 #include "grid/translationtables.h"
+#include "datetime/datetimechecks.h"
 #include "input/amounts.h"
 #include "input/keypress.h"
 #include "input/keyspin.h"
@@ -170,6 +171,48 @@ QString clsqorGenLib::ControleerOGM(QString &OGM, bool MBox)
 // End of dialogs, scanner input and sound
 
 // Dates and times
+
+QString clsqorGenLib::ControleerDatum(QString &DT, bool AllowFuture, bool MBox)
+{
+    return controleerDatum(DT, AllowFuture, MBox, m_Offset);
+}
+
+QString clsqorGenLib::ControleerUur(
+    QString &Uur, bool MBox, bool AllowMoreThan24Hours, bool ReturnHHMM)
+{
+    return controleerUur(Uur, MBox, AllowMoreThan24Hours, ReturnHHMM, m_Offset);
+}
+
+QString clsqorGenLib::GetTime(QString &Uur)
+{
+    return getTime(Uur, m_Offset);
+}
+
+QString clsqorGenLib::GetWeekDag(QDateTime &XS)
+{
+    return getWeekDag(XS, m_Offset);
+}
+
+QDateTime clsqorGenLib::GetQuarterStart(QString &Datum)
+{
+    return getQuarterStart(Datum, m_Offset);
+}
+
+QDateTime clsqorGenLib::GetQuarterEnd(QString &Datum)
+{
+    return getQuarterEnd(Datum, m_Offset);
+}
+
+void clsqorGenLib::SetDText(QObject *DText, QString &CountryCode, bool ValueToDay, bool MaxDateToDay)
+{
+    setDText(DText, CountryCode, ValueToDay, MaxDateToDay, m_Offset);
+}
+
+void clsqorGenLib::SetDText(QObject *DText)
+{
+    QString countryCode = QStringLiteral("BE");
+    SetDText(DText, countryCode);
+}
 
 // End of dates and times
 

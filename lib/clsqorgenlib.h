@@ -5,6 +5,7 @@
 #include "grid/gridcolumnwidths.h"
 #include "lib/frame/qorenums.h"
 
+#include <QDateTime>
 #include <QObject>
 #include <QString>
 #include <QVariant>
@@ -106,6 +107,26 @@ public:
     // End of dialogs, scanner input and sound.
 
     // Dates and times.
+    // The checks clean the caller's variable and, with MBox, report a wrong entry.
+    Q_CLASSINFO("ControleerDatum", "{\"AllowFuture\": null, \"MBox\": true}")
+    Q_CLASSINFO("ControleerUur",
+        "{\"MBox\": true, \"AllowMoreThan24Hours\": false, \"ReturnHHMM\": true}")
+    Q_CLASSINFO("SetDText",
+        "{\"CountryCode\": \"BE\", \"ValueToDay\": false, \"MaxDateToDay\": true}")
+    // A missing AllowFuture counts as False: future dates are refused.
+    Q_INVOKABLE QString ControleerDatum(QString &DT, bool AllowFuture = false, bool MBox = true);
+    // Hours beyond a Long raise RuntimeError 6 to the caller.
+    Q_INVOKABLE QString ControleerUur(QString &Uur, bool MBox = true,
+        bool AllowMoreThan24Hours = false, bool ReturnHHMM = true);
+    Q_INVOKABLE QString GetTime(QString &Uur);
+    Q_INVOKABLE QString GetWeekDag(QDateTime &XS);
+    Q_INVOKABLE QDateTime GetQuarterStart(QString &Datum);
+    Q_INVOKABLE QDateTime GetQuarterEnd(QString &Datum);
+    // CountryCode is written back ("" becomes "BE"), so C++ gets its default
+    // through the overload below, which is not published.
+    Q_INVOKABLE void SetDText(
+        QObject *DText, QString &CountryCode, bool ValueToDay = false, bool MaxDateToDay = true);
+    void SetDText(QObject *DText);
     // End of dates and times.
 
     // Fixed-field records.

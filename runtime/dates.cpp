@@ -34,6 +34,8 @@ bool inDateRange(const QDate &date)
     return date.isValid() && date.year() >= 100 && date.year() <= 9999;
 }
 
+QDate dateSerialOfFullYear(qint64 y, int month, int day);
+
 // --- reading date texts ---------------------------------------------------
 
 struct Token
@@ -272,6 +274,19 @@ QDate dateSerial(int year, int month, int day)
         y += 2000;
     else if (y >= 30 && y <= 99)
         y += 1900;
+    return dateSerialOfFullYear(y, month, day);
+}
+
+QDate dateSerial(int year, int month, int day, const RegionalSettings &rs)
+{
+    const qint64 y = (year >= 0 && year <= 99) ? rs.expandYear(year) : year;
+    return dateSerialOfFullYear(y, month, day);
+}
+
+namespace {
+
+QDate dateSerialOfFullYear(qint64 y, int month, int day)
+{
     const qint64 months = y * 12 + (qint64(month) - 1);
     const qint64 firstYear = floorDiv(months, 12);
     if (firstYear < 0 || firstYear > 10000)
@@ -282,6 +297,8 @@ QDate dateSerial(int year, int month, int day)
         throw RuntimeError::invalidProcedureCall();
     return date;
 }
+
+} // namespace
 
 QTime timeSerial(int hour, int minute, int second)
 {
@@ -327,7 +344,32 @@ QDateTime serialToDate(double serial)
     return QDateTime(date, QTime(0, 0).addSecs(int(seconds)), Qt::UTC);
 }
 
-std::optional<QDateTime> readDate(const QString &input, const RegionalSettings &rs)
+namespace {
+
+// A day and a month without a year, in the order of the short date notation
+// (a month name goes either way), or the other way round when that gives no date.
+std::optional<QDate> dayMonthDate(
+    const std::vector<DateField> &f, const RegionalSettings &rs, int year)
+{
+    int day = f[0].value;
+    int month = f[1].value;
+    if (f[0].digits == 0 && f[1].digits == 0)
+        return std::nullopt;
+    if (f[0].digits == 0)
+        std::swap(day, month);
+    else if (f[1].digits != 0
+        && fieldOrder(rs.shortDatePattern).indexOf(QLatin1Char('m'))
+            < fieldOrder(rs.shortDatePattern).indexOf(QLatin1Char('d')))
+        std::swap(day, month);
+    if (auto date = validDate(year, month, day))
+        return date;
+    if (f[0].digits == 0 || f[1].digits == 0)
+        return std::nullopt;
+    return validDate(year, day, month);
+}
+
+std::optional<QDateTime> readDateIn(
+    const QString &input, const RegionalSettings &rs, std::optional<int> currentYear)
 {
     const QString text = input.trimmed();
     if (text.isEmpty() || text.size() > longestDateText)
@@ -350,14 +392,30 @@ std::optional<QDateTime> readDate(const QString &input, const RegionalSettings &
         return std::nullopt;
     if (fields->empty() && timeRange)
         return QDateTime(zeroDate(), *time, Qt::UTC);
-    if (fields->size() != 3)
-        return std::nullopt;
-    const bool named
-        = (*fields)[0].digits == 0 || (*fields)[1].digits == 0 || (*fields)[2].digits == 0;
-    const auto date = named ? namedMonthDate(*fields, rs) : numericDate(*fields, rs);
+    std::optional<QDate> date;
+    if (fields->size() == 2 && currentYear) {
+        date = dayMonthDate(*fields, rs, *currentYear);
+    } else if (fields->size() == 3) {
+        const bool named
+            = (*fields)[0].digits == 0 || (*fields)[1].digits == 0 || (*fields)[2].digits == 0;
+        date = named ? namedMonthDate(*fields, rs) : numericDate(*fields, rs);
+    }
     if (!date)
         return std::nullopt;
     return QDateTime(*date, *time, Qt::UTC);
+}
+
+} // namespace
+
+std::optional<QDateTime> readDate(const QString &input, const RegionalSettings &rs)
+{
+    return readDateIn(input, rs, std::nullopt);
+}
+
+std::optional<QDateTime> readDate(
+    const QString &input, const RegionalSettings &rs, const QDate &today)
+{
+    return readDateIn(input, rs, today.year());
 }
 
 } // namespace qor

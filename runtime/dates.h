@@ -12,6 +12,10 @@ namespace qor {
 // month 13 January of the next year, and so on). Years 0..29 count as 2000..2029
 // and 30..99 as 1930..1999. A result outside 100..9999 -> RuntimeError 5.
 QDate dateSerial(int year, int month, int day);
+// DateSerial as the platform builds it: years 0..99 are placed in their
+// century by the two-digit-year window of rs (rs.expandYear); otherwise the
+// same roll-over and range as above.
+QDate dateSerial(int year, int month, int day, const RegionalSettings &rs);
 
 // TimeSerial with the same roll-over of seconds into minutes and minutes into
 // hours; the result is the time of day (hours taken modulo 24).
@@ -35,5 +39,9 @@ QDate zeroDate();
 // optional AM/PM. A time alone lies on zeroDate(). Anything else: nullopt.
 // A day and month without a year are not read (they would need today's date).
 std::optional<QDateTime> readDate(const QString &text, const RegionalSettings &rs);
+// readDate that also takes a day and a month without a year, as people type
+// them ("1/2", "15 jan"), in the year of `today`.
+std::optional<QDateTime> readDate(
+    const QString &text, const RegionalSettings &rs, const QDate &today);
 
 } // namespace qor

@@ -1,38 +1,113 @@
 #include "host/qt/dateeditadapter.h"
 
+#include "host/qt/calendarwidgetadapter.h"
 #include "platform/platform.h"
 #include "runtime/conversion.h"
 #include "runtime/runtimeerror.h"
 
 namespace qor {
 
-DateEditAdapter::DateEditAdapter(QDateTimeEdit *edit, QObject *parent)
-    : QObject(parent)
-    , m_edit(edit)
-{ }
+namespace {
 
-QDateTimeEdit *DateEditAdapter::edit() const
+QDateEdit *require(const QPointer<QDateEdit> &field)
 {
-    if (!m_edit)
+    // A field that is gone behaves as an object that is no longer there.
+    if (!field)
         throw RuntimeError::objectNotSet();
-    return m_edit.data();
+    return field.data();
+}
+
+QDate dateOf(const QVariant &value)
+{
+    return toDate(value, platform().regionalSettings()).date();
+}
+
+QVariant dateValue(const QDate &date)
+{
+    return QDateTime(date, QTime(0, 0), Qt::UTC);
+}
+
+} // namespace
+
+DateEditAdapter::DateEditAdapter(QDateEdit *field, QObject *parent)
+    : QObject(parent)
+    , m_field(field)
+{
+    if (!field)
+        return;
+    field->setCalendarPopup(true);
+    // Month names in the user's language; the week titles come from the library.
+    field->setLocale(QLocale(platform().regionalSettings().localeName));
+    m_calendar = new CalendarWidgetAdapter(field->calendarWidget(), this);
 }
 
 QString DateEditAdapter::text() const
 {
-    return edit()->text();
+    return require(m_field)->text();
+}
+
+QVariant DateEditAdapter::minDate() const
+{
+    return dateValue(require(m_field)->minimumDate());
+}
+void DateEditAdapter::setMinDate(const QVariant &date)
+{
+    require(m_field)->setMinimumDate(dateOf(date));
+}
+
+QVariant DateEditAdapter::maxDate() const
+{
+    return dateValue(require(m_field)->maximumDate());
+}
+void DateEditAdapter::setMaxDate(const QVariant &date)
+{
+    require(m_field)->setMaximumDate(dateOf(date));
 }
 
 QVariant DateEditAdapter::value() const
 {
-    const QDateTime shown = edit()->dateTime();
-    return QDateTime(shown.date(), shown.time(), Qt::UTC);
+    return dateValue(require(m_field)->date());
+}
+void DateEditAdapter::setValue(const QVariant &date)
+{
+    require(m_field)->setDate(dateOf(date));
 }
 
-void DateEditAdapter::setValue(const QVariant &value)
+void DateEditAdapter::setFormat(const QString &format)
 {
-    const QDateTime date = toDate(value, platform().regionalSettings());
-    edit()->setDateTime(QDateTime(date.date(), date.time()));
+    require(m_field)->setDisplayFormat(qtDisplayFormat(format));
+    m_format = format;
+}
+
+void DateEditAdapter::setDisplayFormat(const QString &format)
+{
+    require(m_field)->setDisplayFormat(qtDisplayFormat(format));
+    m_displayFormat = format;
+}
+
+QObject *DateEditAdapter::calendar() const
+{
+    require(m_field);
+    return m_calendar;
+}
+
+QString DateEditAdapter::qtDisplayFormat(const QString &classic)
+{
+    QString result;
+    for (const QChar c : classic) {
+        const QChar lower = c.toLower();
+        if (lower == QLatin1Char('d') || lower == QLatin1Char('y'))
+            result.append(lower);
+        else if (lower == QLatin1Char('m'))
+            result.append(QLatin1Char('M'));
+        else if (c == QLatin1Char('\''))
+            result.append(QLatin1String("''"));
+        else if (c.isLetter())
+            result.append(QLatin1Char('\'') + QString(c) + QLatin1Char('\''));
+        else
+            result.append(c);
+    }
+    return result;
 }
 
 } // namespace qor

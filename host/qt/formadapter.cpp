@@ -31,7 +31,7 @@ QObject *makeAdapter(QWidget *widget, QObject *parent)
         return new ComboBoxAdapter(combo, parent);
     if (auto *box = qobject_cast<QCheckBox *>(widget))
         return new CheckBoxAdapter(box, parent);
-    if (auto *date = qobject_cast<QDateTimeEdit *>(widget))
+    if (auto *date = qobject_cast<QDateEdit *>(widget))
         return new DateEditAdapter(date, parent);
     if (auto *spin = qobject_cast<QAbstractSpinBox *>(widget))
         return new SpinBoxAdapter(spin, parent);

@@ -1,0 +1,294 @@
+#include "datetimetest.h"
+
+#include "host/datecontrol.h"
+#include "runtime/dates.h"
+#include "tests/common/errornumber.h"
+
+#include <QTemporaryDir>
+#include <QTest>
+
+using namespace qor;
+using test::installDateMachine;
+
+namespace {
+
+const QString fixedDays = QStringLiteral("01/01,01/05,15/08,01/11,25/12");
+const QString developmentNotice
+    = QStringLiteral("3 variabele Feestdagen invullen in OstGenLib SetDtext");
+
+QDateTime day(int y, int m, int d)
+{
+    return QDateTime(QDate(y, m, d), QTime(0, 0), Qt::UTC);
+}
+
+QDateTime noon(int y, int m, int d)
+{
+    return QDateTime(QDate(y, m, d), QTime(12, 0), Qt::UTC);
+}
+
+} // namespace
+
+class TestCalendarHelpers : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void getWeekDag_data()
+    {
+        QTest::addColumn<QDateTime>("date");
+        QTest::addColumn<int>("offset");
+        QTest::addColumn<QString>("name");
+        // clang-format off
+        QTest::newRow("Monday") << day(2024, 3, 11) << 0 << "Maandag";
+        QTest::newRow("Sunday") << day(2024, 3, 17) << 0 << "Zondag";
+        QTest::newRow("Saturday, time of day ignored") << noon(2024, 3, 16) << 0 << "Zaterdag";
+        QTest::newRow("Sunday in French") << day(2024, 3, 17) << 10000 << "Dimanche";
+        QTest::newRow("Monday in French") << day(2024, 3, 11) << 10000 << "Lundi";
+        QTest::newRow("zero date is a Saturday") << day(1899, 12, 30) << 0 << "Zaterdag";
+        QTest::newRow("first day of the range") << day(100, 1, 1) << 0 << "Vrijdag";
+        QTest::newRow("last day of the range") << day(9999, 12, 31) << 0 << "Vrijdag";
+        // clang-format on
+    }
+    void getWeekDag()
+    {
+        QFETCH(QDateTime, date);
+        QFETCH(int, offset);
+        installDateMachine(QStringLiteral("nl_BE"));
+        clsqorGenLib lib;
+        lib.setProperty("Offset", offset);
+        QTEST(lib.GetWeekDag(date), "name");
+    }
+
+    // By name the weekday wants a Date: a text is a type mismatch.
+    void weekDagByName()
+    {
+        installDateMachine(QStringLiteral("nl_BE"));
+        clsqorGenLib lib;
+        QCOMPARE(lib.Invoke(QStringLiteral("GetWeekDag"), { day(2024, 3, 17) }),
+            QVariant(QStringLiteral("Zondag")));
+        QCOMPARE(test::errorNumber([&] {
+            lib.Invoke(QStringLiteral("GetWeekDag"), { QStringLiteral("17/03/2024") });
+        }),
+            13);
+    }
+
+    void quarters_data()
+    {
+        QTest::addColumn<QString>("locale");
+        QTest::addColumn<QString>("datum");
+        QTest::addColumn<QDateTime>("start");
+        QTest::addColumn<QDateTime>("end");
+        // clang-format off
+        QTest::newRow("May") << "nl_BE" << "15/05/2005" << day(2005, 4, 1) << day(2005, 6, 30);
+        QTest::newRow("May month first") << "en_US" << "5/15/2005" << day(2005, 4, 1) << day(2005, 6, 30);
+        QTest::newRow("first day of a quarter") << "nl_BE" << "1/01/2004" << day(2004, 1, 1) << day(2004, 3, 31);
+        QTest::newRow("last day of a quarter") << "nl_BE" << "31/03/2004" << day(2004, 1, 1) << day(2004, 3, 31);
+        QTest::newRow("third quarter") << "nl_BE" << "1/07/2004" << day(2004, 7, 1) << day(2004, 9, 30);
+        QTest::newRow("December") << "nl_BE" << "24/12/2003" << day(2003, 10, 1) << day(2003, 12, 31);
+        QTest::newRow("December month first") << "en_US" << "12/24/2003" << day(2003, 10, 1) << day(2003, 12, 31);
+        QTest::newRow("with a time") << "nl_BE" << "15/08/2004 23:59" << day(2004, 7, 1) << day(2004, 9, 30);
+        QTest::newRow("last quarter of the range") << "nl_BE" << "31/12/9999" << day(9999, 10, 1) << day(9999, 12, 31);
+        QTest::newRow("31 February") << "nl_BE" << "31/02/2004" << day(1899, 12, 30) << day(1899, 12, 30);
+        QTest::newRow("letters") << "nl_BE" << "kwartaal" << day(1899, 12, 30) << day(1899, 12, 30);
+        QTest::newRow("empty") << "nl_BE" << "" << day(1899, 12, 30) << day(1899, 12, 30);
+        // clang-format on
+    }
+    void quarters()
+    {
+        QFETCH(QString, locale);
+        QFETCH(QString, datum);
+        QFETCH(QDateTime, start);
+        const auto machine = installDateMachine(locale);
+        clsqorGenLib lib;
+        QString text = datum;
+        QTEST(lib.GetQuarterStart(text), "start");
+        QTEST(lib.GetQuarterEnd(text), "end");
+        const QVariantMap fault
+            = test::messageBox(QStringLiteral("Ongeldige datum !"), 48, QStringLiteral(" Fout"));
+        // A text that is no date is reported by each of the two.
+        const bool refused = start == day(1899, 12, 30);
+        QCOMPARE(machine->shown().size(), refused ? 2 : 0);
+        for (const QVariant &shown : machine->shown()) {
+            QVariantMap box = shown.toMap();
+            for (const char *detail : { "kind", "type", "answer" })
+                box.remove(QLatin1String(detail));
+            QCOMPARE(box, fault);
+        }
+    }
+
+    // SetDText on a model date control, the clock set to a year of the
+    // classic holiday table or beyond it.
+    void setDText_data()
+    {
+        QTest::addColumn<QString>("locale");
+        QTest::addColumn<int>("offset");
+        QTest::addColumn<int>("year");
+        QTest::addColumn<QString>("country");
+        QTest::addColumn<QString>("countryAfter");
+        QTest::addColumn<QString>("format");
+        QTest::addColumn<QString>("holidays");
+        QTest::addColumn<QString>("weekTitles");
+        const QString nl = QStringLiteral("nl_BE");
+        const QString dutchTitles = QStringLiteral("zo,ma,di,wo,do,vr,za");
+        const QString frenchTitles = QStringLiteral("di,lu,ma,me,je,ve,sa");
+        const QString slashes = QStringLiteral("dd/mm/yyyy");
+        // clang-format off
+        QTest::newRow("BE Dutch 2004") << nl << 0 << 2004 << "BE" << "BE" << slashes
+            << fixedDays + ",21/07,11/11,11/07,11/04,20/05,30/05" << dutchTitles;
+        QTest::newRow("BE French 2004") << "fr_BE" << 10000 << 2004 << "BE" << "BE" << slashes
+            << fixedDays + ",21/07,11/11,27/09,11/04,20/05,30/05" << frenchTitles;
+        QTest::newRow("BE Dutch 2003, one movable day") << nl << 0 << 2003 << "BE" << "BE" << slashes
+            << fixedDays + ",21/07,11/11,11/07,20/04" << dutchTitles;
+        QTest::newRow("BE French 2003") << "fr_BE" << 10000 << 2003 << "BE" << "BE" << slashes
+            << fixedDays + ",21/07,11/11,27/09,20/04" << frenchTitles;
+        QTest::newRow("BE English takes the non-Dutch day") << "en_US" << 20000 << 2002 << "BE" << "BE" << slashes
+            << fixedDays + ",21/07,11/11,27/09,31/03,09/05,19/05" << "Su,Mo,Tu,We,Th,Fr,Sa";
+        QTest::newRow("BE 2005") << nl << 0 << 2005 << "BE" << "BE" << slashes
+            << fixedDays + ",21/07,11/11,11/07,27/03,05/05,15/05" << dutchTitles;
+        QTest::newRow("BE 2006, table ended") << nl << 0 << 2006 << "BE" << "BE" << slashes
+            << fixedDays + ",21/07,11/11,11/07" << dutchTitles;
+        QTest::newRow("BE 2024, outside the table") << nl << 0 << 2024 << "BE" << "BE" << slashes
+            << fixedDays + ",21/07,11/11,11/07" << dutchTitles;
+        QTest::newRow("BE 2001, before the table") << nl << 0 << 2001 << "BE" << "BE" << slashes
+            << fixedDays + ",21/07,11/11,11/07" << dutchTitles;
+        QTest::newRow("LU 2004") << nl << 0 << 2004 << "LU" << "LU" << slashes
+            << fixedDays + ",23/06,11/04,20/05,30/05" << dutchTitles;
+        QTest::newRow("LU 2003") << "fr_BE" << 10000 << 2003 << "LU" << "LU" << slashes
+            << fixedDays + ",23/06,20/04" << frenchTitles;
+        QTest::newRow("LU 2006") << nl << 0 << 2006 << "LU" << "LU" << slashes
+            << fixedDays + ",23/06" << dutchTitles;
+        QTest::newRow("LU 2024") << nl << 0 << 2024 << "LU" << "LU" << slashes
+            << fixedDays + ",23/06" << dutchTitles;
+        QTest::newRow("NL 2004: the common days only") << nl << 0 << 2004 << "NL" << "NL" << slashes
+            << fixedDays << dutchTitles;
+        QTest::newRow("NL 2003") << nl << 0 << 2003 << "NL" << "NL" << slashes << fixedDays << dutchTitles;
+        QTest::newRow("NL 2006") << nl << 0 << 2006 << "NL" << "NL" << slashes << fixedDays << dutchTitles;
+        QTest::newRow("lower case is another country") << nl << 0 << 2004 << "be" << "be" << slashes
+            << fixedDays << dutchTitles;
+        QTest::newRow("first two characters count") << nl << 0 << 2004 << "BEL" << "BEL" << slashes
+            << fixedDays + ",21/07,11/11,11/07,11/04,20/05,30/05" << dutchTitles;
+        QTest::newRow("a leading blank is another country") << nl << 0 << 2004 << " BE" << " BE" << slashes
+            << fixedDays << dutchTitles;
+        QTest::newRow("empty becomes BE") << nl << 0 << 2004 << "" << "BE" << slashes
+            << fixedDays + ",21/07,11/11,11/07,11/04,20/05,30/05" << dutchTitles;
+        QTest::newRow("blanks become BE") << nl << 0 << 2004 << "   " << "BE" << slashes
+            << fixedDays + ",21/07,11/11,11/07,11/04,20/05,30/05" << dutchTitles;
+        QTest::newRow("points as separator") << "de_DE" << 30000 << 2004 << "LU" << "LU" << "dd.mm.yyyy"
+            << fixedDays + ",23/06,11/04,20/05,30/05" << " [LL 31000 ?] ";
+        // clang-format on
+    }
+    void setDText()
+    {
+        QFETCH(QString, locale);
+        QFETCH(int, offset);
+        QFETCH(int, year);
+        QFETCH(QString, country);
+        QFETCH(QString, format);
+        const auto machine = installDateMachine(locale, noon(year, 3, 15));
+        machine->setSystemDirectory(QString()); // a customer station
+        clsqorGenLib lib;
+        lib.setProperty("Offset", offset);
+        DateControl control;
+        QVariantList args { QVariant::fromValue<QObject *>(&control), country };
+        lib.Invoke(QStringLiteral("SetDText"), args);
+        QTEST(args.at(1).toString(), "countryAfter");
+        QCOMPARE(control.property("MinDate"), QVariant(QStringLiteral("1/1/1900")));
+        QCOMPARE(control.property("Format").toString(), format);
+        QCOMPARE(control.property("DisplayFormat").toString(), format);
+        QObject *calendar = control.property("Calendar").value<QObject *>();
+        QTEST(calendar->property("Holidays").toString(), "holidays");
+        QTEST(calendar->property("WeekTitles").toString(), "weekTitles");
+        QCOMPARE(control.property("MaxDate").toDateTime(), day(year, 3, 15));
+        QVERIFY(!control.property("Value").isValid());
+        QVERIFY(machine->shown().isEmpty());
+    }
+
+    void setDTextValueAndMaxDate_data()
+    {
+        QTest::addColumn<bool>("valueToDay");
+        QTest::addColumn<bool>("maxDateToDay");
+        QTest::newRow("neither") << false << false;
+        QTest::newRow("value only") << true << false;
+        QTest::newRow("both") << true << true;
+    }
+    void setDTextValueAndMaxDate()
+    {
+        QFETCH(bool, valueToDay);
+        QFETCH(bool, maxDateToDay);
+        installDateMachine(QStringLiteral("nl_BE"), noon(2024, 2, 29));
+        clsqorGenLib lib;
+        DateControl control;
+        QString country = QStringLiteral("NL");
+        lib.SetDText(&control, country, valueToDay, maxDateToDay);
+        const QVariant today = day(2024, 2, 29);
+        QCOMPARE(control.property("Value"), valueToDay ? today : QVariant());
+        QCOMPARE(control.property("MaxDate"), maxDateToDay ? today : QVariant());
+    }
+
+    void setDTextNoticeOnADevelopmentStation_data()
+    {
+        QTest::addColumn<int>("year");
+        QTest::addColumn<QString>("country");
+        QTest::addColumn<bool>("development");
+        QTest::addColumn<bool>("notice");
+        // clang-format off
+        QTest::newRow("2006 BE development") << 2006 << "BE" << true << true;
+        QTest::newRow("2006 LU development") << 2006 << "LU" << true << true;
+        QTest::newRow("2006 NL development") << 2006 << "NL" << true << false;
+        QTest::newRow("2006 BE customer") << 2006 << "BE" << false << false;
+        QTest::newRow("2005 BE development") << 2005 << "BE" << true << false;
+        QTest::newRow("2007 BE development") << 2007 << "BE" << true << false;
+        // clang-format on
+    }
+    void setDTextNoticeOnADevelopmentStation()
+    {
+        QFETCH(int, year);
+        QFETCH(QString, country);
+        QFETCH(bool, development);
+        QFETCH(bool, notice);
+        QTemporaryDir systemFolder;
+        QVERIFY(systemFolder.isValid());
+        if (development) {
+            QFile marker(systemFolder.filePath(QStringLiteral("QorVelChip.dll")));
+            QVERIFY(marker.open(QIODevice::WriteOnly));
+        }
+        const auto machine = installDateMachine(QStringLiteral("nl_BE"), noon(year, 6, 1));
+        machine->setSystemDirectory(systemFolder.path());
+        clsqorGenLib lib;
+        DateControl control;
+        lib.SetDText(&control, country);
+        const QVariantMap shown {
+            { QStringLiteral("kind"), QStringLiteral("MsgBox") },
+            { QStringLiteral("prompt"), developmentNotice },
+            { QStringLiteral("buttons"), 0 },
+            { QStringLiteral("title"), QString() },
+            { QStringLiteral("answer"), 1 },
+        };
+        QCOMPARE(machine->shown(), notice ? QVariantList { shown } : QVariantList());
+        // The holidays are set whether the notice was shown or not.
+        QVERIFY(control.property("Calendar")
+                    .value<QObject *>()
+                    ->property("Holidays")
+                    .toString()
+                    .startsWith(fixedDays));
+    }
+
+    // A control without the properties, or none at all, is set as far as it goes.
+    void setDTextSkipsWhatTheControlLacks()
+    {
+        installDateMachine(QStringLiteral("nl_BE"), noon(2004, 1, 1));
+        clsqorGenLib lib;
+        QObject plain;
+        QString country;
+        lib.SetDText(&plain, country);
+        QCOMPARE(country, QStringLiteral("BE"));
+        lib.SetDText(nullptr, country);
+        HostObject bag;
+        bag.assign(QStringLiteral("Format"), QString());
+        lib.SetDText(&bag, country);
+        QCOMPARE(bag.value(QStringLiteral("Format")).toString(), QStringLiteral("dd/mm/yyyy"));
+    }
+};
+
+QTEST_GUILESS_MAIN(TestCalendarHelpers)
+#include "tst_calendarhelpers.moc"

@@ -1,0 +1,221 @@
+#include "datetimetest.h"
+
+#include "datetime/dateentry.h"
+
+#include <QTest>
+
+using namespace qor;
+using test::installDateMachine;
+using test::shownPrompt;
+
+namespace {
+
+const QString notation = QStringLiteral("notation");
+const QString future = QStringLiteral("future");
+const QString cr2 = QString(2, QChar(13));
+
+QString dutchNotationMessage(const QString &six, const QString &pattern, const QString &four)
+{
+    return QStringLiteral("Datum Ongeldig.  Gebruik één van volgende schrijfwijzes :") + cr2 + six
+        + QStringLiteral("  of  ") + pattern + QStringLiteral("  of  ") + four;
+}
+
+} // namespace
+
+class TestDateEntry : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    // The same typing under day-first (nl_BE) and month-first (en_US)
+    // settings, with the clock at 15 March 2024 and the usual window.
+    void controleerDatum_data()
+    {
+        QTest::addColumn<QString>("locale");
+        QTest::addColumn<QString>("input");
+        QTest::addColumn<QVariant>("allowFuture"); // invalid: not passed
+        QTest::addColumn<QString>("result");
+        QTest::addColumn<QString>("after");
+        QTest::addColumn<QString>("report"); // "", "notation" or "future"
+        const QString nl = QStringLiteral("nl_BE");
+        const QString us = QStringLiteral("en_US");
+        const QVariant missing;
+        // clang-format off
+        QTest::newRow("empty") << nl << "" << missing << "" << "" << "";
+        QTest::newRow("blanks are emptied without a word") << nl << "     " << missing << "" << "" << "";
+        QTest::newRow("tab is no blank and no date") << nl << "\t" << missing << "" << "\t" << notation;
+        QTest::newRow("six digits, 99 is past the pivot") << nl << "311299" << missing << "31/12/1999" << "31/12/1999" << "";
+        QTest::newRow("six digits month first") << us << "123199" << missing << "12/31/1999" << "12/31/1999" << "";
+        QTest::newRow("day first read month first is month 31") << us << "311299" << missing << "" << "311299" << notation;
+        QTest::newRow("30 is the pivot") << nl << "010130" << missing << "1/01/1930" << "1/01/1930" << "";
+        QTest::newRow("29 lies after today") << nl << "010129" << missing << "" << "1/01/2029" << future;
+        QTest::newRow("29 allowed in the future") << nl << "010129" << QVariant(true) << "1/01/2029" << "1/01/2029" << "";
+        QTest::newRow("future refused when False is passed") << us << "010129" << QVariant(false) << "" << "1/1/2029" << future;
+        QTest::newRow("2000 is a leap year") << nl << "290200" << missing << "29/02/2000" << "29/02/2000" << "";
+        QTest::newRow("2000 is a leap year month first") << us << "022900" << missing << "2/29/2000" << "2/29/2000" << "";
+        QTest::newRow("29 January 2000") << nl << "290100" << missing << "29/01/2000" << "29/01/2000" << "";
+        QTest::newRow("month 29 month first") << us << "290100" << missing << "" << "290100" << notation;
+        QTest::newRow("2004 is a leap year") << nl << "290204" << missing << "29/02/2004" << "29/02/2004" << "";
+        QTest::newRow("2003 is not a leap year") << nl << "290203" << missing << "" << "290203" << notation;
+        QTest::newRow("February 30") << nl << "300204" << missing << "" << "300204" << notation;
+        QTest::newRow("April has 30 days") << nl << "310400" << missing << "" << "310400" << notation;
+        QTest::newRow("April 30") << nl << "300400" << missing << "30/04/2000" << "30/04/2000" << "";
+        QTest::newRow("December has 31 days") << nl << "321200" << missing << "" << "321200" << notation;
+        QTest::newRow("month 13") << nl << "011300" << missing << "" << "011300" << notation;
+        QTest::newRow("day 0 rolls back a day") << nl << "001200" << missing << "30/11/2000" << "30/11/2000" << "";
+        QTest::newRow("month 0 rolls back a month") << nl << "010000" << missing << "1/12/1999" << "1/12/1999" << "";
+        QTest::newRow("day 0 month first") << us << "120000" << missing << "11/30/2000" << "11/30/2000" << "";
+        QTest::newRow("all zeros roll back twice") << nl << "000000" << missing << "30/11/1999" << "30/11/1999" << "";
+        QTest::newRow("five digits") << nl << "12345" << missing << "" << "12345" << notation;
+        QTest::newRow("seven digits") << nl << "1234567" << missing << "" << "1234567" << notation;
+        QTest::newRow("twelve digits") << nl << "123456789012" << missing << "" << "123456789012" << notation;
+        QTest::newRow("twenty digits") << nl << "12345678901234567890" << missing << "" << "12345678901234567890" << notation;
+        QTest::newRow("a letter among six") << nl << "12a456" << missing << "" << "12a456" << notation;
+        QTest::newRow("letters") << nl << "morgen" << missing << "" << "morgen" << notation;
+        QTest::newRow("negative number") << nl << "-12345" << missing << "" << "-12345" << notation;
+        QTest::newRow("slashes, two-digit year") << nl << "1/2/03" << missing << "1/02/2003" << "1/02/2003" << "";
+        QTest::newRow("slashes month first") << us << "1/2/03" << missing << "1/2/2003" << "1/2/2003" << "";
+        QTest::newRow("German points") << "de_DE" << "1.2.03" << missing << "01.02.2003" << "01.02.2003" << "";
+        QTest::newRow("German six digits") << "de_DE" << "311299" << missing << "31.12.1999" << "31.12.1999" << "";
+        QTest::newRow("German slashes") << "de_DE" << "1/2/2003" << missing << "01.02.2003" << "01.02.2003" << "";
+        QTest::newRow("French dashes") << "fr_BE" << "1-2-03" << missing << "1/02/2003" << "1/02/2003" << "";
+        QTest::newRow("French blanks") << "fr_BE" << "29 2 2004" << missing << "29/02/2004" << "29/02/2004" << "";
+        QTest::newRow("day and month are this year") << nl << "1/2" << missing << "1/02/2024" << "1/02/2024" << "";
+        QTest::newRow("month and day are this year") << us << "2/1" << missing << "2/1/2024" << "2/1/2024" << "";
+        QTest::newRow("a month name, this year") << nl << "15 maart" << missing << "15/03/2024" << "15/03/2024" << "";
+        QTest::newRow("later this year is the future") << nl << "1/12" << missing << "" << "1/12/2024" << future;
+        QTest::newRow("31/02 is no day this year") << nl << "31/02" << missing << "" << "31/02" << notation;
+        QTest::newRow("dashes") << nl << "1-2-2003" << missing << "1/02/2003" << "1/02/2003" << "";
+        QTest::newRow("points") << nl << "1.2.2003" << missing << "1/02/2003" << "1/02/2003" << "";
+        QTest::newRow("blanks between") << nl << "1 2 2003" << missing << "1/02/2003" << "1/02/2003" << "";
+        QTest::newRow("trimmed before reading") << nl << "  14/3/2024  " << missing << "14/03/2024" << "14/03/2024" << "";
+        QTest::newRow("today is not the future") << nl << "15/03/2024" << missing << "15/03/2024" << "15/03/2024" << "";
+        QTest::newRow("tomorrow is") << nl << "16/03/2024" << missing << "" << "16/03/2024" << future;
+        QTest::newRow("tomorrow allowed") << nl << "16/03/2024" << QVariant(true) << "16/03/2024" << "16/03/2024" << "";
+        QTest::newRow("tomorrow month first") << us << "3/16/2024" << missing << "" << "3/16/2024" << future;
+        QTest::newRow("31 February") << nl << "31/02/2003" << missing << "" << "31/02/2003" << notation;
+        QTest::newRow("day and month 0 with separators") << nl << "00/00/00" << missing << "" << "00/00/00" << notation;
+        QTest::newRow("year 0 is 2000") << nl << "1/1/0" << missing << "1/01/2000" << "1/01/2000" << "";
+        QTest::newRow("year 9999 is the future") << nl << "31/12/9999" << missing << "" << "31/12/9999" << future;
+        QTest::newRow("year 9999 allowed") << nl << "31/12/9999" << QVariant(true) << "31/12/9999" << "31/12/9999" << "";
+        QTest::newRow("a time alone is the zero date, shown as a time") << nl << "8:30" << missing << "00:00:00" << "00:00:00" << "";
+        QTest::newRow("time out of range") << nl << "99:99" << missing << "" << "99:99" << notation;
+        // clang-format on
+    }
+    void controleerDatum()
+    {
+        QFETCH(QString, locale);
+        QFETCH(QString, input);
+        QFETCH(QVariant, allowFuture);
+        QFETCH(QString, report);
+        const auto machine = installDateMachine(locale);
+        clsqorGenLib lib;
+        QVariantList args { input };
+        if (allowFuture.isValid())
+            args.append(allowFuture);
+        QTEST(lib.Invoke(QStringLiteral("ControleerDatum"), args).toString(), "result");
+        QTEST(args.first().toString(), "after");
+        const QString prompt = shownPrompt(*machine);
+        if (report.isEmpty())
+            QCOMPARE(prompt, QString());
+        else if (report == future)
+            QCOMPARE(prompt, QStringLiteral("Datum in toekomst niet toegestaan."));
+        else
+            QVERIFY2(prompt.startsWith(QStringLiteral("Datum Ongeldig.")), qPrintable(prompt));
+
+        // Without MBox the same answer comes without a word.
+        machine->clearRecords();
+        QVariantList quiet { input, allowFuture.isValid() ? allowFuture : QVariant(false), false };
+        QTEST(lib.Invoke(QStringLiteral("ControleerDatum"), quiet).toString(), "result");
+        QVERIFY(machine->shown().isEmpty());
+    }
+
+    void centuryPivotFollowsTheWindow_data()
+    {
+        QTest::addColumn<int>("twoDigitYearMax");
+        QTest::addColumn<int>("pivot");
+        QTest::addColumn<QString>("input");
+        QTest::addColumn<QString>("result");
+        // clang-format off
+        QTest::newRow("usual window") << 2029 << 30 << "010129" << "1/01/2029";
+        QTest::newRow("window to 2049, 49") << 2049 << 50 << "010149" << "1/01/2049";
+        QTest::newRow("window to 2049, 50") << 2049 << 50 << "010150" << "1/01/1950";
+        QTest::newRow("all in the 1900s") << 1999 << 0 << "010100" << "1/01/1900";
+        QTest::newRow("1900 is no leap year") << 1999 << 0 << "290200" << "";
+        QTest::newRow("all in the 2000s") << 2099 << 67 << "010166" << "1/01/2066";
+        QTest::newRow("all in the 2000s, 67") << 2099 << 67 << "010167" << "1/01/1967";
+        // clang-format on
+    }
+    void centuryPivotFollowsTheWindow()
+    {
+        QFETCH(int, twoDigitYearMax);
+        QFETCH(QString, input);
+        const auto machine
+            = installDateMachine(QStringLiteral("nl_BE"), test::fixedNow, twoDigitYearMax);
+        QTEST(centuryPivot(machine->regionalSettings()), "pivot");
+        clsqorGenLib lib;
+        QString dt = input;
+        QTEST(lib.ControleerDatum(dt, true, false), "result");
+    }
+
+    void notationMessage_data()
+    {
+        QTest::addColumn<QString>("locale");
+        QTest::addColumn<int>("offset");
+        QTest::addColumn<QString>("prompt");
+        QTest::addColumn<QString>("title");
+        // clang-format off
+        QTest::newRow("Dutch, day first") << "nl_BE" << 0
+            << dutchNotationMessage("DDMMJJ", "DD/MM/JJ", "DD/MM/JJJJ") << "Fout !";
+        QTest::newRow("Dutch, month first") << "en_US" << 0
+            << dutchNotationMessage("MMDDJJ", "MM/DD/JJ", "MM/DD/JJJJ") << "Fout !";
+        QTest::newRow("Dutch, points") << "de_DE" << 0
+            << dutchNotationMessage("DDMMJJ", "DD.MM.JJ", "DD.MM.JJJJ") << "Fout !";
+        QTest::newRow("French, day first") << "fr_BE" << 10000
+            << QStringLiteral("Date non valable.  Utilisez une des notations suivantes :") + cr2
+               + "JJMMAA  ou  JJ/MM/AA  ou  JJ/MM/AAAA" << "Erreur !";
+        QTest::newRow("English, month first") << "en_US" << 20000
+            << QStringLiteral("Invalid Date.  Use one of the following notations :") + cr2
+               + "MMDDYY  or  MM/DD/YY  or  MM/DD/YYYY" << "Error !";
+        // clang-format on
+    }
+    void notationMessage()
+    {
+        QFETCH(QString, locale);
+        QFETCH(int, offset);
+        QFETCH(QString, prompt);
+        QFETCH(QString, title);
+        const auto machine = installDateMachine(locale);
+        clsqorGenLib lib;
+        lib.setProperty("Offset", offset);
+        QString dt = QStringLiteral("31/31/31");
+        QCOMPARE(lib.ControleerDatum(dt), QString());
+        QCOMPARE(test::onlyMessage(*machine), test::messageBox(prompt, 48, title));
+    }
+
+    void futureMessageInFrench()
+    {
+        const auto machine = installDateMachine(QStringLiteral("fr_BE"));
+        clsqorGenLib lib;
+        lib.setProperty("Offset", 10000);
+        QString dt = QStringLiteral("16/03/2024");
+        QCOMPARE(lib.ControleerDatum(dt), QString());
+        QCOMPARE(dt, QStringLiteral("16/03/2024"));
+        QCOMPARE(test::onlyMessage(*machine),
+            test::messageBox(
+                QStringLiteral("Date future non autorisée."), 48, QStringLiteral("Erreur !")));
+    }
+
+    void megabyteIsRefused()
+    {
+        const auto machine = installDateMachine(QStringLiteral("nl_BE"));
+        clsqorGenLib lib;
+        QString dt = QString(1 << 20, QLatin1Char('1'));
+        QCOMPARE(lib.ControleerDatum(dt), QString());
+        QCOMPARE(dt.size(), 1 << 20);
+        QCOMPARE(machine->shown().size(), 1);
+    }
+};
+
+QTEST_GUILESS_MAIN(TestDateEntry)
+#include "tst_dateentry.moc"

@@ -1,0 +1,194 @@
+#include "datetime/holidaytext.h"
+#include "datetime/publicholidays.h"
+
+#include <QTest>
+
+using namespace qor;
+
+namespace {
+
+// Easter Sunday 2000-2030 from the published church tables.
+const QList<QDate> easterReference {
+    QDate(2000, 4, 23),
+    QDate(2001, 4, 15),
+    QDate(2002, 3, 31),
+    QDate(2003, 4, 20),
+    QDate(2004, 4, 11),
+    QDate(2005, 3, 27),
+    QDate(2006, 4, 16),
+    QDate(2007, 4, 8),
+    QDate(2008, 3, 23),
+    QDate(2009, 4, 12),
+    QDate(2010, 4, 4),
+    QDate(2011, 4, 24),
+    QDate(2012, 4, 8),
+    QDate(2013, 3, 31),
+    QDate(2014, 4, 20),
+    QDate(2015, 4, 5),
+    QDate(2016, 3, 27),
+    QDate(2017, 4, 16),
+    QDate(2018, 4, 1),
+    QDate(2019, 4, 21),
+    QDate(2020, 4, 12),
+    QDate(2021, 4, 4),
+    QDate(2022, 4, 17),
+    QDate(2023, 4, 9),
+    QDate(2024, 3, 31),
+    QDate(2025, 4, 20),
+    QDate(2026, 4, 5),
+    QDate(2027, 3, 28),
+    QDate(2028, 4, 16),
+    QDate(2029, 4, 1),
+    QDate(2030, 4, 21),
+};
+
+QList<QDate> datesOf(const QList<PublicHoliday> &days)
+{
+    QList<QDate> dates;
+    for (const PublicHoliday &day : days)
+        dates.append(day.date);
+    return dates;
+}
+
+// The day/month pairs of a holiday text, as dates of a year.
+QList<QDate> datesOfText(const QString &text, int year)
+{
+    QList<QDate> dates;
+    for (const QString &pair : text.split(QLatin1Char(','))) {
+        const QStringList parts = pair.split(QLatin1Char('/'));
+        dates.append(QDate(year, parts.at(1).toInt(), parts.at(0).toInt()));
+    }
+    return dates;
+}
+
+} // namespace
+
+class TestPublicHolidays : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void easterMatchesTheReference_data()
+    {
+        QTest::addColumn<QDate>("easter");
+        for (const QDate &easter : easterReference)
+            QTest::newRow(qPrintable(QString::number(easter.year()))) << easter;
+    }
+    void easterMatchesTheReference()
+    {
+        QFETCH(QDate, easter);
+        const int year = easter.year();
+        QCOMPARE(easterSunday(year), easter);
+
+        // Belgium: seven fixed days and the three movable Mondays and Thursday.
+        const QList<QDate> expectedBE { QDate(year, 1, 1), easter.addDays(1), QDate(year, 5, 1),
+            easter.addDays(39), easter.addDays(50), QDate(year, 7, 21), QDate(year, 8, 15),
+            QDate(year, 11, 1), QDate(year, 11, 11), QDate(year, 12, 25) };
+        QList<QDate> sortedBE = expectedBE;
+        std::sort(sortedBE.begin(), sortedBE.end());
+        QCOMPARE(datesOf(publicHolidays(year, QStringLiteral("BE"))), sortedBE);
+
+        QList<QDate> expectedLU { QDate(year, 1, 1), easter.addDays(1), QDate(year, 5, 1),
+            easter.addDays(39), easter.addDays(50), QDate(year, 6, 23), QDate(year, 8, 15),
+            QDate(year, 11, 1), QDate(year, 12, 25), QDate(year, 12, 26) };
+        if (year >= 2019)
+            expectedLU.append(QDate(year, 5, 9));
+        std::sort(expectedLU.begin(), expectedLU.end());
+        QCOMPARE(datesOf(publicHolidays(year, QStringLiteral("LU"))), expectedLU);
+        for (const QDate &d : { easter.addDays(1), easter.addDays(50) })
+            QCOMPARE(d.dayOfWeek(), int(Qt::Monday));
+        QCOMPARE(easter.addDays(39).dayOfWeek(), int(Qt::Thursday));
+    }
+
+    void communities_data()
+    {
+        QTest::addColumn<int>("community");
+        QTest::addColumn<QList<QDate>>("extra");
+        // clang-format off
+        QTest::newRow("none") << int(BelgianCommunity::None) << QList<QDate> {};
+        QTest::newRow("Flemish") << int(BelgianCommunity::Flemish) << QList<QDate> { QDate(2024, 7, 11) };
+        QTest::newRow("French") << int(BelgianCommunity::French) << QList<QDate> { QDate(2024, 9, 27) };
+        QTest::newRow("German-speaking") << int(BelgianCommunity::GermanSpeaking) << QList<QDate> { QDate(2024, 11, 15) };
+        QTest::newRow("all") << int(BelgianCommunity::All)
+            << QList<QDate> { QDate(2024, 7, 11), QDate(2024, 9, 27), QDate(2024, 11, 15) };
+        // clang-format on
+    }
+    void communities()
+    {
+        QFETCH(int, community);
+        QFETCH(QList<QDate>, extra);
+        const QList<QDate> common = datesOf(publicHolidays(2024, QStringLiteral("BE")));
+        QList<QDate> with
+            = datesOf(publicHolidays(2024, QStringLiteral("BE"), BelgianCommunity(community)));
+        QCOMPARE(with.size(), common.size() + extra.size());
+        for (const QDate &d : extra)
+            QVERIFY(with.removeOne(d));
+        QCOMPARE(with, common);
+        // Luxembourg has no communities.
+        QCOMPARE(
+            publicHolidays(2024, QStringLiteral("LU"), BelgianCommunity(community)).size(), 11);
+    }
+
+    void namedInDutch()
+    {
+        const QList<PublicHoliday> days = publicHolidays(2024, QStringLiteral("BE"));
+        QCOMPARE(days.at(1).date, QDate(2024, 4, 1));
+        QCOMPARE(days.at(1).name, QStringLiteral("Paasmaandag"));
+        QCOMPARE(days.last().name, QStringLiteral("Kerstmis"));
+    }
+
+    void noHolidays_data()
+    {
+        QTest::addColumn<int>("year");
+        QTest::addColumn<QString>("country");
+        // clang-format off
+        QTest::newRow("another country") << 2024 << "NL";
+        QTest::newRow("lower case") << 2024 << "be";
+        QTest::newRow("empty country") << 2024 << "";
+        QTest::newRow("before the Gregorian calendar") << 1582 << "BE";
+        QTest::newRow("year 0") << 0 << "BE";
+        QTest::newRow("negative year") << -5 << "LU";
+        QTest::newRow("beyond 9999") << 10000 << "BE";
+        // clang-format on
+    }
+    void noHolidays()
+    {
+        QFETCH(int, year);
+        QFETCH(QString, country);
+        QVERIFY(publicHolidays(year, country).isEmpty());
+    }
+
+    void edgesOfTheRange()
+    {
+        QCOMPARE(easterSunday(1583), QDate(1583, 4, 10));
+        QCOMPARE(easterSunday(9999), QDate(9999, 3, 28));
+        QCOMPARE(publicHolidays(9999, QStringLiteral("BE")).size(), 10);
+        QVERIFY(!easterSunday(1582).isValid());
+    }
+
+    // The classic table of the date control holds Easter Sunday, Ascension
+    // and Whit Sunday of 2002 to 2005 (2003 Easter only).
+    void classicTableAgreesWithEaster_data()
+    {
+        QTest::addColumn<int>("year");
+        QTest::addColumn<QList<int>>("daysAfterEaster");
+        QTest::newRow("2002") << 2002 << QList<int> { 0, 39, 49 };
+        QTest::newRow("2003") << 2003 << QList<int> { 0 };
+        QTest::newRow("2004") << 2004 << QList<int> { 0, 39, 49 };
+        QTest::newRow("2005") << 2005 << QList<int> { 0, 39, 49 };
+    }
+    void classicTableAgreesWithEaster()
+    {
+        QFETCH(int, year);
+        QFETCH(QList<int>, daysAfterEaster);
+        const QList<QDate> luxembourg
+            = datesOfText(holidayText(QStringLiteral("LU"), 0, year), year);
+        const QList<QDate> movable = luxembourg.mid(6);
+        QCOMPARE(movable.size(), daysAfterEaster.size());
+        for (int i = 0; i < movable.size(); ++i)
+            QCOMPARE(movable.at(i), easterSunday(year).addDays(daysAfterEaster.at(i)));
+    }
+};
+
+QTEST_GUILESS_MAIN(TestPublicHolidays)
+#include "tst_publicholidays.moc"

@@ -1,0 +1,204 @@
+#include "datetimetest.h"
+
+#include "datetime/timeentry.h"
+#include "tests/common/errornumber.h"
+
+#include <QTest>
+
+using namespace qor;
+using test::installDateMachine;
+using test::shownPrompt;
+
+namespace {
+
+const QString cr2 = QString(2, QChar(13));
+const QString dutchTimeMessage
+    = QStringLiteral("Ongeldig Uur...  Gebruik één van volgende schrijfwijzes :") + cr2
+    + QStringLiteral("Bvb :    830   0830   8:30   08:30");
+
+} // namespace
+
+class TestTimeEntry : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    // The same typing under nl_BE (the clock writes 08:30:00) and en_US
+    // (8:30:00 AM: the separator is found at the 2nd place).
+    void controleerUur_data()
+    {
+        QTest::addColumn<QString>("input");
+        QTest::addColumn<bool>("moreThan24");
+        QTest::addColumn<QString>("twoDigitHours"); // result with ReturnHHMM True
+        QTest::addColumn<QString>("oneDigitHours"); // with ReturnHHMM False
+        QTest::addColumn<QString>("after"); // Uur with ReturnHHMM True
+        // clang-format off
+        QTest::newRow("three digits") << "830" << false << "08:30" << "8:30" << "08:30";
+        QTest::newRow("four digits") << "0830" << false << "08:30" << "8:30" << "08:30";
+        QTest::newRow("point") << "8.30" << false << "08:30" << "8:30" << "08:30";
+        QTest::newRow("letter h") << "8h30" << false << "08:30" << "8:30" << "08:30";
+        QTest::newRow("colon") << "08:30" << false << "08:30" << "8:30" << "08:30";
+        QTest::newRow("comma") << "8,30" << false << "08:30" << "8:30" << "08:30";
+        QTest::newRow("hyphen") << "8-30" << false << "08:30" << "8:30" << "08:30";
+        QTest::newRow("blank inside, trimmed outside") << "  8 30  " << false << "08:30" << "8:30" << "08:30";
+        QTest::newRow("one digit is minutes") << "8" << false << "00:08" << "0:08" << "00:08";
+        QTest::newRow("two digits are minutes") << "45" << false << "00:45" << "0:45" << "00:45";
+        QTest::newRow("midnight") << "000" << false << "00:00" << "0:00" << "00:00";
+        QTest::newRow("last minute of the day") << "2359" << false << "23:59" << "23:59" << "23:59";
+        QTest::newRow("24 hours refused") << "2400" << false << "" << "" << "24:00";
+        QTest::newRow("24 hours allowed") << "2400" << true << "24:00" << "24:00" << "24:00";
+        QTest::newRow("five digits allowed") << "12345" << true << "123:45" << "123:45" << "123:45";
+        QTest::newRow("five digits refused") << "12345" << false << "" << "" << "123:45";
+        QTest::newRow("minutes 60") << "860" << false << "" << "" << "08:60";
+        QTest::newRow("minutes 59") << "859" << false << "08:59" << "8:59" << "08:59";
+        QTest::newRow("one digit behind the separator") << "8:5" << false << "" << "" << "8:5";
+        QTest::newRow("seconds") << "8:30:00" << false << "" << "" << "8:30:00";
+        QTest::newRow("doubled separator") << "1::30" << false << "" << "" << "1::30";
+        QTest::newRow("separator at the end") << "8:3:" << false << "" << "" << "08:3:";
+        QTest::newRow("separator alone") << ":" << false << "" << "" << ":";
+        QTest::newRow("letters pass the place test, not the count") << "abc" << false << "" << "" << "00:::";
+        QTest::newRow("99:99") << "99:99" << false << "" << "" << "99:99";
+        QTest::newRow("99:99 with more hours") << "99:99" << true << "" << "" << "99:99";
+        QTest::newRow("negative is no sign") << "-830" << false << "" << "" << ":830";
+        QTest::newRow("twelve digits allowed") << "123456789012" << true << "1234567890:12" << "1234567890:12" << "1234567890:12";
+        QTest::newRow("empty") << "" << false << "" << "" << "";
+        QTest::newRow("blanks") << "    " << false << "" << "" << "";
+        // clang-format on
+    }
+    void controleerUur()
+    {
+        QFETCH(QString, input);
+        QFETCH(bool, moreThan24);
+        QFETCH(QString, twoDigitHours);
+        QFETCH(QString, oneDigitHours);
+        for (const QString locale : { QStringLiteral("nl_BE"), QStringLiteral("en_US") }) {
+            const auto machine = installDateMachine(locale);
+            clsqorGenLib lib;
+            QVariantList args { input, true, moreThan24 };
+            QCOMPARE(lib.Invoke(QStringLiteral("ControleerUur"), args).toString(), twoDigitHours);
+            QTEST(args.first().toString(), "after");
+            const bool blank = input.trimmed().isEmpty();
+            QCOMPARE(shownPrompt(*machine),
+                twoDigitHours.isEmpty() && !blank ? dutchTimeMessage : QString());
+
+            QString uur = input;
+            QCOMPARE(lib.ControleerUur(uur, true, moreThan24, false), oneDigitHours);
+        }
+    }
+
+    void hoursBeyondALongOverflow_data()
+    {
+        QTest::addColumn<QString>("input");
+        QTest::addColumn<int>("error");
+        // clang-format off
+        QTest::newRow("twenty digits") << "12345678901234567890" << 6;
+        QTest::newRow("twenty digits with a separator") << "123456789012345678:90" << 6;
+        QTest::newRow("just beyond a Long") << "214748364800" << 6;
+        QTest::newRow("a Long still fits") << "214748364700" << 0;
+        QTest::newRow("a megabyte of digits") << QString(1 << 20, QLatin1Char('7')) << 6;
+        QTest::newRow("a megabyte of letters") << QString(1 << 20, QLatin1Char('x')) << 0;
+        // clang-format on
+    }
+    void hoursBeyondALongOverflow()
+    {
+        QFETCH(QString, input);
+        installDateMachine(QStringLiteral("nl_BE"));
+        clsqorGenLib lib;
+        QString uur = input;
+        QTEST(test::errorNumber([&] { lib.ControleerUur(uur, false, true); }), "error");
+    }
+
+    void separatorOfTheSystemTime_data()
+    {
+        QTest::addColumn<QString>("timeText");
+        QTest::addColumn<QString>("separator");
+        // clang-format off
+        QTest::newRow("two-digit hours") << "08:30:00" << ":";
+        QTest::newRow("one-digit hours") << "8:30:00 AM" << ":";
+        QTest::newRow("points") << "08.30.00" << ".";
+        QTest::newRow("no separator") << "083000" << "";
+        QTest::newRow("too short") << "8" << "";
+        // clang-format on
+    }
+    void separatorOfTheSystemTime()
+    {
+        QFETCH(QString, timeText);
+        QTEST(timeSeparatorOf(timeText), "separator");
+    }
+
+    // With no separator it counts as found at the first place: only three
+    // characters pass the positional test.
+    void withoutSeparator_data()
+    {
+        QTest::addColumn<QString>("input");
+        QTest::addColumn<QString>("result");
+        QTest::addColumn<bool>("refused");
+        // clang-format off
+        QTest::newRow("three digits") << "830" << "00830" << false;
+        QTest::newRow("four digits") << "0830" << "" << true;
+        QTest::newRow("a dropped point leaves the digits") << "8.30" << "00830" << false;
+        QTest::newRow("a dropped letter passes over the next character") << "h.30" << "00.30" << false;
+        QTest::newRow("letters vanish") << "hh" << "" << true;
+        // clang-format on
+    }
+    void withoutSeparator()
+    {
+        QFETCH(QString, input);
+        bool refused = false;
+        QString uur = input;
+        QTEST(readTimeEntry(uur, QString(), {}, refused), "result");
+        QTEST(refused, "refused");
+    }
+
+    void timeMessageInFrench()
+    {
+        const auto machine = installDateMachine(QStringLiteral("fr_BE"));
+        clsqorGenLib lib;
+        lib.setProperty("Offset", 10000);
+        QString uur = QStringLiteral("8:5");
+        QCOMPARE(lib.ControleerUur(uur), QString());
+        QCOMPARE(test::onlyMessage(*machine),
+            test::messageBox(
+                QStringLiteral("Heure non valable...  Utilisez une des notations suivantes :") + cr2
+                    + QStringLiteral("Ex :    830   0830   8:30   08:30"),
+                48, QStringLiteral("Erreur !")));
+    }
+
+    void getTime_data()
+    {
+        QTest::addColumn<QString>("locale");
+        QTest::addColumn<QString>("input");
+        QTest::addColumn<QString>("result");
+        // clang-format off
+        QTest::newRow("hours and minutes") << "nl_BE" << "8:30" << "#08:30#";
+        QTest::newRow("seconds dropped") << "nl_BE" << "17:05:59" << "#17:05#";
+        QTest::newRow("afternoon") << "en_US" << "2:15 PM" << "#14:15#";
+        QTest::newRow("date and time") << "nl_BE" << "1/02/2003 8:30" << "#08:30#";
+        QTest::newRow("a date alone is midnight") << "nl_BE" << "1/02/2003" << "#00:00#";
+        QTest::newRow("a literal stays") << "nl_BE" << "#08:30#" << "#08:30#";
+        QTest::newRow("a lone hash is its own literal") << "nl_BE" << "#" << "#";
+        QTest::newRow("99:99") << "nl_BE" << "99:99" << "";
+        QTest::newRow("letters") << "nl_BE" << "acht uur" << "";
+        QTest::newRow("empty") << "nl_BE" << "" << "";
+        QTest::newRow("blanks") << "nl_BE" << "   " << "";
+        // clang-format on
+    }
+    void getTime()
+    {
+        QFETCH(QString, locale);
+        QFETCH(QString, input);
+        QFETCH(QString, result);
+        const auto machine = installDateMachine(locale);
+        clsqorGenLib lib;
+        QVariantList args { input };
+        QCOMPARE(lib.Invoke(QStringLiteral("GetTime"), args).toString(), result);
+        QCOMPARE(test::onlyMessage(*machine),
+            result.isEmpty() ? test::messageBox(
+                QStringLiteral("Invalid time ") + input + QStringLiteral(" for GetTime ..."), 16,
+                QStringLiteral("qorSoft General Library"))
+                             : QVariantMap());
+    }
+};
+
+QTEST_GUILESS_MAIN(TestTimeEntry)
+#include "tst_timeentry.moc"
