@@ -68,6 +68,11 @@ function(qor_library name)
   add_library(qorGenLib::${L_EXPORT_NAME} ALIAS ${name})
   set_target_properties(${name} PROPERTIES EXPORT_NAME ${L_EXPORT_NAME}
                         VERSION ${PROJECT_VERSION} SOVERSION ${PROJECT_VERSION_MAJOR})
+  # A symbol the library needs from another must be exported there: say so
+  # when the library is linked, not when its first user is.
+  if(NOT QORGENLIB_SANITIZE)
+    target_link_options(${name} PRIVATE LINKER:--no-undefined)
+  endif()
   add_library(${name}Internal STATIC)
   # Directly linked object libraries give their objects to the library.
   foreach(layer IN LISTS L_LAYERS)
