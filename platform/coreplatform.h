@@ -41,6 +41,9 @@ public:
     bool writeFile(const QString &path, const QByteArray &contents) override;
     QString systemDirectory() const override;
     void setSystemDirectory(const QString &path);
+    // Sound: the development sound folder.
+    QString developmentSoundDirectory() const override;
+    void setDevelopmentSoundDirectory(const QString &path);
 
     qint64 startProcess(const QString &commandLine, int windowStyle) override;
     void waitForProcess(qint64 processId) override;
@@ -59,6 +62,7 @@ public:
 private:
     RegionalSettings m_settings;
     QString m_systemDirectory;
+    QString m_developmentSoundDirectory;
     QHash<qint64, QProcess *> m_processes;
 };
 
