@@ -8,7 +8,6 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
-#include <QTimer>
 
 namespace qor {
 
@@ -90,17 +89,29 @@ InputBoxEAnswer frmInputBoxE::answer() const
     return { false, m_text->text() };
 }
 
+// Enter and Escape answer the box, wherever they are typed.
+bool frmInputBoxE::answerKey(const QKeyEvent *event)
+{
+    switch (event->key()) {
+    case Qt::Key_Return:
+    case Qt::Key_Enter: choose(true); return true;
+    case Qt::Key_Escape: choose(false); return true;
+    default: return false;
+    }
+}
+
 bool frmInputBoxE::eventFilter(QObject *watched, QEvent *event)
 {
-    if (watched == m_text && event->type() == QEvent::KeyPress) {
-        switch (static_cast<QKeyEvent *>(event)->key()) {
-        case Qt::Key_Return:
-        case Qt::Key_Enter: choose(true); return true;
-        case Qt::Key_Escape: choose(false); return true;
-        default: break;
-        }
-    }
+    if (watched == m_text && event->type() == QEvent::KeyPress
+        && answerKey(static_cast<QKeyEvent *>(event)))
+        return true;
     return QDialog::eventFilter(watched, event);
+}
+
+void frmInputBoxE::keyPressEvent(QKeyEvent *event)
+{
+    if (!answerKey(event))
+        QDialog::keyPressEvent(event);
 }
 
 void frmInputBoxE::showEvent(QShowEvent *event)
@@ -109,13 +120,11 @@ void frmInputBoxE::showEvent(QShowEvent *event)
     if (m_shown)
         return;
     m_shown = true;
-    QTimer::singleShot(0, this, &frmInputBoxE::firstShown);
+    firstShown();
 }
 
 void frmInputBoxE::firstShown()
 {
-    if (!isVisible())
-        return;
     platform().setMousePointer(0);
     playDialogSound(typeSoundFile(questionType));
 }

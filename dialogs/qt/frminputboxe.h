@@ -25,12 +25,14 @@ public:
 
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
     void showEvent(QShowEvent *event) override;
 
 private:
     void layOut(const InputBoxERequest &request);
     void firstShown();
     void choose(bool ok);
+    bool answerKey(const QKeyEvent *event);
 
     QLabel *m_label;
     QLineEdit *m_text;

@@ -12,7 +12,6 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QPushButton>
-#include <QTimer>
 
 namespace qor {
 
@@ -132,14 +131,11 @@ void frmMsgBoxE::showEvent(QShowEvent *event)
     if (m_shown)
         return;
     m_shown = true;
-    // What the box does once it is up: after the window has appeared.
-    QTimer::singleShot(0, this, &frmMsgBoxE::firstShown);
+    firstShown();
 }
 
 void frmMsgBoxE::firstShown()
 {
-    if (!isVisible() || m_answer != 0)
-        return;
     m_scanner->clear();
     modGenLib().scannerBuffer.clear();
     platform().setMousePointer(0);
