@@ -1,5 +1,8 @@
 #include "lib/clsqorgenlib.h"
 
+#include "dialogs/boxes.h"
+#include "dialogs/sound.h"
+#include "input/scanbm.h"
 #include "calculator/showcalculator.h"
 #include "calculator/vatrates.h"
 #include "input/amountkeys.h"
@@ -167,6 +170,45 @@ QString clsqorGenLib::ControleerOGM(QString &OGM, bool MBox)
 // End of identifier checks
 
 // Dialogs, scanner input and sound
+
+qint32 clsqorGenLib::MsgBoxE(const QString &Prompt, qint32 Buttons, const QString &Title)
+{
+    return msgBoxE(Prompt, Buttons, Title, m_Offset);
+}
+
+QString clsqorGenLib::InputBoxE(
+    const QString &Prompt, const QString &Title, const QString &DefaultValue, qint32 MaxLength)
+{
+    return inputBoxE(Prompt, Title, DefaultValue, MaxLength, m_Offset);
+}
+
+qint16 clsqorGenLib::ScanBM(
+    QObject *TextBox, qint16 KA, QString &ScanFormat, bool ReturnFieldOnly, bool MBox)
+{
+    return scanBM(TextBox, KA, ScanFormat, ReturnFieldOnly, MBox, m_Offset);
+}
+
+qint16 clsqorGenLib::ScanBM(QObject *TextBox, qint16 KA)
+{
+    QString scanFormat;
+    return ScanBM(TextBox, KA, scanFormat, false, true);
+}
+
+void clsqorGenLib::PlaySound(QString &FileName, bool Continuous, QString &SoundDirectory)
+{
+    playSound(FileName, Continuous, SoundDirectory, m_Offset);
+}
+
+void clsqorGenLib::PlaySound(QString &FileName, bool Continuous)
+{
+    QString soundDirectory;
+    PlaySound(FileName, Continuous, soundDirectory);
+}
+
+void clsqorGenLib::SetSound(bool SetSoundOFF)
+{
+    setSound(SetSoundOFF);
+}
 
 // End of dialogs, scanner input and sound
 

@@ -104,6 +104,25 @@ public:
     // End of identifier checks.
 
     // Dialogs, scanner input and sound.
+    // MsgBoxE returns 1, 2, 6 or 7; Buttons -1 is the identity-number box.
+    Q_CLASSINFO("MsgBoxE", "{\"Buttons\": 0, \"Title\": \"\"}")
+    Q_CLASSINFO("InputBoxE", "{\"DefaultValue\": \"\", \"MaxLength\": 250}")
+    Q_CLASSINFO("ScanBM", "{\"ScanFormat\": \"\", \"ReturnFieldOnly\": false, \"MBox\": true}")
+    Q_CLASSINFO("PlaySound", "{\"Continuous\": false, \"SoundDirectory\": \"\"}")
+    Q_INVOKABLE qint32 MsgBoxE(
+        const QString &Prompt, qint32 Buttons = 0, const QString &Title = QString());
+    // "-9999" when cancelled.
+    Q_INVOKABLE QString InputBoxE(const QString &Prompt, const QString &Title,
+        const QString &DefaultValue = QString(), qint32 MaxLength = 250);
+    // ScanFormat is written back in upper case, so C++ gets its defaults
+    // through the overload below, which is not published.
+    Q_INVOKABLE qint16 ScanBM(
+        QObject *TextBox, qint16 KA, QString &ScanFormat, bool ReturnFieldOnly, bool MBox);
+    qint16 ScanBM(QObject *TextBox, qint16 KA);
+    // FileName and SoundDirectory are written back: the full path and the folder used.
+    Q_INVOKABLE void PlaySound(QString &FileName, bool Continuous, QString &SoundDirectory);
+    void PlaySound(QString &FileName, bool Continuous = false);
+    Q_INVOKABLE void SetSound(bool SetSoundOFF);
     // End of dialogs, scanner input and sound.
 
     // Dates and times.

@@ -16,6 +16,9 @@ namespace qor {
 CorePlatform::CorePlatform()
     : m_settings(RegionalSettings::fromLocale(QLocale::system().name()))
     , m_systemDirectory(QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation))
+    , m_developmentSoundDirectory(
+          QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation)
+          + QStringLiteral("/qorSoft/MultiMedia"))
 { }
 
 CorePlatform::~CorePlatform()
@@ -147,6 +150,16 @@ QString CorePlatform::systemDirectory() const
 void CorePlatform::setSystemDirectory(const QString &path)
 {
     m_systemDirectory = path;
+}
+
+// Sound: the development sound folder.
+QString CorePlatform::developmentSoundDirectory() const
+{
+    return m_developmentSoundDirectory;
+}
+void CorePlatform::setDevelopmentSoundDirectory(const QString &path)
+{
+    m_developmentSoundDirectory = path;
 }
 
 qint64 CorePlatform::startProcess(const QString &commandLine, int)

@@ -44,6 +44,9 @@ public:
     QString systemDirectory() const override;
     std::unique_ptr<QIODevice> openFile(const QString &path, QIODevice::OpenMode mode) override;
     void setSystemDirectory(const QString &path);
+    // Sound: the development sound folder.
+    QString developmentSoundDirectory() const override;
+    void setDevelopmentSoundDirectory(const QString &path);
 
     qint64 startProcess(const QString &commandLine, int windowStyle) override;
     void waitForProcess(qint64 processId) override;
@@ -62,6 +65,7 @@ public:
 private:
     RegionalSettings m_settings;
     QString m_systemDirectory;
+    QString m_developmentSoundDirectory;
     QHash<qint64, QProcess *> m_processes;
 };
 

@@ -36,6 +36,7 @@ struct QORGENLIB_EXPORT MessageBoxERequest
     int style = 0; // the style value the caller passed
     QString title; // the title the caller passed
     QString caption; // the title bar text actually shown
+    QString text; // the text shown: the prompt, or in the identity-number mode the number explained
     int type = 4; // 0 Critical, 1 Exclamation, 2 Information, 3 Question, 4 Message
     QString typeName; // "Critical", "Exclamation", ...
     QList<DialogButton> buttons; // visible buttons, left to right
@@ -122,6 +123,9 @@ public:
     virtual std::optional<QByteArray> readFile(const QString &path) const = 0;
     virtual bool writeFile(const QString &path, const QByteArray &contents) = 0;
     virtual QString systemDirectory() const = 0;
+    // Sound: the folder a station that is not a customer station plays its
+    // sounds from, whatever the caller asks for.
+    virtual QString developmentSoundDirectory() const = 0;
 
     // Data files read and written as streams, so that a file larger than
     // memory can pass (nullptr when the file cannot be opened).

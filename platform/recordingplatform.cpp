@@ -96,10 +96,16 @@ int RecordingPlatform::messageBoxEAnswer(const MessageBoxERequest &request)
 int RecordingPlatform::messageBoxE(const MessageBoxERequest &request)
 {
     const int answer = messageBoxEAnswer(request);
+    // Dialogs: the visible buttons, left to right, as the user read them.
+    QVariantList buttonsShown;
+    for (const DialogButton &button : request.buttons)
+        buttonsShown.append(QVariantMap { { QStringLiteral("name"), button.name },
+            { QStringLiteral("caption"), button.caption } });
     record({ { QStringLiteral("kind"), QStringLiteral("MsgBoxE") },
         { QStringLiteral("prompt"), request.prompt }, { QStringLiteral("buttons"), request.style },
         { QStringLiteral("title"), request.title }, { QStringLiteral("caption"), request.caption },
-        { QStringLiteral("type"), request.typeName }, { QStringLiteral("answer"), answer } });
+        { QStringLiteral("type"), request.typeName },
+        { QStringLiteral("buttonsShown"), buttonsShown }, { QStringLiteral("answer"), answer } });
     return answer;
 }
 

@@ -6,7 +6,8 @@ set -euo pipefail
 cd "$(dirname "$0")/.."
 
 job="${1:-test}"
-packages=(cmake ninja-build g++ qt6-base-dev qt6-multimedia-dev libgl-dev pkg-config dpkg-dev file clang libclang-rt-14-dev)
+packages=(cmake ninja-build g++ qt6-base-dev qt6-multimedia-dev libgl-dev pkg-config dpkg-dev file clang libclang-rt-14-dev
+          fonts-dejavu-core pulseaudio)
 
 missing=()
 for package in "${packages[@]}"; do

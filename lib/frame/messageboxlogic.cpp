@@ -20,6 +20,12 @@ constexpr qint32 yesCaption = 1028;
 constexpr qint32 noCaption = 1029;
 constexpr qint32 firstTypeTitle = 1031; // "Fout !", then one title per type
 constexpr qint32 cancelCaption = 9500;
+// The identity-number box.
+constexpr qint32 foreignCardCaption = 1036;
+constexpr qint32 typingErrorCaption = 1037;
+constexpr qint32 invalidIdentityNumber = 1038;
+constexpr qint32 typingErrorOrForeign = 1039;
+constexpr qint32 identityNumberTitle = 1040;
 
 int resultOf(const QList<DialogButton> &buttons, int wanted)
 {
@@ -38,6 +44,16 @@ int firstVisible(const QList<DialogButton> &buttons, std::initializer_list<int> 
             return result;
     }
     return 0;
+}
+
+// Blank as the classic Trim sees it: nothing but blanks.
+bool isBlank(const QString &text)
+{
+    for (const QChar c : text) {
+        if (c != QLatin1Char(' '))
+            return false;
+    }
+    return true;
 }
 
 } // namespace
@@ -62,6 +78,9 @@ QString typeName(Type type)
 
 QList<DialogButton> buttonsOf(int style)
 {
+    if (style == MessageBoxStyle::IdentityNumber)
+        return { { QStringLiteral("cmdOK"), loadCatalogueText(foreignCardCaption), resultOK },
+            { QStringLiteral("cmdCancel"), loadCatalogueText(typingErrorCaption), resultCancel } };
     if (style & MessageBoxStyle::YesNo)
         return { { QStringLiteral("cmdYes"), loadCatalogueText(yesCaption), resultYes },
             { QStringLiteral("cmdNo"), loadCatalogueText(noCaption), resultNo } };
@@ -90,6 +109,28 @@ int resultForKey(const QList<DialogButton> &buttons, const QString &key)
     return 0;
 }
 
+int resultForIdentityKey(const QList<DialogButton> &buttons, const QString &key)
+{
+    const QString upper = key.toUpper();
+    if (upper == QLatin1String("ENTER") || upper == QLatin1String("\r")
+        || upper == QLatin1String("ESCAPE") || upper == QLatin1String("ESC")
+        || upper == QLatin1String("\x1b"))
+        return resultOf(buttons, resultCancel);
+    if (upper.size() != 1)
+        return 0;
+    for (const DialogButton &button : buttons) {
+        if (button.caption.left(1).toUpper() == upper)
+            return button.result;
+    }
+    return 0;
+}
+
+QString identityNumberText(const QString &number)
+{
+    return loadCatalogueText(invalidIdentityNumber) + QStringLiteral("  ") + number
+        + QStringLiteral("\r\r") + loadCatalogueText(typingErrorOrForeign);
+}
+
 int resultForScannedText(const QList<DialogButton> &buttons, const QString &text)
 {
     if (text == QLatin1String("OK"))
@@ -105,13 +146,20 @@ MessageBoxERequest prepare(const QString &prompt, int style, const QString &titl
     request.prompt = prompt;
     request.style = style;
     request.title = title;
-    const Type type = typeOf(style);
+    const bool identityNumber = style == MessageBoxStyle::IdentityNumber;
+    const Type type = identityNumber ? Exclamation : typeOf(style);
     request.type = type;
     request.typeName = typeName(type);
-    request.caption = title.trimmed().isEmpty() ? loadCatalogueText(firstTypeTitle + type) : title;
+    const qint32 defaultTitle = identityNumber ? identityNumberTitle : firstTypeTitle + type;
+    request.caption = isBlank(title) ? loadCatalogueText(defaultTitle) : title;
+    request.text = identityNumber ? identityNumberText(prompt) : prompt;
     request.buttons = buttonsOf(style);
     const QList<DialogButton> buttons = request.buttons;
-    request.resultForKey = [buttons](const QString &key) { return resultForKey(buttons, key); };
+    if (identityNumber)
+        request.resultForKey
+            = [buttons](const QString &key) { return resultForIdentityKey(buttons, key); };
+    else
+        request.resultForKey = [buttons](const QString &key) { return resultForKey(buttons, key); };
     // A scan arrives framed as "%[data]"; the box answers on the data alone.
     request.resultForScan = [buttons](const QString &scan) {
         QString data = scan;

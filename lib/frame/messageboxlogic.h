@@ -37,12 +37,21 @@ enum Type { Critical = 0, Exclamation = 1, Information = 2, Question = 3, Messag
 Type typeOf(int style);
 QString typeName(Type type);
 
-// The visible buttons with their captions in the module language.
+// The visible buttons with their captions in the module language. In the
+// identity-number mode cmdOK is captioned "Vreemd" (a foreign card, result 1)
+// and cmdCancel "TypeFout" (a typing error, result 2).
 QList<DialogButton> buttonsOf(int style);
 
 // The result a key chooses with these buttons (0: none). Keys are named
 // "Enter", "Escape" or by their letter, in either case.
 int resultForKey(const QList<DialogButton> &buttons, const QString &key);
+// The same in the identity-number mode: the first letter of a caption chooses
+// its button; Enter and Escape choose the typing error, so that a number that
+// fails the check is only accepted on purpose.
+int resultForIdentityKey(const QList<DialogButton> &buttons, const QString &key);
+
+// The text the identity-number box shows around the number.
+QString identityNumberText(const QString &number);
 // The result of a text the scanner field received ("OK" or "ANN"), 0 otherwise.
 int resultForScannedText(const QList<DialogButton> &buttons, const QString &text);
 

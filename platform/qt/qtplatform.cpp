@@ -1,8 +1,9 @@
 #include "platform/qt/qtplatform.h"
 
 #include "platform/keyboardlayout.h"
-#include "dialogs/qt/inputboxdialog.h"
-#include "dialogs/qt/messageboxdialog.h"
+#include "dialogs/qt/frminputboxe.h"
+#include "dialogs/qt/frmmsgboxe.h"
+#include "dialogs/qt/soundplayer.h"
 #include "calculator/qt/calculatorform.h"
 #include "calculator/qt/vatnoteform.h"
 
@@ -11,15 +12,12 @@
 #include <QKeyEvent>
 #include <QMessageBox>
 #include <QScreen>
-#include <QSoundEffect>
-#include <QUrl>
 #include <QWidget>
 
 namespace qor {
 
 struct QtPlatform::Private
 {
-    std::unique_ptr<QSoundEffect> sound;
     bool overrideCursor = false;
 };
 
@@ -81,13 +79,10 @@ QtPlatform::~QtPlatform() = default;
 
 int QtPlatform::messageBoxE(const MessageBoxERequest &request)
 {
-    MessageBoxDialog dialog(request, QApplication::activeWindow());
+    // Dialogs: the box answers Escape when closed from its title bar.
+    frmMsgBoxE dialog(request, QApplication::activeWindow());
     dialog.exec();
-    if (dialog.answer() != 0)
-        return dialog.answer();
-    // Closed from the title bar: as if Escape was pressed.
-    const int escape = request.resultForKey ? request.resultForKey(QStringLiteral("Escape")) : 0;
-    return escape != 0 ? escape : CorePlatform::messageBoxE(request);
+    return dialog.answer() != 0 ? dialog.answer() : CorePlatform::messageBoxE(request);
 }
 
 int QtPlatform::systemMessageBox(const SystemMessageBoxRequest &request)
@@ -108,7 +103,7 @@ int QtPlatform::systemMessageBox(const SystemMessageBoxRequest &request)
 
 InputBoxEAnswer QtPlatform::inputBoxE(const InputBoxERequest &request)
 {
-    InputBoxDialog dialog(request, QApplication::activeWindow());
+    frmInputBoxE dialog(request, QApplication::activeWindow());
     dialog.exec();
     return dialog.answer();
 }
@@ -149,16 +144,13 @@ void QtPlatform::processEvents()
 
 void QtPlatform::playSound(const QString &file, bool continuous)
 {
-    d->sound = std::make_unique<QSoundEffect>();
-    d->sound->setSource(QUrl::fromLocalFile(localPath(file)));
-    d->sound->setLoopCount(continuous ? QSoundEffect::Infinite : 1);
-    d->sound->play();
+    // Sound: the library's one player.
+    SoundPlayer::play(localPath(file), continuous);
 }
 
 void QtPlatform::stopSound()
 {
-    if (d->sound)
-        d->sound->stop();
+    SoundPlayer::stop();
 }
 
 ScreenInfo QtPlatform::screen() const

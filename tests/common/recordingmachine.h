@@ -37,7 +37,7 @@ inline QVariantMap onlyMessage(const RecordingPlatform &machine)
     if (shown.size() > 1)
         return { { QStringLiteral("count"), shown.size() } };
     QVariantMap box = shown.first().toMap();
-    for (const char *detail : { "kind", "type", "answer" })
+    for (const char *detail : { "kind", "type", "answer", "buttonsShown" })
         box.remove(QLatin1String(detail));
     return box;
 }

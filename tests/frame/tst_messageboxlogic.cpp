@@ -74,13 +74,35 @@ private slots:
         QTest::newRow("ok cancel: a") << 17 << "A" << 2;
         QTest::newRow("ok cancel: c") << 17 << "c" << 2;
         QTest::newRow("ok cancel: escape") << 17 << "Escape" << 2;
+        QTest::newRow("identity: v is a foreign card") << -1 << "v" << 1;
+        QTest::newRow("identity: t is a typing error") << -1 << "T" << 2;
+        QTest::newRow("identity: enter is a typing error") << -1 << "Enter" << 2;
+        QTest::newRow("identity: escape is a typing error") << -1 << "Escape" << 2;
+        QTest::newRow("identity: o chooses nothing") << -1 << "O" << 0;
+        QTest::newRow("identity: a chooses nothing") << -1 << "A" << 0;
         // clang-format on
     }
     void keysChooseVisibleButtons()
     {
         QFETCH(int, style);
         QFETCH(QString, key);
-        QTEST(MessageBoxLogic::resultForKey(MessageBoxLogic::buttonsOf(style), key), "result");
+        const MessageBoxERequest request
+            = MessageBoxLogic::prepare(QStringLiteral("p"), style, QString());
+        QTEST(request.resultForKey(key), "result");
+    }
+
+    void identityNumberBox()
+    {
+        const MessageBoxERequest request = MessageBoxLogic::prepare(
+            QStringLiteral("591234567890"), MessageBoxStyle::IdentityNumber, QStringLiteral(" "));
+        QCOMPARE(request.caption, QStringLiteral("Controle Nummer Identiteitskaart"));
+        QCOMPARE(captionsOf(request.buttons), (QStringList { "Vreemd", "TypeFout" }));
+        QCOMPARE(request.text,
+            QStringLiteral("Ongeldig Ident-Nr :  591234567890\r\rU heeft een typefout gemaakt "
+                           "of het betreft een vreemde nationaliteit."));
+        QCOMPARE(request.prompt, QStringLiteral("591234567890"));
+        QCOMPARE(request.resultForScan(QStringLiteral("%[OK]")), 1);
+        QCOMPARE(request.resultForScan(QStringLiteral("%[ANN]")), 2);
     }
 
     void scannerCodesAnswer_data()
@@ -134,6 +156,9 @@ private slots:
         QCOMPARE(shown.value("caption").toString(), QStringLiteral("Mijn titel"));
         QCOMPARE(shown.value("type").toString(), QStringLiteral("Question"));
         QCOMPARE(shown.value("answer").toInt(), 7);
+        QCOMPARE(shown.value("buttonsShown").toList(),
+            (QVariantList { QVariantMap { { "name", "cmdYes" }, { "caption", "Ja" } },
+                QVariantMap { { "name", "cmdNo" }, { "caption", "Nee" } } }));
         QVERIFY(machine->pendingAnswers().isEmpty());
     }
 };

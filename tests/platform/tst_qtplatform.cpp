@@ -39,7 +39,12 @@ private slots:
         machine = std::make_shared<QtPlatform>();
         Platform::install(machine);
     }
-    void init() { ModGenLib::reset(); }
+    void init()
+    {
+        ModGenLib::reset();
+        // No sound folder here: the boxes would first show the missing-sound notice.
+        modGenLib().soundOff = true;
+    }
 
     void messageBoxAnswersKeys_data()
     {

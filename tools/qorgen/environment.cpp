@@ -79,6 +79,8 @@ Environment Environment::fromJson(const JsonValue &env)
                     : text(value, field));
         else if (field == QLatin1String("systemDir"))
             result.m_systemDir = text(value, field);
+        else if (field == QLatin1String("devSoundDir"))
+            result.m_devSoundDir = text(value, field);
         else if (field == QLatin1String("screen"))
             result.readScreen(value);
         else if (field == QLatin1String("sound") && value.isBool())
@@ -88,7 +90,7 @@ Environment Environment::fromJson(const JsonValue &env)
         else
             throw RequestError::unreadable(
                 QStringLiteral("env: unknown field \"%1\" (known: locale, now, systemDir, "
-                               "screen, sound)")
+                               "screen, sound, devSoundDir)")
                     .arg(field));
     }
     return result;
@@ -146,6 +148,8 @@ void Environment::applyTo(RecordingPlatform &platform) const
         platform.setNow(*m_now);
     if (m_systemDir)
         platform.setSystemDirectory(*m_systemDir);
+    if (m_devSoundDir)
+        platform.setDevelopmentSoundDirectory(*m_devSoundDir);
     ScreenInfo screen = platform.screen();
     screen.width = m_width.value_or(screen.width);
     screen.height = m_height.value_or(screen.height);

@@ -34,6 +34,7 @@ private:
     std::optional<QString> m_locale;
     std::optional<QDateTime> m_now;
     std::optional<QString> m_systemDir;
+    std::optional<QString> m_devSoundDir;
     std::optional<bool> m_sound;
     std::optional<int> m_width;
     std::optional<int> m_height;

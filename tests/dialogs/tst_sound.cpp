@@ -1,0 +1,174 @@
+#include "dialogs/sound.h"
+#include "host/application.h"
+#include "lib/clsqorgenlib.h"
+
+#include "tests/common/recordingmachine.h"
+
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+#include <QTest>
+
+using namespace qor;
+
+namespace {
+
+// The library's Windows-style spelling of a folder of this machine.
+QString windowsPath(const QString &path)
+{
+    return QString(path).replace(QLatin1Char('/'), QLatin1Char('\\'));
+}
+
+void touch(const QString &path)
+{
+    QDir().mkpath(QFileInfo(path).absolutePath());
+    QFile file(path);
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write("RIFF");
+}
+
+} // namespace
+
+class TestSound : public QObject
+{
+    Q_OBJECT
+
+    std::shared_ptr<RecordingPlatform> machine;
+    std::unique_ptr<QTemporaryDir> folder;
+    std::unique_ptr<Application> application;
+    QString root; // the temporary folder, Windows-style
+
+private slots:
+    void init()
+    {
+        machine = test::installRecordingPlatform();
+        folder = std::make_unique<QTemporaryDir>();
+        root = windowsPath(folder->path());
+        machine->setSystemDirectory(root + QStringLiteral("\\system"));
+        machine->setDevelopmentSoundDirectory(root + QStringLiteral("\\dev"));
+        application = std::make_unique<Application>();
+        application->setProperty("Path", root + QStringLiteral("\\app"));
+        modGenLib().application = application.get();
+        for (const char *file : { "app/MultiMedia/Ding.wav", "given/Ding.wav", "dev/Ding.wav" })
+            touch(folder->filePath(QLatin1String(file)));
+    }
+
+    // Folders are given relative to the temporary folder; "~" stands for it.
+    void folderRules_data()
+    {
+        QTest::addColumn<QString>("directory");
+        QTest::addColumn<bool>("development");
+        QTest::addColumn<QString>("fileAfter");
+        QTest::addColumn<QString>("directoryAfter");
+        QTest::addColumn<bool>("found");
+        // clang-format off
+        QTest::newRow("application folder") << "" << false << "~\\app\\MultiMedia\\Ding.wav" << "~\\app\\MultiMedia" << true;
+        QTest::newRow("given folder") << "~\\given" << false << "~\\given\\Ding.wav" << "~\\given" << true;
+        QTest::newRow("trailing backslash") << "~\\given\\" << false << "~\\given\\Ding.wav" << "~\\given\\" << true;
+        QTest::newRow("given folder without the file") << "~\\app" << false << "~\\app\\Ding.wav" << "~\\app" << false;
+        QTest::newRow("development station ignores the folder") << "~\\given" << true << "~\\dev\\Ding.wav" << "~\\dev" << true;
+        QTest::newRow("development station, no folder") << "" << true << "~\\dev\\Ding.wav" << "~\\dev" << true;
+        // clang-format on
+    }
+    void folderRules()
+    {
+        QFETCH(QString, directory);
+        QFETCH(bool, development);
+        QFETCH(QString, fileAfter);
+        QFETCH(QString, directoryAfter);
+        QFETCH(bool, found);
+        if (development)
+            touch(folder->filePath(QStringLiteral("system/QorVelChip.dll")));
+        QString file = QStringLiteral("Ding.wav");
+        directory.replace(QLatin1Char('~'), root);
+        playSound(file, true, directory, 0);
+        QCOMPARE(file, fileAfter.replace(QLatin1Char('~'), root));
+        QCOMPARE(directory, directoryAfter.replace(QLatin1Char('~'), root));
+        const QVariantMap shown = machine->shown().value(0).toMap();
+        QCOMPARE(machine->shown().size(), 1);
+        if (found) {
+            QCOMPARE(shown.value(QStringLiteral("kind")).toString(), QStringLiteral("sound"));
+            QCOMPARE(shown.value(QStringLiteral("file")).toString(), file);
+            QCOMPARE(shown.value(QStringLiteral("continuous")).toBool(), true);
+        } else {
+            QCOMPARE(shown.value(QStringLiteral("kind")).toString(), QStringLiteral("MsgBox"));
+        }
+    }
+
+    void missingFileNotice_data()
+    {
+        QTest::addColumn<int>("offset");
+        QTest::addColumn<QString>("helpDesk");
+        QTest::newRow("Dutch") << 0 << "Neem contact op met Velantis Help-Desk.";
+        QTest::newRow("French") << 10000 << "Veuillez contacter le Help-Desk Velantis.";
+    }
+    void missingFileNotice()
+    {
+        QFETCH(int, offset);
+        QFETCH(QString, helpDesk);
+        QString file = QStringLiteral("Gone.wav");
+        QString directory;
+        playSound(file, false, directory, offset);
+        QCOMPARE(onlyMessageOf(),
+            (QVariantMap { { "prompt", "Cannot Find Sound :\r\r" + file + "\r\r" + helpDesk },
+                { "buttons", 16 }, { "title", "qorSoft General Library" } }));
+    }
+
+    // The caller's variable holds the full path, so the same call again doubles it.
+    void secondCallDoublesThePath()
+    {
+        clsqorGenLib library;
+        QString file = QStringLiteral("Ding.wav");
+        library.PlaySound(file);
+        const QString first = root + QStringLiteral("\\app\\MultiMedia\\Ding.wav");
+        QCOMPARE(file, first);
+        library.PlaySound(file);
+        QCOMPARE(file, root + QStringLiteral("\\app\\MultiMedia\\") + first);
+        QCOMPARE(machine->shown().value(1).toMap().value(QStringLiteral("kind")).toString(),
+            QStringLiteral("MsgBox"));
+    }
+
+    void emptyNameStops()
+    {
+        QString file;
+        QString directory = QStringLiteral("untouched");
+        playSound(file, true, directory, 0);
+        QCOMPARE(machine->shown(), (QVariantList { QVariantMap { { "kind", "stopSound" } } }));
+        QCOMPARE(directory, QStringLiteral("untouched"));
+    }
+
+    void noApplicationYet()
+    {
+        modGenLib().application = nullptr;
+        QString file = QStringLiteral("Ding.wav");
+        QString directory;
+        playSound(file, false, directory, 0);
+        QCOMPARE(file, QStringLiteral("\\MultiMedia\\Ding.wav"));
+        QCOMPARE(machine->shown().value(0).toMap().value(QStringLiteral("kind")).toString(),
+            QStringLiteral("MsgBox"));
+    }
+
+    // Switching sounds off silences the dialogs only.
+    void soundOffLeavesDirectCallsAlone()
+    {
+        clsqorGenLib library;
+        library.SetSound(true);
+        QVERIFY(modGenLib().soundOff);
+        playDialogSound(typeSoundFile(0));
+        QVERIFY(machine->shown().isEmpty());
+        QString file = QStringLiteral("Ding.wav");
+        library.PlaySound(file);
+        QCOMPARE(machine->shown().size(), 1);
+        library.SetSound(false);
+        touch(folder->filePath(QStringLiteral("app/MultiMedia/Critical.wav")));
+        playDialogSound(typeSoundFile(0));
+        QCOMPARE(machine->shown().value(1).toMap().value(QStringLiteral("file")).toString(),
+            root + QStringLiteral("\\app\\MultiMedia\\Critical.wav"));
+    }
+
+private:
+    QVariantMap onlyMessageOf() const { return test::onlyMessage(*machine); }
+};
+
+QTEST_APPLESS_MAIN(TestSound)
+#include "tst_sound.moc"

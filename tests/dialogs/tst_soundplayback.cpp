@@ -1,0 +1,139 @@
+#include "dialogs/qt/soundplayer.h"
+#include "lib/clsqorgenlib.h"
+#include "lib/frame/modgenlib.h"
+#include "platform/qt/qtplatform.h"
+
+#include <QDir>
+#include <QFile>
+#include <QProcess>
+#include <QSoundEffect>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QtEndian>
+
+#include <cmath>
+
+using namespace qor;
+
+namespace {
+
+// A mono 16-bit wave file of a 440 Hz tone.
+QByteArray waveOf(double seconds)
+{
+    constexpr quint32 rate = 22050;
+    const quint32 samples = quint32(seconds * rate);
+    QByteArray data;
+    for (quint32 i = 0; i < samples; ++i) {
+        const qint16 value = qint16(8000 * std::sin(2 * M_PI * 440 * i / rate));
+        data.append(reinterpret_cast<const char *>(&value), 2);
+    }
+    auto le32 = [](quint32 v) {
+        const quint32 le = qToLittleEndian(v);
+        return QByteArray(reinterpret_cast<const char *>(&le), 4);
+    };
+    auto le16 = [](quint16 v) {
+        const quint16 le = qToLittleEndian(v);
+        return QByteArray(reinterpret_cast<const char *>(&le), 2);
+    };
+    return "RIFF" + le32(36 + data.size()) + "WAVEfmt " + le32(16) + le16(1) + le16(1) + le32(rate)
+        + le32(rate * 2) + le16(2) + le16(16) + "data" + le32(data.size()) + data;
+}
+
+} // namespace
+
+// Plays real waves through a sound server of its own with a null sink; where
+// no server can start, the test says so and skips.
+class TestSoundPlayback : public QObject
+{
+    Q_OBJECT
+
+    QTemporaryDir runtime;
+    QTemporaryDir folder;
+    bool serverStarted = false;
+    std::unique_ptr<clsqorGenLib> library;
+
+private slots:
+    void initTestCase()
+    {
+        QFile::setPermissions(runtime.path(),
+            QFileDevice::ReadOwner | QFileDevice::WriteOwner | QFileDevice::ExeOwner);
+        qputenv("XDG_RUNTIME_DIR", runtime.path().toLocal8Bit());
+        qputenv("PULSE_SERVER", ("unix:" + runtime.path() + "/pulse/native").toLocal8Bit());
+        QProcess server;
+        server.start(QStringLiteral("pulseaudio"),
+            { "-n", "--daemonize=yes", "--exit-idle-time=-1", "-L",
+                "module-null-sink sink_name=null", "-L", "module-native-protocol-unix" });
+        if (!server.waitForFinished(15000)) {
+            server.kill();
+            server.waitForFinished(1000);
+            QSKIP("no sound server could start (pulseaudio did not answer)");
+        }
+        if (server.exitStatus() != QProcess::NormalExit || server.exitCode() != 0)
+            QSKIP("no sound server could start (is the pulseaudio package installed?)");
+        serverStarted = true;
+
+        Platform::install(std::make_shared<QtPlatform>());
+        auto *machine = dynamic_cast<QtPlatform *>(&platform());
+        machine->setSystemDirectory(folder.filePath(QStringLiteral("system")));
+        QDir(folder.path()).mkpath(QStringLiteral("MultiMedia"));
+        QFile tone(folder.filePath(QStringLiteral("MultiMedia/Tone.wav")));
+        QVERIFY(tone.open(QIODevice::WriteOnly));
+        tone.write(waveOf(0.3));
+        tone.close();
+        QFile text(folder.filePath(QStringLiteral("MultiMedia/Text.wav")));
+        QVERIFY(text.open(QIODevice::WriteOnly));
+        text.write("no wave at all");
+        text.close();
+        library = std::make_unique<clsqorGenLib>();
+    }
+
+    void cleanupTestCase()
+    {
+        SoundPlayer::stop();
+        if (!serverStarted)
+            return;
+        QFile pid(runtime.filePath(QStringLiteral("pulse/pid")));
+        if (pid.open(QIODevice::ReadOnly))
+            QProcess::execute(
+                QStringLiteral("kill"), { QString::fromLatin1(pid.readAll().trimmed()) });
+    }
+
+    void playsOnce()
+    {
+        QString file = QStringLiteral("Tone.wav");
+        QString directory = folder.filePath(QStringLiteral("MultiMedia"));
+        library->PlaySound(file, false, directory);
+        QSoundEffect &player = SoundPlayer::effect();
+        QTRY_VERIFY_WITH_TIMEOUT(player.isPlaying(), 10000);
+        QCOMPARE(player.loopCount(), 1);
+        QTRY_VERIFY_WITH_TIMEOUT(!player.isPlaying(), 10000);
+    }
+
+    void loopsUntilStopped()
+    {
+        QString file = QStringLiteral("Tone.wav");
+        QString directory = folder.filePath(QStringLiteral("MultiMedia"));
+        library->PlaySound(file, true, directory);
+        QSoundEffect &player = SoundPlayer::effect();
+        QTRY_VERIFY_WITH_TIMEOUT(player.isPlaying(), 10000);
+        QCOMPARE(player.loopCount(), int(QSoundEffect::Infinite));
+        QTest::qWait(800); // longer than the tone
+        QVERIFY(player.isPlaying());
+        QString stop;
+        library->PlaySound(stop);
+        QTRY_VERIFY_WITH_TIMEOUT(!player.isPlaying(), 5000);
+    }
+
+    void notAWaveStaysSilent()
+    {
+        QString file = QStringLiteral("Text.wav");
+        QString directory = folder.filePath(QStringLiteral("MultiMedia"));
+        library->PlaySound(file, false, directory);
+        QSoundEffect &player = SoundPlayer::effect();
+        QTRY_COMPARE_WITH_TIMEOUT(player.status(), QSoundEffect::Error, 10000);
+        QVERIFY(!player.isPlaying());
+    }
+};
+
+QTEST_MAIN(TestSoundPlayback)
+#include "tst_soundplayback.moc"
