@@ -1,5 +1,7 @@
 #pragma once
 
+#include "qorgenlib_export.h"
+
 #include <QList>
 #include <QRect>
 #include <QString>
@@ -41,7 +43,7 @@ struct BoxLayout
 // The form is never narrower than 4600 nor larger than the screen. A word wider
 // than the label is broken at the last character that fits; a prompt that
 // does not fit even at full width is cut at the last line that fits.
-BoxLayout layoutBox(const BoxLayoutInput &input);
+QORGENLIB_EXPORT BoxLayout layoutBox(const BoxLayoutInput &input);
 
 // The prompt wrapped to a width: paragraphs split at carriage returns (a line
 // feed, alone or after a carriage return, counts as one), each trimmed of

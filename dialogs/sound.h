@@ -1,5 +1,7 @@
 #pragma once
 
+#include "qorgenlib_export.h"
+
 #include <QString>
 
 namespace qor {
@@ -18,7 +20,7 @@ void setSound(bool soundOff);
 
 // The sound of a message type (0 Critical ... 4 Message), played by a dialog
 // when first shown unless sounds are off; errors ignored.
-QString typeSoundFile(int type);
-void playDialogSound(const QString &fileName);
+QORGENLIB_EXPORT QString typeSoundFile(int type);
+QORGENLIB_EXPORT void playDialogSound(const QString &fileName);
 
 } // namespace qor

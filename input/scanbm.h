@@ -1,5 +1,7 @@
 #pragma once
 
+#include "qorgenlib_export.h"
+
 #include <QObject>
 #include <QString>
 
@@ -18,7 +20,7 @@ namespace qor {
 // is reached by name: Text, SelLength, SelStart. The format is rewritten in
 // upper case. A key code outside 0..255 that must be collected raises
 // RuntimeError 5; a missing field RuntimeError 91.
-qint16 scanBM(QObject *textBox, qint16 keyAscii, QString &scanFormat, bool returnFieldOnly,
+QORGENLIB_EXPORT qint16 scanBM(QObject *textBox, qint16 keyAscii, QString &scanFormat, bool returnFieldOnly,
     bool mbox, qint32 offset);
 
 // The key codes that steer a scan.

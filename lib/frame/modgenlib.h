@@ -1,5 +1,7 @@
 #pragma once
 
+#include "qorgenlib_export.h"
+
 #include <QObject>
 #include <QPointer>
 #include <QString>
@@ -9,7 +11,7 @@ namespace qor {
 // State shared by every library object and the library's dialogs of one thread:
 // the language of the next text, the last dialog answers, the sound switch, the
 // scanner buffer, the host's application object and the calculator's registers.
-struct ModGenLib
+struct QORGENLIB_EXPORT ModGenLib
 {
     qint32 languageOffset = 0;
     qint32 msgBoxResult = 0;

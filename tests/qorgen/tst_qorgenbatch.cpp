@@ -223,7 +223,8 @@ private slots:
         QCOMPARE(shown.size(), 1);
         const QJsonObject box = shown.at(0).toObject();
         QCOMPARE(box.keys(),
-            QStringList({ "answer", "buttons", "caption", "kind", "prompt", "title", "type" }));
+            QStringList({ "answer", "buttons", "buttonsShown", "caption", "kind", "prompt", "title",
+                "type" }));
         QCOMPARE(box.value("kind").toString(), QStringLiteral("MsgBoxE"));
         QFETCH(QString, prompt);
         QVERIFY2(box.value("prompt").toString().startsWith(prompt),
