@@ -12,8 +12,11 @@
 #include "host/grideditor.h"
 #include "host/gridstyle.h"
 #include "host/headingstyle.h"
+#include "host/label.h"
 #include "host/listbox.h"
 #include "host/menuform.h"
+#include "host/monthview.h"
+#include "host/shape.h"
 #include "host/textbox.h"
 #include "host/valueitem.h"
 
@@ -55,6 +58,9 @@ const QList<HostClass> &hostClasses()
         hostClass<Frame>(),
         hostClass<Form>(),
         hostClass<MenuForm>(),
+        hostClass<Shape>(),
+        hostClass<Label>(),
+        hostClass<MonthView>(),
         hostClass<Control>(),
         hostClass<Application>(),
         hostClass<HostObject>(),

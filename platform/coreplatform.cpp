@@ -327,7 +327,9 @@ bool CorePlatform::updateFile(const QString &path, const FileChange &change)
         if (::stat(local.constData(), &current) != 0 || current.st_ino != locked.st_ino
             || current.st_dev != locked.st_dev)
             continue;
-        if (!S_ISREG(locked.st_mode) || ::access(local.constData(), W_OK) != 0)
+        // A file without write permission is read-only, even for the administrator.
+        if (!S_ISREG(locked.st_mode) || ::access(local.constData(), W_OK) != 0
+            || !(locked.st_mode & (S_IWUSR | S_IWGRP | S_IWOTH)))
             return false;
         const auto old = readWhole(file.fd);
         if (!old)
