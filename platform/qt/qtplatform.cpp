@@ -184,7 +184,7 @@ void QtPlatform::shutDown()
         QStringLiteral("/org/freedesktop/login1"), QStringLiteral("org.freedesktop.login1.Manager"),
         QStringLiteral("PowerOff"));
     call << false;
-    QDBusConnection::systemBus().asyncCall(call);
+    QDBusConnection::systemBus().send(call);
 }
 
 // A window system that decides stacking itself (Wayland) may ignore the flag.

@@ -1,1 +1,2 @@
 qor_add_test(tst_lineeditadapter ${dir}/tst_lineeditadapter.cpp WIDGETS)
+qor_add_test(tst_mainwindowadapter ${dir}/tst_mainwindowadapter.cpp WIDGETS)
