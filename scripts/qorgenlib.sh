@@ -4,7 +4,7 @@ set -euo pipefail
 cd "$(dirname "$0")/.."
 
 job="${1:-test}"
-packages=(cmake ninja-build g++ qt6-base-dev qt6-multimedia-dev libgl-dev)
+packages=(cmake ninja-build g++ qt6-base-dev qt6-multimedia-dev libgl-dev fonts-dejavu-core)
 
 missing=()
 for package in "${packages[@]}"; do

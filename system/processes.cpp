@@ -21,6 +21,13 @@ void reportStartFailure(const QString &commandLine, int number)
 
 qint32 shellAndWait(const QString &commandLine, qint32 windowStyle)
 {
+    // The styles of the classic start: 0 hidden, 1 normal, 2 minimised,
+    // 3 maximised, 4 and 6 the same without focus; any other is refused.
+    static const QList<qint32> styles { 0, 1, 2, 3, 4, 6 };
+    if (!styles.contains(windowStyle)) {
+        reportStartFailure(commandLine, RuntimeError::InvalidProcedureCall);
+        return RuntimeError::InvalidProcedureCall;
+    }
     const qint64 process = platform().startProcess(commandLine, windowStyle);
     if (process < 0) {
         const int number = int(-process);

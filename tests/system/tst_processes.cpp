@@ -123,6 +123,28 @@ private slots:
         }
     }
 
+    void aWindowStyleOutsideTheListIsRefused_data()
+    {
+        QTest::addColumn<int>("style");
+        QTest::addColumn<int>("result");
+        // clang-format off
+        QTest::newRow("hidden") << 0 << 0;
+        QTest::newRow("minimised without focus") << 6 << 0;
+        QTest::newRow("5 is no style") << 5 << 5;
+        QTest::newRow("negative") << -1 << 5;
+        QTest::newRow("7") << 7 << 5;
+        // clang-format on
+    }
+    void aWindowStyleOutsideTheListIsRefused()
+    {
+        QFETCH(int, style);
+        QFETCH(int, result);
+        clsqorGenLib lib;
+        QCOMPARE(lib.ShellAndWait(QStringLiteral("true"), style), result);
+        QCOMPARE(machine->actions().size(), result == 0 ? 1 : 0);
+        QCOMPARE(machine->shown().size(), result == 0 ? 0 : 1);
+    }
+
     void shellAndWaitWaitsForTheEnd()
     {
         clsqorGenLib lib;
