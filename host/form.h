@@ -19,6 +19,7 @@ class QORGENLIB_EXPORT Form : public HostObject
     Q_PROPERTY(float Width MEMBER m_width)
     Q_PROPERTY(float Height MEMBER m_height)
     Q_PROPERTY(QVariantList Controls MEMBER m_controls)
+    Q_PROPERTY(qint32 hWnd MEMBER m_hWnd)
 
 public:
     explicit Form(QObject *parent = nullptr);
@@ -31,6 +32,7 @@ private:
     float m_width = 0;
     float m_height = 0;
     QVariantList m_controls;
+    qint32 m_hWnd = 0; // the window handle; a model form has no window
 };
 
 } // namespace qor

@@ -13,6 +13,7 @@ class QORGENLIB_EXPORT Frame : public Control
     Q_CLASSINFO("HostClass", "Frame")
     Q_PROPERTY(QString Caption MEMBER m_caption)
     Q_PROPERTY(qint32 BackColor MEMBER m_backColor)
+    Q_PROPERTY(qint32 BorderStyle MEMBER m_borderStyle)
 
 public:
     explicit Frame(QObject *parent = nullptr);
@@ -20,6 +21,7 @@ public:
 private:
     QString m_caption;
     qint32 m_backColor = qint32(0x8000000F); // the system's button face colour
+    qint32 m_borderStyle = 1;
 };
 
 } // namespace qor

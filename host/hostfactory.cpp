@@ -14,8 +14,11 @@
 #include "host/grideditor.h"
 #include "host/gridstyle.h"
 #include "host/headingstyle.h"
+#include "host/label.h"
 #include "host/listbox.h"
 #include "host/menuform.h"
+#include "host/monthview.h"
+#include "host/shape.h"
 #include "host/textbox.h"
 #include "host/valueitem.h"
 #include "host/valueitems.h"
@@ -61,6 +64,9 @@ const QList<HostClass> &hostClasses()
         hostClass<Form>(),
         hostClass<CheckBox>(),
         hostClass<MenuForm>(),
+        hostClass<Shape>(),
+        hostClass<Label>(),
+        hostClass<MonthView>(),
         hostClass<Control>(),
         hostClass<Application>(),
         hostClass<HostObject>(),

@@ -1,7 +1,9 @@
 #include "host/menuform.h"
 
-#include "host/control.h"
 #include "host/frame.h"
+#include "host/label.h"
+#include "host/monthview.h"
+#include "host/shape.h"
 
 namespace qor {
 
@@ -14,20 +16,20 @@ const int shapeCount = 8;
 MenuForm::MenuForm(QObject *parent)
     : Form(parent)
     , m_frameMenu(new Frame(this))
-    , m_monthView(new Control(this))
-    , m_labelVersie(new Control(this))
+    , m_monthView(new MonthView(this))
+    , m_labelVersie(new Label(this))
 {
     for (int i = 0; i < shapeCount; ++i)
-        m_shapeMenu.append(QVariant::fromValue<QObject *>(new Control(this)));
+        m_shapeMenu.append(QVariant::fromValue<QObject *>(new Shape(this)));
 }
 
 QString MenuForm::elementClass(const QString &property) const
 {
-    if (property.compare(QLatin1String("FrameMenu"), Qt::CaseInsensitive) == 0)
-        return QStringLiteral("Frame");
-    for (const char *child : { "MonthView", "ShapeMenu", "LabelVersie" }) {
-        if (property.compare(QLatin1String(child), Qt::CaseInsensitive) == 0)
-            return QStringLiteral("Control");
+    static const char *const children[][2] = { { "FrameMenu", "Frame" },
+        { "MonthView", "MonthView" }, { "ShapeMenu", "Shape" }, { "LabelVersie", "Label" } };
+    for (const auto &child : children) {
+        if (property.compare(QLatin1String(child[0]), Qt::CaseInsensitive) == 0)
+            return QLatin1String(child[1]);
     }
     return QString();
 }

@@ -25,6 +25,12 @@
 #include "platform/platform.h"
 #include "runtime/conversion.h"
 #include "runtime/variant.h"
+#include "system/desktop.h"
+#include "system/paths.h"
+#include "system/processes.h"
+#include "system/screenhelpers.h"
+#include "system/settingsfile.h"
+#include "system/startup.h"
 #include "system/stationflags.h"
 #include "validate/identifierchecks.h"
 
@@ -417,5 +423,99 @@ void clsqorGenLib::SortArray(QVariant &ArrayName, qorGenLib::OstSortOrder SortOr
 // End of grids, lists and sorting
 
 // Desktop and system services
+
+qint32 clsqorGenLib::ShellAndWait(const QString &ProgrammaNaam, qint32 window_style)
+{
+    return shellAndWait(ProgrammaNaam, window_style);
+}
+
+QString clsqorGenLib::GetFileList(const QString &sPad, const QString &sWildCard, qint32 lAttribute)
+{
+    return getFileList(sPad, sWildCard, lAttribute, m_vbSplit);
+}
+
+QString clsqorGenLib::PathRS(const QString &Path)
+{
+    return pathRS(Path);
+}
+
+QString clsqorGenLib::GetSystemDir()
+{
+    return getSystemDir();
+}
+
+void clsqorGenLib::ShutDownPC()
+{
+    shutDownPC();
+}
+
+void clsqorGenLib::WriteIni(
+    const QString &Header, const QString &Section, const QString &Value, QString &INIFile)
+{
+    writeIni(Header, Section, Value, INIFile);
+}
+
+void clsqorGenLib::WriteIni(const QString &Header, const QString &Section, const QString &Value)
+{
+    QString iniFile;
+    WriteIni(Header, Section, Value, iniFile);
+}
+
+QString clsqorGenLib::GetIni(
+    const QString &Header, const QString &Section, QString &INIFile, bool MBox)
+{
+    return getIni(Header, Section, INIFile, MBox, m_Offset);
+}
+
+QString clsqorGenLib::GetIni(const QString &Header, const QString &Section)
+{
+    QString iniFile;
+    return GetIni(Header, Section, iniFile);
+}
+
+bool clsqorGenLib::StartUp(QObject *Application, bool OtherDLL, bool MultiUse)
+{
+    return startUp(Application, OtherDLL, MultiUse, m_Offset);
+}
+
+void clsqorGenLib::SetDebug(bool DebugKlantPC, qint32 DebugOffset)
+{
+    setDebug(DebugKlantPC, DebugOffset, m_KlantPC, m_Offset, m_FieldExt);
+}
+
+QString clsqorGenLib::GetTimerCode()
+{
+    return getTimerCode();
+}
+
+qorGenLib::WindowSize clsqorGenLib::GetWorkArea()
+{
+    return getWorkArea();
+}
+
+void clsqorGenLib::SetDeskTop(QObject *FormMenu)
+{
+    setDeskTop(FormMenu);
+}
+
+qint32 clsqorGenLib::GetMousePointerPos(const QString &XY, QObject *RelativeObject)
+{
+    return getMousePointerPos(XY, RelativeObject);
+}
+
+QVariant clsqorGenLib::FormOnTop(QObject *FRM)
+{
+    return formOnTop(FRM);
+}
+
+float clsqorGenLib::CMm(float Twips)
+{
+    return cMm(Twips);
+}
+
+float clsqorGenLib::CTwips(float MilliMeters)
+{
+    return cTwips(MilliMeters);
+}
 
 // End of desktop and system services

@@ -4,6 +4,7 @@
 
 #include "grid/gridcolumnwidths.h"
 #include "lib/frame/qorenums.h"
+#include "lib/frame/windowsize.h"
 
 #include <QDateTime>
 #include <QObject>
@@ -230,6 +231,36 @@ public:
     // End of grids, lists and sorting.
 
     // Desktop and system services.
+    // Processes, files, paths, the settings file, start-up and station flags.
+    Q_CLASSINFO("GetFileList", "{\"lAttribute\": 0}")
+    Q_CLASSINFO("WriteIni", "{\"INIFile\": \"\"}")
+    Q_CLASSINFO("GetIni", "{\"INIFile\": \"\", \"MBox\": true}")
+    Q_CLASSINFO("StartUp", "{\"OtherDLL\": false, \"MultiUse\": false}")
+    Q_CLASSINFO("GetMousePointerPos", "{\"RelativeObject\": null}")
+    Q_INVOKABLE qint32 ShellAndWait(const QString &ProgrammaNaam, qint32 window_style);
+    Q_INVOKABLE QString GetFileList(
+        const QString &sPad, const QString &sWildCard, qint32 lAttribute = 0);
+    Q_INVOKABLE QString PathRS(const QString &Path);
+    Q_INVOKABLE QString GetSystemDir();
+    Q_INVOKABLE void ShutDownPC();
+    // INIFile is written back ("" becomes the default file); C++ gets its
+    // default through the overloads below, which are not published.
+    Q_INVOKABLE void WriteIni(
+        const QString &Header, const QString &Section, const QString &Value, QString &INIFile);
+    void WriteIni(const QString &Header, const QString &Section, const QString &Value);
+    Q_INVOKABLE QString GetIni(
+        const QString &Header, const QString &Section, QString &INIFile, bool MBox = true);
+    QString GetIni(const QString &Header, const QString &Section);
+    Q_INVOKABLE bool StartUp(QObject *Application, bool OtherDLL = false, bool MultiUse = false);
+    Q_INVOKABLE void SetDebug(bool DebugKlantPC, qint32 DebugOffset);
+    Q_INVOKABLE QString GetTimerCode();
+    // Screen, window and unit helpers.
+    Q_INVOKABLE qorGenLib::WindowSize GetWorkArea();
+    Q_INVOKABLE void SetDeskTop(QObject *FormMenu);
+    Q_INVOKABLE qint32 GetMousePointerPos(const QString &XY, QObject *RelativeObject = nullptr);
+    Q_INVOKABLE QVariant FormOnTop(QObject *FRM);
+    Q_INVOKABLE float CMm(float Twips);
+    Q_INVOKABLE float CTwips(float MilliMeters);
     // End of desktop and system services.
 
 private:

@@ -1,21 +1,34 @@
 #include "platform/coreplatform.h"
 
+#include "platform/commandline.h"
 #include "platform/keyboardlayout.h"
+#include "platform/wildcard.h"
 
 #include <QCoreApplication>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QLocale>
+#include <QMutex>
 #include <QProcess>
 #include <QRegularExpression>
 #include <QStandardPaths>
+
+#include <cerrno>
+#include <fcntl.h>
+#include <sys/file.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#ifndef QORGENLIB_SYSTEM_DIR
+#define QORGENLIB_SYSTEM_DIR "/var/lib/qorsoft"
+#endif
 
 namespace qor {
 
 CorePlatform::CorePlatform()
     : m_settings(RegionalSettings::fromLocale(QLocale::system().name()))
-    , m_systemDirectory(QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation))
+    , m_systemDirectory(defaultSystemDirectory())
     , m_developmentSoundDirectory(
           QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation)
           + QStringLiteral("/qorSoft/MultiMedia"))
@@ -99,22 +112,18 @@ bool CorePlatform::makeDirectory(const QString &path)
 
 QList<FileEntry> CorePlatform::listFiles(const QString &directory, const QString &wildcard) const
 {
+    // Normal files only: no folders and no hidden files, in the order the
+    // file system gives them.
     QList<FileEntry> entries;
     const QDir dir(localPath(directory));
     if (!dir.exists())
         return entries;
-    const QRegularExpression match
-        = QRegularExpression::fromWildcard(wildcard, Qt::CaseInsensitive);
     const QFileInfoList infos
-        = dir.entryInfoList(QDir::Files | QDir::NoDotAndDotDot, QDir::Unsorted);
+        = dir.entryInfoList(QDir::Files | QDir::System | QDir::NoDotAndDotDot, QDir::Unsorted);
     for (const QFileInfo &info : infos) {
-        if (!match.match(info.fileName()).hasMatch())
+        if (!matchesWildcard(info.fileName(), wildcard))
             continue;
-        // Files that may be written carry the archive bit, the others read-only.
-        int attributes = info.isWritable() ? 32 : 1;
-        if (info.isHidden())
-            attributes |= 2;
-        entries.append({ info.fileName(), attributes });
+        entries.append({ info.fileName(), fileAttributes(info.filePath()).value_or(0) });
     }
     return entries;
 }
@@ -143,6 +152,11 @@ std::unique_ptr<QIODevice> CorePlatform::openFile(const QString &path, QIODevice
     return file;
 }
 
+QString CorePlatform::defaultSystemDirectory()
+{
+    return QStringLiteral(QORGENLIB_SYSTEM_DIR);
+}
+
 QString CorePlatform::systemDirectory() const
 {
     return m_systemDirectory;
@@ -164,15 +178,32 @@ void CorePlatform::setDevelopmentSoundDirectory(const QString &path)
 
 qint64 CorePlatform::startProcess(const QString &commandLine, int)
 {
-    QStringList words = QProcess::splitCommand(commandLine);
-    if (words.isEmpty())
-        return -5; // invalid procedure call: nothing to start
+    enum { invalidCall = 5, fileNotFound = 53, permissionDenied = 70 };
+    QStringList words = splitCommandLine(commandLine);
+    if (words.isEmpty() || words.first().isEmpty())
+        return -invalidCall;
+    QString program = localPath(words.takeFirst());
+    if (program.contains(QLatin1Char('/'))) {
+        const QFileInfo info(program);
+        if (!info.exists())
+            return -fileNotFound;
+        if (!info.isFile() || !info.isExecutable())
+            return -permissionDenied;
+        program = info.absoluteFilePath();
+    } else {
+        program = QStandardPaths::findExecutable(program);
+        if (program.isEmpty())
+            return -fileNotFound;
+    }
     auto *process = new QProcess;
-    const QString program = localPath(words.takeFirst());
+    // The program has no console: its standard streams go nowhere.
+    process->setStandardInputFile(QProcess::nullDevice());
+    process->setStandardOutputFile(QProcess::nullDevice());
+    process->setStandardErrorFile(QProcess::nullDevice());
     process->start(program, words);
     if (!process->waitForStarted()) {
         delete process;
-        return -53; // file not found
+        return -invalidCall;
     }
     const qint64 id = process->processId();
     m_processes.insert(id, process);
@@ -188,9 +219,179 @@ void CorePlatform::waitForProcess(qint64 processId)
     delete process;
 }
 
+// logind decides, as it does for any user's request; nothing is forced.
 void CorePlatform::shutDown()
 {
     QProcess::startDetached(QStringLiteral("systemctl"), { QStringLiteral("poweroff") });
+}
+
+// A headless host has no windows.
+void CorePlatform::keepOnTop(QObject *, qint64) { }
+
+std::optional<int> CorePlatform::fileAttributes(const QString &path) const
+{
+    const QByteArray local = QFile::encodeName(localPath(path));
+    struct stat info;
+    if (::stat(local.constData(), &info) != 0)
+        return std::nullopt;
+    int attributes = 0;
+    if (S_ISDIR(info.st_mode))
+        attributes |= FileAttribute::Directory;
+    else if (S_ISREG(info.st_mode))
+        attributes |= FileAttribute::Archive;
+    if (!(info.st_mode & S_IWUSR))
+        attributes |= FileAttribute::ReadOnly;
+    const QString name = QFileInfo(QString::fromLocal8Bit(local)).fileName();
+    if (name.startsWith(QLatin1Char('.')) && name != QLatin1String(".")
+        && name != QLatin1String(".."))
+        attributes |= FileAttribute::Hidden;
+    return attributes;
+}
+
+namespace {
+
+// Closes a descriptor when it goes out of scope.
+struct Descriptor
+{
+    int fd = -1;
+    ~Descriptor()
+    {
+        if (fd >= 0)
+            ::close(fd);
+    }
+};
+
+bool lockExclusive(int fd)
+{
+    while (::flock(fd, LOCK_EX) != 0) {
+        if (errno != EINTR)
+            return false;
+    }
+    return true;
+}
+
+std::optional<QByteArray> readWhole(int fd)
+{
+    QByteArray contents;
+    char buffer[65536];
+    for (;;) {
+        const ssize_t n = ::read(fd, buffer, sizeof buffer);
+        if (n == 0)
+            return contents;
+        if (n < 0 && errno == EINTR)
+            continue;
+        if (n < 0)
+            return std::nullopt;
+        contents.append(buffer, n);
+    }
+}
+
+bool writeWhole(int fd, const QByteArray &contents)
+{
+    const char *data = contents.constData();
+    qsizetype left = contents.size();
+    while (left > 0) {
+        const ssize_t n = ::write(fd, data, size_t(left));
+        if (n < 0 && errno == EINTR)
+            continue;
+        if (n <= 0)
+            return false;
+        data += n;
+        left -= n;
+    }
+    return true;
+}
+
+// Writes the new contents beside the file and renames them over it: a reader
+// sees the old file or the new one, never a part.
+bool replaceFile(const QByteArray &path, const struct stat &old, const QByteArray &contents)
+{
+    const QFileInfo info(QString::fromLocal8Bit(path));
+    const QByteArray folder = QFile::encodeName(info.absolutePath());
+    const QByteArray temporary = folder + "/." + QFile::encodeName(info.fileName()) + ".new";
+    Descriptor out { ::open(
+        temporary.constData(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, old.st_mode & 07777) };
+    if (out.fd < 0)
+        return false;
+    const bool written = ::fchmod(out.fd, old.st_mode & 07777) == 0 && writeWhole(out.fd, contents)
+        && ::fsync(out.fd) == 0;
+    if (!written || ::rename(temporary.constData(), path.constData()) != 0) {
+        ::unlink(temporary.constData());
+        return false;
+    }
+    Descriptor dir { ::open(folder.constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC) };
+    if (dir.fd >= 0)
+        ::fsync(dir.fd);
+    return true;
+}
+
+} // namespace
+
+bool CorePlatform::updateFile(const QString &path, const FileChange &change)
+{
+    QString target = localPath(path);
+    const QFileInfo link(target);
+    if (link.isSymLink() && !link.canonicalFilePath().isEmpty())
+        target = link.canonicalFilePath();
+    const QByteArray local = QFile::encodeName(target);
+    // Writers lock the file itself; the one that renames a new file over it
+    // leaves the others a lock on a file that is gone, so they look again.
+    for (int attempt = 0; attempt < 1000; ++attempt) {
+        Descriptor file { ::open(local.constData(), O_RDONLY | O_CLOEXEC) };
+        if (file.fd < 0 && errno == ENOENT)
+            file.fd = ::open(local.constData(), O_RDONLY | O_CREAT | O_CLOEXEC, 0666);
+        if (file.fd < 0 || !lockExclusive(file.fd))
+            return false;
+        struct stat locked, current;
+        if (::fstat(file.fd, &locked) != 0)
+            return false;
+        if (::stat(local.constData(), &current) != 0 || current.st_ino != locked.st_ino
+            || current.st_dev != locked.st_dev)
+            continue;
+        // A file without write permission is read-only, even for the administrator.
+        if (!S_ISREG(locked.st_mode) || ::access(local.constData(), W_OK) != 0
+            || !(locked.st_mode & (S_IWUSR | S_IWGRP | S_IWOTH)))
+            return false;
+        const auto old = readWhole(file.fd);
+        if (!old)
+            return false;
+        const auto contents = change(*old);
+        if (!contents)
+            return true;
+        return replaceFile(local, locked, *contents);
+    }
+    return false;
+}
+
+bool CorePlatform::registerInstance(const QString &application)
+{
+    // Every running copy holds a shared lock on one file per application; a
+    // copy that can take the lock exclusively is alone. The locks die with
+    // the process, however it ends.
+    static QMutex mutex;
+    static QHash<QString, int> held;
+    const QMutexLocker locker(&mutex);
+    QString name = application.toLower();
+    for (QChar &c : name) {
+        if (!c.isLetterOrNumber() && c != QLatin1Char('.') && c != QLatin1Char('-'))
+            c = QLatin1Char('_');
+    }
+    int fd = held.value(name, -1);
+    if (fd < 0) {
+        QString folder = QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation);
+        if (folder.isEmpty())
+            folder = QDir::tempPath();
+        const QByteArray path = QFile::encodeName(
+            folder + QStringLiteral("/qorgenlib-") + name + QStringLiteral(".instance"));
+        fd = ::open(path.constData(), O_RDWR | O_CREAT | O_CLOEXEC, 0600);
+        if (fd < 0)
+            return false;
+        held.insert(name, fd);
+    }
+    const bool alone = ::flock(fd, LOCK_EX | LOCK_NB) == 0;
+    for (int attempt = 0; attempt < 1000 && ::flock(fd, LOCK_SH | LOCK_NB) != 0; ++attempt)
+        ::usleep(1000);
+    return !alone;
 }
 
 ScreenInfo CorePlatform::screen() const

@@ -48,9 +48,15 @@ public:
     QString developmentSoundDirectory() const override;
     void setDevelopmentSoundDirectory(const QString &path);
 
+    std::optional<int> fileAttributes(const QString &path) const override;
+    bool updateFile(const QString &path, const FileChange &change) override;
     qint64 startProcess(const QString &commandLine, int windowStyle) override;
     void waitForProcess(qint64 processId) override;
     void shutDown() override;
+    bool registerInstance(const QString &application) override;
+    void keepOnTop(QObject *form, qint64 windowHandle) override;
+    // The folder that plays the system folder unless one is set.
+    static QString defaultSystemDirectory();
 
     ScreenInfo screen() const override;
     void setMousePointer(int pointer) override;

@@ -5,8 +5,10 @@
 #include "platform/calculatorsession.h"
 #include "runtime/regionalsettings.h"
 
+#include <QByteArray>
 #include <QDateTime>
 #include <QIODevice>
+#include <QObject>
 #include <QList>
 #include <QPoint>
 #include <QRect>
@@ -77,10 +79,16 @@ struct QORGENLIB_EXPORT ScreenInfo
     int twipsPerPixelY = 15;
     std::optional<QRect> taskbar; // in pixels, when the system has one
     QPoint cursor; // pixels
+    QPoint origin; // top-left pixel of the desktop
 };
 
-// A file found by a directory listing, with its attribute bits (1 read-only,
-// 2 hidden, 4 system, 16 directory, 32 archive).
+// The classic attribute bits of a file (docs/linux.md says how a file of this
+// machine maps to them).
+namespace FileAttribute {
+enum Bit : int { ReadOnly = 1, Hidden = 2, System = 4, Directory = 16, Archive = 32 };
+} // namespace FileAttribute
+
+// A file found by a directory listing, with its attribute bits.
 struct QORGENLIB_EXPORT FileEntry
 {
     QString name;
@@ -131,11 +139,29 @@ public:
     // memory can pass (nullptr when the file cannot be opened).
     virtual std::unique_ptr<QIODevice> openFile(const QString &path, QIODevice::OpenMode mode) = 0;
 
-    // Processes: start a command line (returns a process id, or an error
-    // number as a negative value) and wait until it ends.
+    // System services: file attributes, whole-file updates, processes, the
+    // running copies of an application, shut-down and topmost windows.
+    // The attribute bits of a file or folder; nothing when it cannot be queried.
+    virtual std::optional<int> fileAttributes(const QString &path) const = 0;
+    // Replaces a file by change(old contents) so that every reader sees the old
+    // or the new file whole, and concurrent updates of other processes are
+    // neither lost nor mixed in. A missing file reads as empty; a change that
+    // returns nothing leaves the file as it is. False when it could not be
+    // written (a read-only file or folder, no room).
+    using FileChange = std::function<std::optional<QByteArray>(const QByteArray &old)>;
+    virtual bool updateFile(const QString &path, const FileChange &change) = 0;
+    // Start a command line (returns a process id, or a classic error number
+    // as a negative value: 53 no such program, 70 not executable, 5 other
+    // failures) and wait until it ends.
     virtual qint64 startProcess(const QString &commandLine, int windowStyle) = 0;
     virtual void waitForProcess(qint64 processId) = 0;
+    // Asks the system to switch the machine off; the outcome is not known.
     virtual void shutDown() = 0;
+    // Counts this process as a running copy of the application until it ends;
+    // true when another copy was already running.
+    virtual bool registerInstance(const QString &application) = 0;
+    // Keeps the form's window above all others.
+    virtual void keepOnTop(QObject *form, qint64 windowHandle) = 0;
 
     // Screen, cursor and windows.
     virtual ScreenInfo screen() const = 0;

@@ -236,8 +236,8 @@ void RecordingPlatform::stopSound()
 
 qint64 RecordingPlatform::startProcess(const QString &commandLine, int windowStyle)
 {
-    m_actions.append(QVariantMap { { QStringLiteral("kind"), QStringLiteral("startProcess") },
-        { QStringLiteral("commandLine"), commandLine },
+    m_actions.append(QVariantMap { { QStringLiteral("kind"), QStringLiteral("start") },
+        { QStringLiteral("command"), commandLine },
         { QStringLiteral("windowStyle"), windowStyle } });
     return CorePlatform::startProcess(commandLine, windowStyle);
 }
@@ -245,7 +245,13 @@ qint64 RecordingPlatform::startProcess(const QString &commandLine, int windowSty
 // A recorded session never switches the machine off.
 void RecordingPlatform::shutDown()
 {
-    m_actions.append(QVariantMap { { QStringLiteral("kind"), QStringLiteral("shutDown") } });
+    m_actions.append(QVariantMap { { QStringLiteral("kind"), QStringLiteral("shutdown") } });
+}
+
+void RecordingPlatform::keepOnTop(QObject *form, qint64)
+{
+    m_actions.append(QVariantMap { { QStringLiteral("kind"), QStringLiteral("onTop") },
+        { QStringLiteral("object"), QVariant::fromValue(form) } });
 }
 
 ScreenInfo RecordingPlatform::screen() const

@@ -42,7 +42,8 @@ public:
 
     // What the user saw or heard, in order: maps with a "kind" field.
     QVariantList shown() const { return m_shown; }
-    // What the library did to the machine: key events, processes, mouse pointer, shut-down.
+    // What the library did to the machine: key events, program starts, mouse
+    // pointer, shut-down, topmost forms.
     QVariantList actions() const { return m_actions; }
     void clearRecords();
 
@@ -58,6 +59,7 @@ public:
     void stopSound() override;
     qint64 startProcess(const QString &commandLine, int windowStyle) override;
     void shutDown() override;
+    void keepOnTop(QObject *form, qint64 windowHandle) override;
     ScreenInfo screen() const override;
     void setMousePointer(int pointer) override;
     void keyEvent(int virtualKey, int scanCode, int flags) override;

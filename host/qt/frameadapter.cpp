@@ -1,66 +1,60 @@
 #include "host/qt/frameadapter.h"
 
 #include "host/qt/twips.h"
-#include "runtime/runtimeerror.h"
+
+#include <QFrame>
+#include <QGroupBox>
 
 namespace qor {
 
 FrameAdapter::FrameAdapter(QWidget *frame, QObject *parent)
-    : QObject(parent)
-    , m_frame(frame)
+    : WidgetAdapter(frame, parent)
 { }
 
-QWidget *FrameAdapter::frame() const
+// A container without a title keeps its caption as the window title, which
+// it does not show.
+QString FrameAdapter::caption() const
 {
-    if (!m_frame)
-        throw RuntimeError::objectNotSet();
-    return m_frame.data();
+    if (auto *box = qobject_cast<QGroupBox *>(widget()))
+        return box->title();
+    return widget()->windowTitle();
+}
+void FrameAdapter::setCaption(const QString &caption)
+{
+    if (auto *box = qobject_cast<QGroupBox *>(widget()))
+        box->setTitle(caption);
+    else
+        widget()->setWindowTitle(caption);
 }
 
-float FrameAdapter::left() const
+qint32 FrameAdapter::borderStyle() const
 {
-    return twips::fromPixelsX(frame()->x());
+    if (auto *box = qobject_cast<QGroupBox *>(widget()))
+        return box->isFlat() ? 0 : 1;
+    if (auto *frame = qobject_cast<QFrame *>(widget()))
+        return frame->frameShape() == QFrame::NoFrame ? 0 : 1;
+    return 0;
 }
-void FrameAdapter::setLeft(float twipsLeft)
+void FrameAdapter::setBorderStyle(qint32 style)
 {
-    frame()->move(twips::toPixelsX(twipsLeft), frame()->y());
-}
-float FrameAdapter::top() const
-{
-    return twips::fromPixelsY(frame()->y());
-}
-void FrameAdapter::setTop(float twipsTop)
-{
-    frame()->move(frame()->x(), twips::toPixelsY(twipsTop));
-}
-float FrameAdapter::width() const
-{
-    return twips::fromPixelsX(frame()->width());
-}
-void FrameAdapter::setWidth(float twipsWidth)
-{
-    frame()->resize(qMax(0, twips::toPixelsX(twipsWidth)), frame()->height());
-}
-float FrameAdapter::height() const
-{
-    return twips::fromPixelsY(frame()->height());
-}
-void FrameAdapter::setHeight(float twipsHeight)
-{
-    frame()->resize(frame()->width(), qMax(0, twips::toPixelsY(twipsHeight)));
+    if (auto *box = qobject_cast<QGroupBox *>(widget()))
+        box->setFlat(style == 0);
+    else if (auto *frame = qobject_cast<QFrame *>(widget()))
+        frame->setFrameShape(style == 0 ? QFrame::NoFrame : QFrame::Box);
 }
 
 qint32 FrameAdapter::backColor() const
 {
-    return twips::fromColor(frame()->palette().color(frame()->backgroundRole()));
+    QWidget *frame = widget();
+    return twips::fromColor(frame->palette().color(frame->backgroundRole()));
 }
-
 void FrameAdapter::setBackColor(qint32 colour)
 {
-    QPalette palette = frame()->palette();
-    palette.setColor(frame()->backgroundRole(), twips::toColor(colour, palette));
-    frame()->setPalette(palette);
-    frame()->setAutoFillBackground(true);
+    QWidget *frame = widget();
+    QPalette palette = frame->palette();
+    palette.setColor(frame->backgroundRole(), twips::toColor(colour, palette));
+    frame->setPalette(palette);
+    frame->setAutoFillBackground(true);
 }
 
 } // namespace qor

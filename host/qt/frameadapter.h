@@ -2,42 +2,30 @@
 
 #include "qorgenlib_export.h"
 
-#include <QObject>
-#include <QPointer>
-#include <QWidget>
+#include "host/qt/widgetadapter.h"
 
 namespace qor {
 
-// Gives any container widget (a QGroupBox, a QFrame) the names of the host's
-// frame: place and size in twips, its caption when it has a title, and its
-// background as a colour number.
-class QORGENLIB_WIDGETS_EXPORT FrameAdapter : public QObject
+// Gives a container widget on a real form (a QGroupBox, a QFrame) the names of
+// the host's frame: the place and size of every placed control, Caption (a
+// group box's title), BorderStyle (0 flat without a line, 1 the widget's own
+// frame) and BackColor as a colour number.
+class QORGENLIB_WIDGETS_EXPORT FrameAdapter : public WidgetAdapter
 {
     Q_OBJECT
-    Q_PROPERTY(float Left READ left WRITE setLeft)
-    Q_PROPERTY(float Top READ top WRITE setTop)
-    Q_PROPERTY(float Width READ width WRITE setWidth)
-    Q_PROPERTY(float Height READ height WRITE setHeight)
+    Q_PROPERTY(QString Caption READ caption WRITE setCaption)
+    Q_PROPERTY(qint32 BorderStyle READ borderStyle WRITE setBorderStyle)
     Q_PROPERTY(qint32 BackColor READ backColor WRITE setBackColor)
 
 public:
     explicit FrameAdapter(QWidget *frame, QObject *parent = nullptr);
 
-    float left() const;
-    void setLeft(float twips);
-    float top() const;
-    void setTop(float twips);
-    float width() const;
-    void setWidth(float twips);
-    float height() const;
-    void setHeight(float twips);
+    QString caption() const;
+    void setCaption(const QString &caption);
+    qint32 borderStyle() const;
+    void setBorderStyle(qint32 style);
     qint32 backColor() const;
     void setBackColor(qint32 colour);
-
-private:
-    QWidget *frame() const;
-
-    QPointer<QWidget> m_frame;
 };
 
 } // namespace qor

@@ -22,6 +22,9 @@ struct QORGENLIB_EXPORT ModGenLib
     double calculatorRegister = 0;
     bool calculatorFlag = false;
     qint32 calculatorMode = 0;
+    // The colour scheme of the house layout of the menu form; the host sets it
+    // ("17": orange), the library never does.
+    QString deskTopScheme;
 
     // The copy of the calling thread.
     static ModGenLib &current();

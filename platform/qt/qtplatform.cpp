@@ -8,6 +8,8 @@
 #include "calculator/qt/vatnoteform.h"
 
 #include <QApplication>
+#include <QDBusConnection>
+#include <QDBusMessage>
 #include <QGuiApplication>
 #include <QKeyEvent>
 #include <QMessageBox>
@@ -153,6 +155,28 @@ void QtPlatform::stopSound()
     SoundPlayer::stop();
 }
 
+// What the desktop keeps for itself beside the available area: the widest of
+// the four strips between the screen's geometry and its available geometry.
+std::optional<QRect> QtPlatform::taskbarOf(const QRect &full, const QRect &available)
+{
+    if (available == full || !full.contains(available))
+        return std::nullopt;
+    const QRect strips[] = {
+        QRect(full.left(), full.top(), full.width(), available.top() - full.top()),
+        QRect(
+            full.left(), available.bottom() + 1, full.width(), full.bottom() - available.bottom()),
+        QRect(full.left(), full.top(), available.left() - full.left(), full.height()),
+        QRect(available.right() + 1, full.top(), full.right() - available.right(), full.height()),
+    };
+    const QRect *largest = nullptr;
+    for (const QRect &strip : strips) {
+        const qint64 area = qint64(strip.width()) * strip.height();
+        if (area > 0 && (!largest || area > qint64(largest->width()) * largest->height()))
+            largest = &strip;
+    }
+    return largest ? std::optional<QRect>(*largest) : std::nullopt;
+}
+
 ScreenInfo QtPlatform::screen() const
 {
     ScreenInfo info;
@@ -160,28 +184,40 @@ ScreenInfo QtPlatform::screen() const
     if (!screen)
         return info;
     const QRect full = screen->geometry();
-    const QRect available = screen->availableGeometry();
+    info.origin = full.topLeft();
     info.width = full.width();
     info.height = full.height();
     info.twipsPerPixelX = qMax(1, qRound(1440.0 / screen->logicalDotsPerInchX()));
     info.twipsPerPixelY = qMax(1, qRound(1440.0 / screen->logicalDotsPerInchY()));
-    // What the desktop keeps for itself along one edge is taken as the task bar.
-    if (available != full) {
-        if (available.top() > full.top())
-            info.taskbar
-                = QRect(full.left(), full.top(), full.width(), available.top() - full.top());
-        else if (available.bottom() < full.bottom())
-            info.taskbar = QRect(full.left(), available.bottom() + 1, full.width(),
-                full.bottom() - available.bottom());
-        else if (available.left() > full.left())
-            info.taskbar
-                = QRect(full.left(), full.top(), available.left() - full.left(), full.height());
-        else
-            info.taskbar = QRect(
-                available.right() + 1, full.top(), full.right() - available.right(), full.height());
-    }
+    info.taskbar = taskbarOf(full, screen->availableGeometry());
     info.cursor = QCursor::pos(const_cast<QScreen *>(screen));
     return info;
+}
+
+// The request goes to logind over the system bus, not interactive and not
+// forced; whether it is granted is not awaited.
+void QtPlatform::shutDown()
+{
+    QDBusMessage call = QDBusMessage::createMethodCall(QStringLiteral("org.freedesktop.login1"),
+        QStringLiteral("/org/freedesktop/login1"), QStringLiteral("org.freedesktop.login1.Manager"),
+        QStringLiteral("PowerOff"));
+    call << false;
+    QDBusConnection::systemBus().send(call);
+}
+
+// A window system that decides stacking itself (Wayland) may ignore the flag.
+void QtPlatform::keepOnTop(QObject *form, qint64 windowHandle)
+{
+    QWidget *widget = qobject_cast<QWidget *>(form);
+    if (!widget && windowHandle != 0)
+        widget = QWidget::find(WId(windowHandle));
+    if (!widget)
+        return;
+    QWidget *window = widget->window();
+    const bool visible = window->isVisible();
+    window->setWindowFlag(Qt::WindowStaysOnTopHint, true);
+    if (visible)
+        window->show();
 }
 
 void QtPlatform::setMousePointer(int pointer)

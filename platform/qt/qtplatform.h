@@ -28,9 +28,14 @@ public:
     void showNote(const NoteRequest &note) override;
     void playSound(const QString &file, bool continuous) override;
     void stopSound() override;
+    void shutDown() override;
+    void keepOnTop(QObject *form, qint64 windowHandle) override;
     ScreenInfo screen() const override;
     void setMousePointer(int pointer) override;
     void keyEvent(int virtualKey, int scanCode, int flags) override;
+
+    // The taskbar as the largest strip of the screen outside its available area.
+    static std::optional<QRect> taskbarOf(const QRect &full, const QRect &available);
 
 private:
     struct Private;

@@ -119,6 +119,43 @@ private slots:
         sendAKey('7');
         QTRY_COMPARE(field.text(), QStringLiteral("a7"));
     }
+
+    // The largest strip between the screen and its available area is the taskbar.
+    void taskbarOfTheScreen_data()
+    {
+        QTest::addColumn<QRect>("available");
+        QTest::addColumn<QRect>("taskbar"); // an empty rectangle: none
+        // clang-format off
+        QTest::newRow("none") << QRect(0, 0, 1024, 768) << QRect();
+        QTest::newRow("bottom") << QRect(0, 0, 1024, 738) << QRect(0, 738, 1024, 30);
+        QTest::newRow("top") << QRect(0, 30, 1024, 738) << QRect(0, 0, 1024, 30);
+        QTest::newRow("left") << QRect(60, 0, 964, 768) << QRect(0, 0, 60, 768);
+        QTest::newRow("right") << QRect(0, 0, 964, 768) << QRect(964, 0, 60, 768);
+        QTest::newRow("panel on top, larger dock at the left") << QRect(80, 24, 944, 744) << QRect(0, 0, 80, 768);
+        QTest::newRow("panel on top, small dock at the bottom") << QRect(0, 40, 1024, 718) << QRect(0, 0, 1024, 40);
+        // clang-format on
+    }
+    void taskbarOfTheScreen()
+    {
+        QFETCH(QRect, available);
+        QFETCH(QRect, taskbar);
+        const auto found = QtPlatform::taskbarOf(QRect(0, 0, 1024, 768), available);
+        QCOMPARE(found.value_or(QRect()), taskbar);
+    }
+
+    void keepOnTopSetsTheWindowFlag()
+    {
+        QWidget window;
+        auto *child = new QLineEdit(&window);
+        window.show();
+        machine->keepOnTop(nullptr, qint64(window.winId()));
+        QVERIFY(window.windowFlags().testFlag(Qt::WindowStaysOnTopHint));
+        QVERIFY(window.isVisible());
+        QWidget other;
+        machine->keepOnTop(child, 0);
+        QVERIFY(window.windowFlags().testFlag(Qt::WindowStaysOnTopHint));
+        QVERIFY(!other.windowFlags().testFlag(Qt::WindowStaysOnTopHint));
+    }
 };
 
 QTEST_MAIN(TestQtPlatform)

@@ -86,7 +86,7 @@ private slots:
         QCOMPARE(machine.regionalSettings().decimalSeparator, QLatin1Char(','));
         machine.shutDown();
         QCOMPARE(
-            machine.actions().first().toMap().value("kind").toString(), QStringLiteral("shutDown"));
+            machine.actions().first().toMap().value("kind").toString(), QStringLiteral("shutdown"));
     }
 
     void soundsAreRecordedAndForwarded()

@@ -68,7 +68,8 @@ private slots:
     {
         const QStringList names = HostFactory::classNames();
         for (const char *required : { "TextBox", "GridEditor", "ListBox", "ComboBox", "DateControl",
-                 "Grid", "Frame", "Form", "MenuForm", "Application" })
+                 "Grid", "Frame", "Form", "MenuForm", "Shape", "Label", "MonthView",
+                 "Application" })
             QVERIFY2(names.contains(QLatin1String(required)), required);
         for (const QString &name : names) {
             std::unique_ptr<HostObject> object(HostFactory::create(name.toLower()));
@@ -91,6 +92,14 @@ private slots:
         QCOMPARE(
             qobject_cast<HostObject *>(menu->value("FrameMenu").value<QObject *>())->className(),
             "Frame");
+        for (const auto &[child, cls] : { std::pair { "MonthView", "MonthView" },
+                 std::pair { "LabelVersie", "Label" } })
+            QCOMPARE(qobject_cast<HostObject *>(menu->value(child).value<QObject *>())->className(),
+                cls);
+        QCOMPARE(qobject_cast<HostObject *>(
+                     menu->value("ShapeMenu").toList().at(7).value<QObject *>())
+                     ->className(),
+            "Shape");
     }
 
     // Properties by name.

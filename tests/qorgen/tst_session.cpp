@@ -62,6 +62,23 @@ private slots:
         QCOMPARE(field(quiet, u"shown"), QByteArray("[]"));
     }
 
+    // What a request asked the machine to do, and only that request.
+    void actionsHoldWhatThisRequestAskedOfTheMachine()
+    {
+        Session session;
+        const auto shutDown = session.handleLine(R"({"call": "ShutDownPC"})");
+        QCOMPARE(field(shutDown, u"actions"), QByteArray(R"([{"kind":"shutdown"}])"));
+        const auto start = session.handleLine(R"({"call": "ShellAndWait", "args": ["true", 6]})");
+        QCOMPARE(field(start, u"result"), QByteArray("0"));
+        QCOMPARE(field(start, u"actions"),
+            QByteArray(R"([{"command":"true","kind":"start","windowStyle":6}])"));
+        const auto onTop = session.handleLine(
+            R"({"call": "FormOnTop", "args": [{"$object": "Form", "hWnd": 7}]})");
+        QVERIFY(field(onTop, u"actions").startsWith(R"([{"kind":"onTop","object":{"$object":"Form")"));
+        const auto quiet = session.handleLine(R"({"call": "PathRS", "args": ["C:\\x\\"]})");
+        QCOMPARE(field(quiet, u"actions"), QByteArray());
+    }
+
     // The platform the requests see.
     void environmentFieldsKeepTheirValue()
     {

@@ -319,6 +319,8 @@ JsonValue Session::run(Call &call, Outcome &outcome)
         response.insert(QStringLiteral("argTypes"), std::move(argTypes));
     response.insert(QStringLiteral("props"), properties());
     response.insert(QStringLiteral("shown"), shown());
+    if (!m_platform->actions().isEmpty())
+        response.insert(QStringLiteral("actions"), actions());
     if (!error.isNull())
         response.insert(QStringLiteral("error"), std::move(error));
     return response;
@@ -339,6 +341,14 @@ JsonValue Session::shown() const
     JsonValue list = JsonValue::array();
     for (const QVariant &record : m_platform->shown())
         list.append(shownRecord(record.toMap()));
+    return list;
+}
+
+JsonValue Session::actions() const
+{
+    JsonValue list = JsonValue::array();
+    for (const QVariant &record : m_platform->actions())
+        list.append(plainJson(record));
     return list;
 }
 

@@ -62,6 +62,8 @@ private:
     JsonValue run(Call &call, Outcome &outcome);
     JsonValue properties() const;
     JsonValue shown() const;
+    // What the call asked the machine to do: program starts, shut-down, topmost forms.
+    JsonValue actions() const;
     void keepHeldObjects(QObject *owner);
 
     std::shared_ptr<RecordingPlatform> m_platform;

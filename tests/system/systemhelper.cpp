@@ -1,0 +1,41 @@
+// A small program the system tests start as a separate process:
+//   write FILE SECTION KEY COUNT   sets KEY to "KEY-1" ... "KEY-COUNT" (0: for ever)
+//   hold APPLICATION               registers as a running copy, prints "ready", waits
+//   exit CODE                      ends at once with that exit code
+//   sleep MILLISECONDS             ends after that time
+#include "platform/platform.h"
+#include "system/settingsfile.h"
+
+#include <QString>
+#include <QThread>
+
+#include <cstdio>
+#include <cstdlib>
+
+int main(int argc, char *argv[])
+{
+    const QString mode = argc > 1 ? QString::fromLocal8Bit(argv[1]) : QString();
+    if (mode == QLatin1String("write") && argc == 6) {
+        QString file = QString::fromLocal8Bit(argv[2]);
+        const QString section = QString::fromLocal8Bit(argv[3]);
+        const QString key = QString::fromLocal8Bit(argv[4]);
+        const long count = std::atol(argv[5]);
+        for (long i = 1; count == 0 || i <= count; ++i)
+            qor::writeIni(section, key, key + QLatin1Char('-') + QString::number(i), file);
+        return 0;
+    }
+    if (mode == QLatin1String("hold") && argc == 3) {
+        qor::platform().registerInstance(QString::fromLocal8Bit(argv[2]));
+        std::printf("ready\n");
+        std::fflush(stdout);
+        for (;;)
+            QThread::sleep(1);
+    }
+    if (mode == QLatin1String("exit") && argc == 3)
+        return std::atoi(argv[2]);
+    if (mode == QLatin1String("sleep") && argc == 3) {
+        QThread::msleep(std::atol(argv[2]));
+        return 0;
+    }
+    return 2;
+}

@@ -1,0 +1,275 @@
+#include "lib/clsqorgenlib.h"
+#include "platform/commandline.h"
+#include "platform/wildcard.h"
+
+#include "tests/common/recordingmachine.h"
+
+#include <QDir>
+#include <QElapsedTimer>
+#include <QFile>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <sys/stat.h>
+#include <unistd.h>
+
+using namespace qor;
+
+namespace {
+
+const QString helper = QStringLiteral(QOR_SYSTEM_HELPER);
+const QString split = QString(2, QChar(0x00AD));
+
+void touch(const QString &path)
+{
+    QFile file(path);
+    QVERIFY(file.open(QIODevice::WriteOnly));
+}
+
+} // namespace
+
+class TestProcesses : public QObject
+{
+    Q_OBJECT
+
+    std::shared_ptr<RecordingPlatform> machine;
+    QTemporaryDir folder;
+
+private slots:
+    void init() { machine = test::installRecordingPlatform(); }
+
+    void commandLines_data()
+    {
+        QTest::addColumn<QString>("commandLine");
+        QTest::addColumn<QStringList>("words");
+        // clang-format off
+        QTest::newRow("program alone") << "notepad" << QStringList { "notepad" };
+        QTest::newRow("blanks and tabs between words") << "  a \t b  c " << QStringList { "a", "b", "c" };
+        QTest::newRow("quoted path with blanks") << "\"C:\\Program Files\\x.exe\" /s" << QStringList { "C:\\Program Files\\x.exe", "/s" };
+        QTest::newRow("quotes inside a word") << "a\"b c\"d" << QStringList { "ab cd" };
+        QTest::newRow("doubled quote inside quotes") << "\"say \"\"hi\"\"\"" << QStringList { "say \"hi\"" };
+        QTest::newRow("empty quoted word") << "a \"\" b" << QStringList { "a", "", "b" };
+        QTest::newRow("unclosed quote runs to the end") << "\"a b" << QStringList { "a b" };
+        QTest::newRow("apostrophe is a letter") << "open O'Neil.txt" << QStringList { "open", "O'Neil.txt" };
+        QTest::newRow("both separators kept") << "x C:/a\\b" << QStringList { "x", "C:/a\\b" };
+        QTest::newRow("blank line") << "   " << QStringList {};
+        // clang-format on
+    }
+    void commandLines()
+    {
+        QFETCH(QString, commandLine);
+        QTEST(splitCommandLine(commandLine), "words");
+    }
+
+    void wildcards_data()
+    {
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<QString>("pattern");
+        QTest::addColumn<bool>("matches");
+        // clang-format off
+        QTest::newRow("star dot ext") << "Factuur.TXT" << "*.txt" << true;
+        QTest::newRow("other extension") << "factuur.txt.bak" << "*.txt" << false;
+        QTest::newRow("star dot star without a dot") << "README" << "*.*" << true;
+        QTest::newRow("star alone") << ".x" << "*" << true;
+        QTest::newRow("question mark one character") << "a1.wav" << "a?.wav" << true;
+        QTest::newRow("question mark not zero characters") << "a.wav" << "a?.wav" << false;
+        QTest::newRow("brackets are plain") << "[1].txt" << "[1].txt" << true;
+        QTest::newRow("brackets not a class") << "1.txt" << "[1].txt" << false;
+        QTest::newRow("empty pattern matches all") << "x" << "" << true;
+        QTest::newRow("accented without regard to case") << "\u00C9T\u00C9.txt" << "\u00E9t\u00E9.*" << true;
+        QTest::newRow("star in the middle backtracks") << "abcabd" << "a*d" << true;
+        // clang-format on
+    }
+    void wildcards()
+    {
+        QFETCH(QString, name);
+        QFETCH(QString, pattern);
+        QTEST(matchesWildcard(name, pattern), "matches");
+    }
+
+    void shellAndWait_data()
+    {
+        QTest::addColumn<QString>("commandLine");
+        QTest::addColumn<int>("result");
+        QTest::addColumn<QString>("description"); // of the start failure, "" when it started
+        // clang-format off
+        QTest::newRow("exits at once") << "\"" + helper + "\" exit 0" << 0 << "";
+        QTest::newRow("fails at once: 0 all the same") << "\"" + helper + "\" exit 3" << 0 << "";
+        QTest::newRow("from the search path") << "true" << 0 << "";
+        QTest::newRow("missing program") << "/no/such/program.exe arg" << 53 << "File not found";
+        QTest::newRow("missing program on the path") << "geen_programma_zo" << 53 << "File not found";
+        QTest::newRow("not executable") << "\"" + QStringLiteral(QOR_SYSTEM_HELPER).section('/', 0, -2) + "/CMakeFiles\"" << 70 << "Permission denied";
+        QTest::newRow("empty command") << "" << 5 << "Invalid procedure call or argument";
+        QTest::newRow("blank command") << "  " << 5 << "Invalid procedure call or argument";
+        // clang-format on
+    }
+    void shellAndWait()
+    {
+        QFETCH(QString, commandLine);
+        QFETCH(QString, description);
+        clsqorGenLib lib;
+        QTEST(lib.ShellAndWait(commandLine, 1), "result");
+        const QVariantMap start = machine->actions().value(0).toMap();
+        QCOMPARE(start.value("kind").toString(), QStringLiteral("start"));
+        QCOMPARE(start.value("command").toString(), commandLine);
+        QCOMPARE(start.value("windowStyle").toInt(), 1);
+        if (description.isEmpty()) {
+            QVERIFY(machine->shown().isEmpty());
+        } else {
+            QCOMPARE(test::onlyMessage(*machine),
+                (QVariantMap {
+                    { "prompt", "Error starting task " + commandLine + "\r\n" + description },
+                    { "buttons", 48 }, { "title", "Error" } }));
+        }
+    }
+
+    void aWindowStyleOutsideTheListIsRefused_data()
+    {
+        QTest::addColumn<int>("style");
+        QTest::addColumn<int>("result");
+        // clang-format off
+        QTest::newRow("hidden") << 0 << 0;
+        QTest::newRow("minimised without focus") << 6 << 0;
+        QTest::newRow("5 is no style") << 5 << 5;
+        QTest::newRow("negative") << -1 << 5;
+        QTest::newRow("7") << 7 << 5;
+        // clang-format on
+    }
+    void aWindowStyleOutsideTheListIsRefused()
+    {
+        QFETCH(int, style);
+        QFETCH(int, result);
+        clsqorGenLib lib;
+        QCOMPARE(lib.ShellAndWait(QStringLiteral("true"), style), result);
+        QCOMPARE(machine->actions().size(), result == 0 ? 1 : 0);
+        QCOMPARE(machine->shown().size(), result == 0 ? 0 : 1);
+    }
+
+    void shellAndWaitWaitsForTheEnd()
+    {
+        clsqorGenLib lib;
+        QElapsedTimer timer;
+        timer.start();
+        QCOMPARE(lib.ShellAndWait("\"" + helper + "\" sleep 300", 0), 0);
+        QVERIFY(timer.elapsed() >= 300);
+    }
+
+    void aProgramInAFolderWithBlanksAndQuotes()
+    {
+        QTemporaryDir dir;
+        const QString odd = dir.filePath(QStringLiteral("map met 'spatie'"));
+        QVERIFY(QDir().mkpath(odd));
+        const QString copy = odd + QStringLiteral("/hulp prog");
+        QVERIFY(QFile::copy(helper, copy));
+        QVERIFY(QFile::setPermissions(copy, QFile::ReadOwner | QFile::ExeOwner));
+        clsqorGenLib lib;
+        QCOMPARE(lib.ShellAndWait("\"" + copy + "\" exit 1", 4), 0);
+        QVERIFY(machine->shown().isEmpty());
+        QVERIFY(QFile::setPermissions(copy, QFile::ReadOwner));
+        QCOMPARE(lib.ShellAndWait("\"" + copy + "\"", 4), 70);
+    }
+
+    void getFileList_data()
+    {
+        QTest::addColumn<QString>("folder"); // relative to the test folder; "\" or "/"
+        QTest::addColumn<QString>("wildcard");
+        QTest::addColumn<QStringList>("names"); // sorted here; the order is the file system's
+        // clang-format off
+        QTest::newRow("pattern") << "data" << "*.txt" << QStringList { "A.TXT", "b.txt", "met spatie.txt" };
+        QTest::newRow("trailing backslash") << "data\\" << "*.txt" << QStringList { "A.TXT", "b.txt", "met spatie.txt" };
+        QTest::newRow("trailing slash") << "data/" << "*.TXT" << QStringList { "A.TXT", "b.txt", "met spatie.txt" };
+        QTest::newRow("everything: no folders, hidden files or pipes") << "data" << "*.*" << QStringList { "A.TXT", "b.txt", "geen", "met spatie.txt", "ro.dat" };
+        QTest::newRow("read-only file counts") << "data" << "ro.*" << QStringList { "ro.dat" };
+        QTest::newRow("a pipe has attribute 0") << "data" << "pijp" << QStringList {};
+        QTest::newRow("hidden file skipped") << "data" << ".verborgen" << QStringList {};
+        QTest::newRow("nothing matches") << "data" << "*.wav" << QStringList {};
+        QTest::newRow("missing folder") << "geen map" << "*.*" << QStringList {};
+        QTest::newRow("a file as folder") << "data\\b.txt" << "*" << QStringList {};
+        QTest::newRow("a quote in the pattern") << "data" << "\"*" << QStringList {};
+        // clang-format on
+    }
+    void getFileList()
+    {
+        QFETCH(QString, folder);
+        QFETCH(QString, wildcard);
+        QTemporaryDir dir;
+        const QString data = dir.filePath(QStringLiteral("data"));
+        QVERIFY(QDir().mkpath(data + QStringLiteral("/sub.txt")));
+        for (const char *name :
+            { "A.TXT", "b.txt", "met spatie.txt", "geen", ".verborgen", "ro.dat" })
+            touch(data + QLatin1Char('/') + QLatin1String(name));
+        QVERIFY(QFile::setPermissions(data + QStringLiteral("/ro.dat"), QFile::ReadOwner));
+        QCOMPARE(::mkfifo(QFile::encodeName(data + QStringLiteral("/pijp")).constData(), 0600), 0);
+        clsqorGenLib lib;
+        const QString list = lib.GetFileList(dir.path() + QLatin1Char('\\') + folder, wildcard, 2);
+        QStringList names = list.isEmpty() ? QStringList() : list.split(split);
+        names.sort();
+        QTEST(names, "names");
+        // The attribute asked for changes nothing.
+        QCOMPARE(lib.GetFileList(dir.path() + QLatin1Char('/') + folder, wildcard), list);
+    }
+
+    void unreadableFolderGivesNothing()
+    {
+        if (::geteuid() == 0)
+            QSKIP("the administrator reads any folder");
+        QTemporaryDir dir;
+        touch(dir.filePath(QStringLiteral("a.txt")));
+        QFile::setPermissions(dir.path(), QFile::WriteOwner);
+        clsqorGenLib lib;
+        const QString list = lib.GetFileList(dir.path(), QStringLiteral("*.*"));
+        QFile::setPermissions(dir.path(), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+        QCOMPARE(list, QString());
+    }
+
+    void pathRS_data()
+    {
+        QTest::addColumn<QString>("path");
+        QTest::addColumn<QString>("result");
+        // clang-format off
+        QTest::newRow("trailing backslash") << "C:\\data\\" << "C:\\data";
+        QTest::newRow("drive root") << "C:\\" << "C:";
+        QTest::newRow("three blanks") << "   " << "";
+        QTest::newRow("only one of two removed") << "C:\\data\\\\" << "C:\\data\\";
+        QTest::newRow("blanks kept") << " C:\\a\\ " << " C:\\a\\ ";
+        QTest::newRow("slash kept") << "/data/" << "/data/";
+        QTest::newRow("tab is no blank") << "\t" << "\t";
+        QTest::newRow("empty") << "" << "";
+        // clang-format on
+    }
+    void pathRS()
+    {
+        QFETCH(QString, path);
+        clsqorGenLib lib;
+        QTEST(lib.PathRS(path), "result");
+    }
+
+    void getSystemDir_data()
+    {
+        QTest::addColumn<QString>("systemDirectory");
+        QTest::addColumn<QString>("result");
+        // clang-format off
+        QTest::newRow("as set") << "/srv/qor" << "/srv/qor";
+        QTest::newRow("one trailing backslash dropped") << "C:\\WINDOWS\\\\" << "C:\\WINDOWS\\";
+        QTest::newRow("none") << "" << "";
+        QTest::newRow("cut to the buffer") << QString(300, 'd') << QString(255, 'd');
+        // clang-format on
+    }
+    void getSystemDir()
+    {
+        QFETCH(QString, systemDirectory);
+        machine->setSystemDirectory(systemDirectory);
+        clsqorGenLib lib;
+        QTEST(lib.GetSystemDir(), "result");
+    }
+
+    void shutDownIsOnlyRecorded()
+    {
+        clsqorGenLib lib;
+        lib.ShutDownPC();
+        QCOMPARE(machine->actions(), (QVariantList { QVariantMap { { "kind", "shutdown" } } }));
+    }
+};
+
+QTEST_GUILESS_MAIN(TestProcesses)
+#include "tst_processes.moc"

@@ -1,0 +1,251 @@
+#include "lib/clsqorgenlib.h"
+#include "system/profilefile.h"
+
+#include "tests/common/recordingmachine.h"
+
+#include <QFile>
+#include <QProcess>
+#include <QRandomGenerator>
+#include <QRegularExpression>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QThread>
+
+#include <unistd.h>
+
+using namespace qor;
+
+namespace {
+
+const QString helper = QStringLiteral(QOR_SYSTEM_HELPER);
+
+QByteArray contentsOf(const QString &path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("<missing>");
+}
+
+void writeBytes(const QString &path, const QByteArray &bytes)
+{
+    QFile file(path);
+    QVERIFY(file.open(QIODevice::WriteOnly | QIODevice::Truncate));
+    QCOMPARE(file.write(bytes), bytes.size());
+}
+
+// A settings file as a person keeps it: comments, blank lines, other sections.
+QByteArray kassaFile(const QByteArray &teller)
+{
+    QByteArray file = "; Kassa van de winkel\r\n[Kassa]\r\nTeller=" + teller + "\r\n\r\n";
+    for (int i = 0; i < 400; ++i)
+        file += "[Artikel" + QByteArray::number(i) + "]\r\nNaam=Artikel nummer "
+            + QByteArray::number(i) + "\r\n; opmerking\r\n\r\n";
+    return file;
+}
+
+} // namespace
+
+class TestSettingsFile : public QObject
+{
+    Q_OBJECT
+
+    std::shared_ptr<RecordingPlatform> machine;
+    QTemporaryDir folder;
+
+    QString path(const QString &name) const { return folder.filePath(name); }
+
+private slots:
+    void init()
+    {
+        machine = test::installRecordingPlatform();
+        machine->setSystemDirectory(folder.path());
+        QFile::remove(path(QStringLiteral("qorSoft.ini")));
+    }
+
+    void defaultFileInTheSystemFolder()
+    {
+        clsqorGenLib lib;
+        QString iniFile;
+        lib.WriteIni(
+            QStringLiteral("Kassa"), QStringLiteral("Printer"), QStringLiteral("LPT1"), iniFile);
+        QCOMPARE(iniFile, folder.path() + QStringLiteral("\\qorSoft.ini"));
+        QCOMPARE(contentsOf(path(QStringLiteral("qorSoft.ini"))),
+            QByteArray("[Kassa]\r\nPrinter=LPT1\r\n"));
+        QVariantList args { "kassa", "PRINTER", QString(), true };
+        QCOMPARE(lib.Invoke(QStringLiteral("GetIni"), args).toString(), QStringLiteral("LPT1"));
+        QCOMPARE(args[2].toString(), folder.path() + QStringLiteral("\\qorSoft.ini"));
+        QVERIFY(machine->shown().isEmpty());
+    }
+
+    // What GetIni returns and tells for files of every kind.
+    void getIni_data()
+    {
+        QTest::addColumn<QByteArray>("contents"); // "<none>": no file at all
+        QTest::addColumn<QString>("key");
+        QTest::addColumn<bool>("mbox");
+        QTest::addColumn<QString>("value");
+        QTest::addColumn<bool>("told");
+        // clang-format off
+        QTest::newRow("found") << QByteArray("[S]\r\nK=v\r\n") << "K" << true << "v" << false;
+        QTest::newRow("missing key, no box") << QByteArray("[S]\r\nK=v\r\n") << "L" << false << "" << false;
+        QTest::newRow("missing key told") << QByteArray("[S]\r\nK=v\r\n") << "L" << true << "" << true;
+        QTest::newRow("empty value told as missing") << QByteArray("[S]\r\nK=\r\n") << "K" << true << "" << true;
+        QTest::newRow("missing file") << QByteArray("<none>") << "K" << true << "" << true;
+        QTest::newRow("empty file") << QByteArray() << "K" << false << "" << false;
+        QTest::newRow("binary file") << QByteArray("\x00\xFF\x01\n\x00[S\x00", 9) << "K" << false << "" << false;
+        QTest::newRow("300 characters cut to 254") << "[S]\r\nK=" + QByteArray(300, 'x') + "\r\n" << "K" << true << QString(254, 'x') << false;
+        QTest::newRow("255 characters cut to 254") << "[S]\r\nK=" + QByteArray(255, 'y') + "\r\n" << "K" << true << QString(254, 'y') << false;
+        QTest::newRow("254 characters whole") << "[S]\r\nK=" + QByteArray(254, 'z') + "\r\n" << "K" << true << QString(254, 'z') << false;
+        // clang-format on
+    }
+    void getIni()
+    {
+        QFETCH(QByteArray, contents);
+        QFETCH(QString, key);
+        QFETCH(bool, mbox);
+        const QString file = path(QStringLiteral("test.ini"));
+        QFile::remove(file);
+        if (contents != "<none>")
+            writeBytes(file, contents);
+        clsqorGenLib lib;
+        QString iniFile = file;
+        QTEST(lib.GetIni(QStringLiteral("S"), key, iniFile, mbox), "value");
+        QFETCH(bool, told);
+        QCOMPARE(machine->shown().size(), told ? 1 : 0);
+        if (told) {
+            const QString prompt = QStringLiteral("[S] - ") + key + QStringLiteral("= ?\r\r")
+                + QStringLiteral("Kan parameter niet terugvinden in ") + file
+                + QStringLiteral(" !");
+            QCOMPARE(test::onlyMessage(*machine),
+                (QVariantMap { { "prompt", prompt }, { "buttons", 16 }, { "title", QString() } }));
+            QCOMPARE(machine->shown().first().toMap().value("kind").toString(),
+                QStringLiteral("MsgBox"));
+        }
+        // Reading never changes the file.
+        QCOMPARE(contentsOf(file), contents == "<none>" ? QByteArray("<missing>") : contents);
+    }
+
+    void theMessageFollowsTheLanguage()
+    {
+        clsqorGenLib lib;
+        lib.setProperty("Offset", 10000);
+        QString iniFile = path(QStringLiteral("none.ini"));
+        lib.GetIni(QStringLiteral("A"), QStringLiteral("B"), iniFile);
+        QVERIFY(test::onlyMessage(*machine).value("prompt").toString().contains(
+            QStringLiteral("Impossible de trouver le param\u00E8tre dans ")));
+    }
+
+    void writesThatCannotHappenChangeNothing_data()
+    {
+        QTest::addColumn<bool>("readOnlyFile");
+        // clang-format off
+        QTest::newRow("read-only file") << true;
+        QTest::newRow("read-only folder") << false;
+        // clang-format on
+    }
+    void writesThatCannotHappenChangeNothing()
+    {
+        QFETCH(bool, readOnlyFile);
+        if (!readOnlyFile && ::geteuid() == 0)
+            QSKIP("the administrator writes in any folder");
+        QTemporaryDir local;
+        const QString file = local.filePath(QStringLiteral("vast.ini"));
+        const QByteArray before = "[S]\r\nK=oud\r\n";
+        writeBytes(file, before);
+        const QString locked = readOnlyFile ? file : local.path();
+        const auto permissions = QFile::permissions(locked);
+        QFile::setPermissions(locked, QFile::ReadOwner | QFile::ExeOwner);
+        clsqorGenLib lib;
+        QString iniFile = file;
+        lib.WriteIni(QStringLiteral("S"), QStringLiteral("K"), QStringLiteral("nieuw"), iniFile);
+        const QByteArray after = contentsOf(file);
+        QFile::setPermissions(locked, permissions);
+        QCOMPARE(after, before);
+        QCOMPARE(
+            QDir(local.path()).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot),
+            QStringList { "vast.ini" });
+    }
+
+    void aMissingFolderIsNotCreated()
+    {
+        clsqorGenLib lib;
+        QString iniFile = path(QStringLiteral("geen/map/x.ini"));
+        lib.WriteIni(QStringLiteral("S"), QStringLiteral("K"), QStringLiteral("v"), iniFile);
+        QVERIFY(!QFile::exists(iniFile));
+        QCOMPARE(lib.GetIni(QStringLiteral("S"), QStringLiteral("K"), iniFile, false), QString());
+    }
+
+    void aHugeFileKeepsEveryByte()
+    {
+        const QString file = path(QStringLiteral("huge.ini"));
+        QByteArray line = "Regel=" + QByteArray(90, 'r') + "\r\n";
+        QByteArray body = "[Groot]\r\n";
+        body.reserve(100 * 1024 * 1024 + 200);
+        while (body.size() < 100 * 1024 * 1024)
+            body += line;
+        body += "Laatste=1";
+        writeBytes(file, body);
+        clsqorGenLib lib;
+        QString iniFile = file;
+        QCOMPARE(lib.GetIni(QStringLiteral("groot"), QStringLiteral("laatste"), iniFile, false),
+            QStringLiteral("1"));
+        lib.WriteIni(
+            QStringLiteral("Groot"), QStringLiteral("Laatste"), QStringLiteral("2"), iniFile);
+        body.chop(1);
+        QVERIFY(contentsOf(file) == body + "2");
+    }
+
+    void aSymbolicLinkKeepsPointingAtTheFile()
+    {
+        const QString target = path(QStringLiteral("echt.ini"));
+        const QString link = path(QStringLiteral("link.ini"));
+        writeBytes(target, "[S]\nK=1\n");
+        QVERIFY(QFile::link(target, link));
+        clsqorGenLib lib;
+        QString iniFile = link;
+        lib.WriteIni(QStringLiteral("S"), QStringLiteral("K"), QStringLiteral("2"), iniFile);
+        QVERIFY(QFileInfo(link).isSymLink());
+        QCOMPARE(contentsOf(target), QByteArray("[S]\nK=2\n"));
+    }
+
+    // A writer killed at any moment leaves the old file or the new one, whole.
+    void aKilledWriterLeavesAWholeFile()
+    {
+        const QString file = path(QStringLiteral("kassa.ini"));
+        writeBytes(file, kassaFile("0"));
+        const QRegularExpression written(QStringLiteral("^(0|Teller-\\d+)$"));
+        int changed = 0;
+        for (int round = 0; round < 300; ++round) {
+            QProcess writer;
+            writer.start(helper, { "write", file, "Kassa", "Teller", "0" });
+            QVERIFY(writer.waitForStarted());
+            QThread::usleep(QRandomGenerator::global()->bounded(15000));
+            writer.kill();
+            QVERIFY(writer.waitForFinished());
+            const QByteArray contents = contentsOf(file);
+            const auto value
+                = ProfileFile(contents).value(QStringLiteral("Kassa"), QStringLiteral("Teller"));
+            QVERIFY2(value && written.match(*value).hasMatch(), qPrintable(value.value_or("?")));
+            QVERIFY2(contents == kassaFile(value->toLatin1()), "a line was lost or moved");
+            changed += *value != QLatin1String("0");
+        }
+        // Most writers got as far as at least one whole write.
+        QVERIFY(changed > 0);
+    }
+
+    // Two processes writing different keys at once both keep every value.
+    void concurrentWritersKeepBothKeys()
+    {
+        const QString file = path(QStringLiteral("samen.ini"));
+        writeBytes(file, "; gedeeld\r\n[Kassa]\r\nA=0\r\nB=0\r\n");
+        QProcess first, second;
+        first.start(helper, { "write", file, "Kassa", "A", "200" });
+        second.start(helper, { "write", file, "Kassa", "B", "200" });
+        QVERIFY(first.waitForFinished(60000) && second.waitForFinished(60000));
+        QCOMPARE(first.exitCode(), 0);
+        QCOMPARE(second.exitCode(), 0);
+        QCOMPARE(contentsOf(file), QByteArray("; gedeeld\r\n[Kassa]\r\nA=A-200\r\nB=B-200\r\n"));
+    }
+};
+
+QTEST_GUILESS_MAIN(TestSettingsFile)
+#include "tst_settingsfile.moc"
