@@ -1,7 +1,6 @@
 # A helper program the tests start as a separate process.
 add_executable(qor_systemhelper ${dir}/systemhelper.cpp)
-target_include_directories(qor_systemhelper PRIVATE ${PROJECT_SOURCE_DIR})
-target_link_libraries(qor_systemhelper PRIVATE qorGenLib)
+target_link_libraries(qor_systemhelper PRIVATE qorGenLibInternal)
 
 qor_add_test(tst_profilefile ${dir}/tst_profilefile.cpp)
 qor_add_test(tst_settingsfile ${dir}/tst_settingsfile.cpp TIMEOUT 120)
