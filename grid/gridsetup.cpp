@@ -130,36 +130,36 @@ void addColumnsUpTo(QObject *grid, qint16 colIndex)
 }
 
 // A new last visible column: the previous one gets its own width back.
-void keepWidths(QObject *grid, const GridColumnSpec &spec, GridColumnWidths &widths)
+void keepWidths(QObject *grid, const GridColumnSpec &wanted, GridColumnWidths &widths)
 {
-    if (!spec.visible)
+    if (!wanted.visible)
         return;
-    if (spec.colIndex > widths.lastColIndex) {
+    if (wanted.colIndex > widths.lastColIndex) {
         QObject *previous = hostcollection::item(columnsOf(grid), widths.lastColIndex);
         set(previous, "Width", widths.lastColWidth);
         if (widths.lastColWidth >= 1)
             widths.usedWidth += float(number(previous, "Width"));
     }
-    widths.lastColIndex = spec.colIndex;
-    widths.lastColWidth = spec.colWidth;
+    widths.lastColIndex = wanted.colIndex;
+    widths.lastColWidth = wanted.colWidth;
 }
 
-void defineColumn(QObject *grid, const GridColumnSpec &spec, const GridColumnWidths &widths)
+void defineColumn(QObject *grid, const GridColumnSpec &wanted, const GridColumnWidths &widths)
 {
-    QObject *column = hostcollection::item(columnsOf(grid), spec.colIndex);
-    set(column, "DataField", spec.dataField);
-    set(column, "Caption", spec.caption);
-    set(column, "Alignment", spec.alignment);
+    QObject *column = hostcollection::item(columnsOf(grid), wanted.colIndex);
+    set(column, "DataField", wanted.dataField);
+    set(column, "Caption", wanted.caption);
+    set(column, "Alignment", wanted.alignment);
     set(column, "Width", float(number(grid, "Width")) - widths.usedWidth - float(ScrollBarRoom));
-    set(column, "FetchStyle", spec.fetchStyle);
-    set(column, "Visible", spec.visible);
-    set(column, "NumberFormat", spec.numberFormat);
-    set(column, "Merge", spec.merge);
-    set(column, "AllowFocus", !spec.merge);
-    set(column, "AllowSizing", spec.allowColSizing);
+    set(column, "FetchStyle", wanted.fetchStyle);
+    set(column, "Visible", wanted.visible);
+    set(column, "NumberFormat", wanted.numberFormat);
+    set(column, "Merge", wanted.merge);
+    set(column, "AllowFocus", !wanted.merge);
+    set(column, "AllowSizing", wanted.allowColSizing);
     set(child(column, "HeadingStyle"), "EllipsisText", true);
     set(column, "DividerStyle", DividerInset);
-    set(column, "HeadAlignment", spec.alignment == 0 ? 0 : HeadingCentred);
+    set(column, "HeadAlignment", wanted.alignment == 0 ? 0 : HeadingCentred);
 }
 
 QString trimmed(const QString &text)

@@ -19,19 +19,19 @@ struct ColumnCall
     bool visible;
 };
 
-QList<ColumnCall> columnCalls(const QString &spec)
+QList<ColumnCall> columnCalls(const QString &columnList)
 {
     QList<ColumnCall> calls;
-    for (const QString &call : spec.split(QLatin1Char(','), Qt::SkipEmptyParts)) {
+    for (const QString &call : columnList.split(QLatin1Char(','), Qt::SkipEmptyParts)) {
         const QStringList parts = call.split(QLatin1Char(':'));
         calls.append({ short(parts.at(0).toInt()), parts.at(1).toInt(), parts.size() < 3 });
     }
     return calls;
 }
 
-void defineColumns(clsqorGenLib &lib, Grid &grid, const QString &spec)
+void defineColumns(clsqorGenLib &lib, Grid &grid, const QString &columnList)
 {
-    for (const ColumnCall &call : columnCalls(spec)) {
+    for (const ColumnCall &call : columnCalls(columnList)) {
         lib.SetDBGridCol(&grid, call.index, QStringLiteral("F%1").arg(call.index),
             QStringLiteral("C%1").arg(call.index), 0, call.width, call.visible);
     }

@@ -16,32 +16,32 @@ namespace {
 // Elements written as text: "_" the empty text, "E" Empty, "N" Null,
 // "i:5" an Integer, "d:-1.5" a Double, "b:1" a Boolean, "t:2004-05-20" a date,
 // "[]" a nested array; anything else is the text itself.
-QVariant element(const QString &spec)
+QVariant element(const QString &code)
 {
-    if (spec == QLatin1String("_"))
+    if (code == QLatin1String("_"))
         return QString();
-    if (spec == QLatin1String("E"))
+    if (code == QLatin1String("E"))
         return emptyVariant();
-    if (spec == QLatin1String("N"))
+    if (code == QLatin1String("N"))
         return nullVariant();
-    if (spec == QLatin1String("[]"))
+    if (code == QLatin1String("[]"))
         return QVariantList { 1 };
-    if (spec.startsWith(QLatin1String("i:")))
-        return integerVariant(qint16(spec.mid(2).toInt()));
-    if (spec.startsWith(QLatin1String("d:")))
-        return spec.mid(2).toDouble();
-    if (spec.startsWith(QLatin1String("b:")))
-        return spec.mid(2) == QLatin1String("1");
-    if (spec.startsWith(QLatin1String("t:")))
-        return QDateTime(QDate::fromString(spec.mid(2), Qt::ISODate), QTime(0, 0), Qt::UTC);
-    return spec;
+    if (code.startsWith(QLatin1String("i:")))
+        return integerVariant(qint16(code.mid(2).toInt()));
+    if (code.startsWith(QLatin1String("d:")))
+        return code.mid(2).toDouble();
+    if (code.startsWith(QLatin1String("b:")))
+        return code.mid(2) == QLatin1String("1");
+    if (code.startsWith(QLatin1String("t:")))
+        return QDateTime(QDate::fromString(code.mid(2), Qt::ISODate), QTime(0, 0), Qt::UTC);
+    return code;
 }
 
 QVariant array(const QString &specs)
 {
     QVariantList list;
-    for (const QString &spec : specs.split(QLatin1Char(','), Qt::SkipEmptyParts))
-        list.append(element(spec));
+    for (const QString &code : specs.split(QLatin1Char(','), Qt::SkipEmptyParts))
+        list.append(element(code));
     return list;
 }
 
