@@ -37,10 +37,10 @@ QVariant element(const QString &code)
     return code;
 }
 
-QVariant array(const QString &specs)
+QVariant array(const QString &codes)
 {
     QVariantList list;
-    for (const QString &code : specs.split(QLatin1Char(','), Qt::SkipEmptyParts))
+    for (const QString &code : codes.split(QLatin1Char(','), Qt::SkipEmptyParts))
         list.append(element(code));
     return list;
 }
