@@ -16,6 +16,7 @@ namespace {
 
 constexpr int backSpaceCode = 8;
 constexpr int enterCode = 13;
+constexpr int escapeCode = 27;
 
 // Keeps the arguments a handler writes back between keys, as a host's
 // variables would be.
@@ -93,6 +94,20 @@ KeyFilterAdapter *KeyFilterAdapter::attachKeySpin(
     return adapter;
 }
 
+KeyFilterAdapter *KeyFilterAdapter::attachScanBM(QLineEdit *field, clsqorGenLib *library,
+    const QString &scanFormat, bool returnFieldOnly, bool mbox)
+{
+    auto *adapter = new KeyFilterAdapter(field, library);
+    // The format is written back in upper case, as into a host's variable.
+    auto format = std::make_shared<QString>(scanFormat);
+    adapter->m_handler = [adapter, format, returnFieldOnly, mbox](short &code) {
+        return int(adapter->m_library->ScanBM(
+            adapter->m_control, code, *format, returnFieldOnly, mbox));
+    };
+    adapter->m_takesEscape = true;
+    return adapter;
+}
+
 int KeyFilterAdapter::characterCode(const QKeyEvent *event)
 {
     if (event->modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier))
@@ -143,7 +158,9 @@ bool KeyFilterAdapter::spin(QKeyEvent *event)
 
 bool KeyFilterAdapter::filterCharacter(QKeyEvent *event)
 {
-    const int typed = characterCode(event);
+    const bool escape = m_takesEscape && event->key() == Qt::Key_Escape
+        && !(event->modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier));
+    const int typed = escape ? escapeCode : characterCode(event);
     if (typed < 0)
         return false;
     short code = short(typed);

@@ -42,6 +42,12 @@ public:
     static KeyFilterAdapter *attachKeySpin(QLineEdit *field, clsqorGenLib *library,
         const QVariant &maxValue = missing(), const QVariant &minValue = missing());
 
+    // A field that takes barcode and card scans: ScanBM with its scan format
+    // ("%[...]") and whether only the "#" positions go into the field. Escape
+    // reaches the scanner too, which drops a scan half read.
+    static KeyFilterAdapter *attachScanBM(QLineEdit *field, clsqorGenLib *library,
+        const QString &scanFormat, bool returnFieldOnly = false, bool mbox = true);
+
     // The field as the library sees it.
     LineEditAdapter *control() const { return m_control; }
 
@@ -65,6 +71,7 @@ private:
     LineEditAdapter *m_control = nullptr;
     Handler m_handler; // for typed characters
     std::function<void(int direction)> m_spin; // for the arrow keys
+    bool m_takesEscape = false; // Escape goes to the handler as code 27
 };
 
 } // namespace qor

@@ -15,7 +15,7 @@ using namespace qor;
 namespace {
 
 // Types a key sequence into a widget: characters as typed, and {Up}, {Down},
-// {BS}, {Enter}, {Home}, {CtrlA} as those keys, {Zhe} a Cyrillic letter.
+// {BS}, {Enter}, {Home}, {CtrlA}, {Esc} as those keys, {Zhe} a Cyrillic letter.
 void typeKeys(QWidget *widget, const QString &keys)
 {
     static const QHash<QString, QPair<Qt::Key, Qt::KeyboardModifiers>> named {
@@ -25,6 +25,7 @@ void typeKeys(QWidget *widget, const QString &keys)
         { "Enter", { Qt::Key_Return, Qt::NoModifier } },
         { "Home", { Qt::Key_Home, Qt::NoModifier } },
         { "CtrlA", { Qt::Key_A, Qt::ControlModifier } },
+        { "Esc", { Qt::Key_Escape, Qt::NoModifier } },
     };
     for (qsizetype i = 0; i < keys.size(); ++i) {
         const qsizetype close
@@ -99,6 +100,10 @@ private slots:
         QTest::newRow("a character outside the code page") << "KeyPress:L" << "nl_BE" << "" << false << 0 << none << "{Zhe}" << "" << 0 << "" << 1 << 0;
         QTest::newRow("spin up twice") << "KeySpin" << "nl_BE" << "5" << false << 0 << none << "{Up}{Up}" << "7" << 1 << "7" << 0 << 0;
         QTest::newRow("spin down stops at one") << "KeySpin" << "nl_BE" << "2" << false << 0 << none << "{Down}{Down}" << "1" << 1 << "1" << 1 << 0;
+        QTest::newRow("scan written into the field") << "ScanBM:%[###]" << "nl_BE" << "" << false << 0 << none << "%[123]" << "123" << 3 << "" << 0 << 0;
+        QTest::newRow("scan only fills an empty or wholly selected field") << "ScanBM:%[###]" << "nl_BE" << "ab" << false << 0 << none << "%[1" << "ab%[1" << 5 << "" << 0 << 0;
+        QTest::newRow("scan dropped by escape, typing goes on") << "ScanBM:%[###]" << "nl_BE" << "" << false << 0 << none << "%[12{Esc}7" << "7" << 1 << "" << 0 << 0;
+        QTest::newRow("control card accepted") << "ScanBM:%[###]" << "nl_BE" << "" << false << 0 << none << "%[OK]" << "OK" << 2 << "" << 0 << 0;
         QTest::newRow("spin lets typing through") << "KeySpin" << "nl_BE" << "2" << false << 0 << none << "x" << "2x" << 2 << "" << 0 << 0;
         // clang-format on
     }
@@ -127,6 +132,8 @@ private slots:
             KeyFilterAdapter::attachKeyEuro(&field, &lib);
         else if (handler == QLatin1String("KeySpin"))
             KeyFilterAdapter::attachKeySpin(&field, &lib);
+        else if (handler.startsWith(QLatin1String("ScanBM:")))
+            KeyFilterAdapter::attachScanBM(&field, &lib, handler.section(QLatin1Char(':'), 1));
         else
             KeyFilterAdapter::attachKeyPress(&field, &lib, handler.section(QLatin1Char(':'), 1));
         typeKeys(&field, keys);
