@@ -82,10 +82,11 @@ void LineEntry::retranslate()
     m_add->setText(catalogueWord(m_lib, 9501));
     fillUnits();
     fillPayments();
-    // The first rate is the usual one; a rate chosen before stays chosen.
-    qint32 rate = m_lib.property("BtwTar1").toInt();
-    qint32 index = qMax(0, m_vat->currentIndex());
-    m_lib.LoadComboBTW(m_vatAdapter, rate, index);
+    // Chosen by position: a value equal to the first rate would select the
+    // second one, as the classic call does. The first rate is the usual one.
+    qint32 value = 0;
+    qint32 index = m_vat->currentIndex() < 0 ? 1 : m_vat->currentIndex();
+    m_lib.LoadComboBTW(m_vatAdapter, value, index);
 }
 
 void LineEntry::fillUnits()

@@ -36,12 +36,12 @@ LineGrid::LineGrid(clsqorGenLib &lib, QWidget *parent)
     , m_lib(lib)
     , m_table(new QTableView(this))
     , m_model(new QStandardItemModel(this))
-    , m_grid(new qor::TableViewAdapter(m_table, this))
     , m_frame(new qor::FrameAdapter(this, this))
 {
     setObjectName(QStringLiteral("fraLijnen"));
     m_table->setObjectName(QStringLiteral("grdLijnen"));
     m_table->setModel(m_model);
+    m_grid = new qor::TableViewAdapter(m_table, this);
     m_grid->setRowHeight(300);
     connect(m_table->horizontalHeader(), &QHeaderView::sectionClicked, this, &LineGrid::sortBy);
     retranslate();

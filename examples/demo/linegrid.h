@@ -46,7 +46,7 @@ private:
     clsqorGenLib &m_lib;
     QTableView *m_table;
     QStandardItemModel *m_model;
-    qor::TableViewAdapter *m_grid;
+    qor::TableViewAdapter *m_grid = nullptr;
     qor::FrameAdapter *m_frame;
     QList<InvoiceLine> m_lines;
     int m_sortColumn = -1;
