@@ -49,7 +49,7 @@ LineGrid::LineGrid(clsqorGenLib &lib, QWidget *parent)
 
 void LineGrid::retranslate()
 {
-    setTitle(catalogueWord(m_lib, 9596));
+    // The grid sits where a title would be: the frame has none.
     // The frame's design size; the library fits the grid and the frame to whole rows.
     setMinimumSize(0, 0);
     setMaximumSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX);
