@@ -1,11 +1,12 @@
 #!/usr/bin/env bash
-# Installs what is missing, builds, and then runs the tour (tour) or all tests
-# (test: the suite, then the suite again under AddressSanitizer and
-# UndefinedBehaviorSanitizer in build-asan/).
+# Installs what is missing, builds, and then runs the main job (no argument:
+# the invoice demo when there is a display, else the tour through qorgen), the
+# tour (tour) or all tests (test: the suite, then the suite again under
+# AddressSanitizer and UndefinedBehaviorSanitizer in build-asan/).
 set -euo pipefail
 cd "$(dirname "$0")/.."
 
-job="${1:-test}"
+job="${1:-main}"
 packages=(cmake ninja-build g++ qt6-base-dev qt6-multimedia-dev libgl-dev pkg-config dpkg-dev file clang libclang-rt-14-dev
           fonts-dejavu-core pulseaudio)
 
@@ -38,6 +39,15 @@ sanitized_tests() {
 }
 
 case "$job" in
+  main)
+    build
+    if [[ -n "${DISPLAY:-}" || -n "${WAYLAND_DISPLAY:-}" ]]; then
+      build/examples/qorgenlib-demo
+    else
+      echo "No display: the tour through qorgen instead of the demo window."
+      bash examples/tour.sh build/tools/qorgen/qorgen
+    fi
+    ;;
   tour)
     build
     bash examples/tour.sh build/tools/qorgen/qorgen
@@ -48,7 +58,7 @@ case "$job" in
     sanitized_tests
     ;;
   *)
-    echo "usage: $0 tour|test" >&2
+    echo "usage: $0 [main|tour|test]" >&2
     exit 2
     ;;
 esac

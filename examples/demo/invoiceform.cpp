@@ -1,89 +1,202 @@
 #include "invoiceform.h"
 
-#include <qorgenlib/host/qt/lineeditadapter.h>
-#include <qorgenlib/lib/clsqorgenlib.h>
+#include "catalogueword.h"
+#include "customerblock.h"
+#include "demosettings.h"
+#include "invoiceheader.h"
+#include "lineentry.h"
+#include "linefile.h"
+#include "linegrid.h"
+#include "totalsblock.h"
 
-#include <QEvent>
-#include <QFormLayout>
+#include <qorgenlib/host/qt/formadapter.h>
+
+#include <QCloseEvent>
+#include <QComboBox>
+#include <QDir>
+#include <QGridLayout>
+#include <QHBoxLayout>
 #include <QLabel>
-#include <QLineEdit>
+#include <QPushButton>
 
-InvoiceForm::InvoiceForm(clsqorGenLib &lib, QWidget *parent)
+namespace {
+// The language names are the same in every language.
+const QStringList languages { QStringLiteral("Nederlands"), QStringLiteral("Français"),
+    QStringLiteral("English"), QStringLiteral("Deutsch"), QStringLiteral("Espanol"),
+    QStringLiteral("Italiano") };
+} // namespace
+
+InvoiceForm::InvoiceForm(clsqorGenLib &lib, DemoSettings &settings, QWidget *parent)
     : QWidget(parent)
     , m_lib(lib)
+    , m_settings(settings)
+    , m_customer(new CustomerBlock(lib, this))
+    , m_header(new InvoiceHeader(lib, this))
+    , m_entry(new LineEntry(lib, this))
+    , m_grid(new LineGrid(lib, this))
+    , m_totals(new TotalsBlock(lib, this))
+    , m_language(new QComboBox(this))
+    , m_languageCaption(new QLabel(this))
+    , m_form(new qor::FormAdapter(this, this))
 {
     setObjectName(QStringLiteral("frmFactuur"));
-    setWindowTitle(lib.LLGenLib(9574 + lib.property("Offset").toInt()));
-    new QFormLayout(this);
-    m_account = addField(QStringLiteral("txtBankNr"), label(9557));
-    m_vat = addField(QStringLiteral("txtBtwNr"), label(9553));
-    m_invoiceNumber = addField(QStringLiteral("txtFactuurNr"), label(9575));
-    m_amount = addField(QStringLiteral("txtBedrag"), label(9597));
-    m_reference = new QLabel(this);
-    m_reference->setObjectName(QStringLiteral("lblOGM"));
-    m_euro = new QLabel(this);
-    m_euro->setObjectName(QStringLiteral("lblEuro"));
-    auto *form = static_cast<QFormLayout *>(layout());
-    form->addRow(QStringLiteral("OGM"), m_reference);
-    form->addRow(QStringLiteral("EUR"), m_euro);
-
-    connect(m_account, &QLineEdit::editingFinished, this, &InvoiceForm::checkAccount);
-    connect(m_vat, &QLineEdit::editingFinished, this, &InvoiceForm::checkVat);
-    connect(m_invoiceNumber, &QLineEdit::editingFinished, this, &InvoiceForm::makeReference);
-    connect(m_amount, &QLineEdit::editingFinished, this, &InvoiceForm::showAmount);
+    m_language->setObjectName(QStringLiteral("cboTaal"));
+    for (int i = 0; i < languages.size(); ++i)
+        m_language->addItem(languages.at(i), i * 10000);
+    m_language->setCurrentIndex(m_lib.property("Offset").toInt() / 10000);
+    createButtons();
+    layOut();
+    connect(m_entry, &LineEntry::lineEntered, m_grid, &LineGrid::append);
+    connect(m_grid, &LineGrid::linesChanged, this, &InvoiceForm::showTotals);
+    connect(m_language, &QComboBox::currentIndexChanged, this,
+        [this](int index) { setLanguage(m_language->itemData(index).toInt()); });
+    retranslate();
+    startInvoice();
 }
 
-// Field labels come from the library's dictionary in the host's language.
-QString InvoiceForm::label(int baseId) const
+void InvoiceForm::createButtons()
 {
-    return m_lib.LLGenLib(baseId + m_lib.property("Offset").toInt());
+    m_save = new QPushButton(this);
+    m_save->setObjectName(QStringLiteral("cmdOpslaan"));
+    m_export = new QPushButton(QStringLiteral("Export"), this);
+    m_export->setObjectName(QStringLiteral("cmdExport"));
+    m_import = new QPushButton(QStringLiteral("Import"), this);
+    m_import->setObjectName(QStringLiteral("cmdImport"));
+    m_status = new QLabel(this);
+    m_status->setObjectName(QStringLiteral("lblStatus"));
+    connect(m_save, &QPushButton::clicked, this, &InvoiceForm::save);
+    connect(m_export, &QPushButton::clicked, this, &InvoiceForm::exportLines);
+    connect(m_import, &QPushButton::clicked, this, &InvoiceForm::importLines);
 }
 
-QLineEdit *InvoiceForm::addField(const QString &objectName, const QString &label)
+void InvoiceForm::layOut()
 {
-    auto *field = new QLineEdit(this);
-    field->setObjectName(objectName);
-    static_cast<QFormLayout *>(layout())->addRow(label, field);
-    m_adapters.insert(field, new qor::LineEditAdapter(field, field));
-    field->installEventFilter(this);
-    return field;
+    auto *grid = new QGridLayout(this);
+    auto *top = new QHBoxLayout;
+    top->addWidget(m_customer, 3);
+    top->addWidget(m_header, 2);
+    grid->addLayout(top, 0, 0, 1, 2);
+    grid->addWidget(m_entry, 1, 0, 1, 2);
+    grid->addWidget(m_grid, 2, 0, 1, 2);
+    auto *buttons = new QHBoxLayout;
+    buttons->addWidget(m_languageCaption);
+    buttons->addWidget(m_language);
+    buttons->addStretch();
+    for (QPushButton *button : { m_save, m_export, m_import })
+        buttons->addWidget(button);
+    auto *left = new QVBoxLayout;
+    left->addWidget(m_status);
+    left->addStretch();
+    left->addLayout(buttons);
+    grid->addLayout(left, 3, 0);
+    grid->addWidget(m_totals, 3, 1);
 }
 
-bool InvoiceForm::eventFilter(QObject *watched, QEvent *event)
+void InvoiceForm::retranslate()
 {
-    // Entering a field selects its whole text, so typing replaces it.
-    if (event->type() == QEvent::FocusIn) {
-        if (qor::LineEditAdapter *adapter = m_adapters.value(watched))
-            m_lib.SelEdit(adapter);
+    setWindowTitle(catalogueWord(m_lib, 9574) + QStringLiteral(" - qorGenLib Demo"));
+    m_languageCaption->setText(catalogueWord(m_lib, 9541));
+    m_save->setText(catalogueWord(m_lib, 9504));
+    m_customer->retranslate();
+    m_header->retranslate();
+    m_entry->retranslate();
+    m_grid->retranslate();
+    m_totals->retranslate();
+}
+
+void InvoiceForm::setLanguage(int offset)
+{
+    // The grid is set up anew in the new language; the form's change check must not see it.
+    const bool changed = m_lib.DataChange(m_form);
+    m_lib.setProperty("Offset", offset);
+    m_language->setCurrentIndex(offset / 10000);
+    retranslate();
+    if (!changed)
+        m_lib.DataChange(m_form, true);
+    m_settings.setValue(QStringLiteral("Taal"), QString::number(offset));
+    emit languageChanged(offset);
+}
+
+void InvoiceForm::startInvoice()
+{
+    m_header->setNumber(m_settings.value(QStringLiteral("VolgendeFactuur"), QStringLiteral("1")));
+    m_lib.DataChange(m_form, true);
+    bool reset = true;
+    m_lib.ControleerBtwClick(reset);
+}
+
+void InvoiceForm::showTotals()
+{
+    m_totals->showTotals(m_grid->lines());
+}
+
+void InvoiceForm::showStatus(const QString &text)
+{
+    m_status->setText(text);
+}
+
+void InvoiceForm::save()
+{
+    if (!m_lib.DataChange(m_form)) {
+        showStatus(catalogueWord(m_lib, 9703));
+        return;
     }
-    return QWidget::eventFilter(watched, event);
+    // Whether the amounts typed since the last VAT key are VAT inclusive.
+    const bool inclusive = m_lib.ControleerBtwClick();
+    const QString number = m_header->number();
+    m_settings.setValue(QStringLiteral("Factuur") + number,
+        m_header->date() + QLatin1Char(' ') + m_header->reference()
+            + (inclusive ? QStringLiteral(" BTW incl.") : QString()));
+    m_settings.setValue(
+        QStringLiteral("VolgendeFactuur"), QString::number(m_lib.CGetal(number).toLongLong() + 1));
+    m_lib.DataChange(m_form, true);
+    bool reset = true;
+    m_lib.ControleerBtwClick(reset);
+    showStatus(catalogueWord(m_lib, 9705));
 }
 
-void InvoiceForm::checkAccount()
+QString InvoiceForm::exportPath() const
 {
-    QString typed = m_account->text();
-    const QString checked = m_lib.ControleerBankNr(typed);
-    if (!checked.isEmpty())
-        m_account->setText(checked);
+    const QString folder = m_settings.value(QStringLiteral("ExportMap"), QDir::homePath());
+    return QDir(folder).filePath(QStringLiteral("factuur-%1.txt").arg(m_header->number()));
 }
 
-void InvoiceForm::checkVat()
+void InvoiceForm::exportLines()
 {
-    QString typed = m_vat->text();
-    QString country;
-    const QString checked = m_lib.ControleerVAT(typed, true, country);
-    if (!checked.isEmpty())
-        m_vat->setText(checked);
+    const QString path = exportPath();
+    LineFile file(m_lib);
+    if (!file.write(path, m_grid->lines())) {
+        m_lib.MsgBoxE(catalogueWord(m_lib, 9726) + path, 48, QStringLiteral("Export"));
+        return;
+    }
+    m_settings.setValue(QStringLiteral("LaatsteExport"), path);
+    showStatus(QStringLiteral("Export: %1 (%2)").arg(path).arg(m_grid->lines().size()));
 }
 
-void InvoiceForm::makeReference()
+void InvoiceForm::importLines()
 {
-    QString number = m_invoiceNumber->text();
-    m_reference->setText(QStringLiteral("+++%1+++").arg(m_lib.GetOGM(number)));
+    const QString path = m_lib.InputBoxE(QStringLiteral("Import :"), QStringLiteral("Import"),
+        m_settings.value(QStringLiteral("LaatsteExport"), exportPath()), 250);
+    if (path == QLatin1String("-9999") || path.trimmed().isEmpty())
+        return;
+    LineFile file(m_lib);
+    const LineFile::ReadResult read = file.read(path.trimmed());
+    if (!read.opened) {
+        m_lib.MsgBoxE(catalogueWord(m_lib, 9725) + path, 48, QStringLiteral("Import"));
+        return;
+    }
+    m_grid->setLines(m_grid->lines() + read.lines);
+    showStatus(QStringLiteral("Import: %1 OK, %2 NOK").arg(read.lines.size()).arg(read.refused));
 }
 
-void InvoiceForm::showAmount()
+void InvoiceForm::closeEvent(QCloseEvent *event)
 {
-    const double amount = m_lib.CGetal(m_amount->text()).toDouble();
-    m_euro->setText(m_lib.SetEuro(float(amount), qorGenLib::vbSymbolEuro));
+    if (!m_lib.DataChange(m_form)) {
+        event->accept();
+        return;
+    }
+    // Yes saves before the window closes, No closes without saving.
+    if (m_lib.MsgBoxE(catalogueWord(m_lib, 9702), 4 + 32, catalogueWord(m_lib, 9574)) == 6)
+        save();
+    event->accept();
 }

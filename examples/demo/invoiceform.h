@@ -1,42 +1,66 @@
 #pragma once
 
-#include <QHash>
 #include <QWidget>
 
+class QComboBox;
 class QLabel;
-class QLineEdit;
+class QPushButton;
 class clsqorGenLib;
+class CustomerBlock;
+class DemoSettings;
+class InvoiceHeader;
+class LineEntry;
+class LineGrid;
+class TotalsBlock;
 
 namespace qor {
-class LineEditAdapter;
+class FormAdapter;
 }
 
-// The header of an invoice as a host application would build it: each field is
-// checked by the library when it loses the focus and gets the library's notation.
+// The invoice-entry window: customer, invoice header, the entry row and the
+// grid of lines, the totals, the language of every caption, and Save, Export
+// and Import. Every check, key, text and dialog is the library's.
 class InvoiceForm : public QWidget
 {
     Q_OBJECT
 
 public:
-    explicit InvoiceForm(clsqorGenLib &lib, QWidget *parent = nullptr);
+    InvoiceForm(clsqorGenLib &lib, DemoSettings &settings, QWidget *parent = nullptr);
+
+    // Switches every caption to a language: 0, 10000 ... 50000.
+    void setLanguage(int offset);
+    void save();
+    void exportLines();
+    void importLines();
+    // The file Export writes for the current invoice.
+    QString exportPath() const;
+
+signals:
+    void languageChanged(int offset);
 
 protected:
-    bool eventFilter(QObject *watched, QEvent *event) override;
+    void closeEvent(QCloseEvent *event) override;
 
 private:
-    QString label(int baseId) const;
-    QLineEdit *addField(const QString &objectName, const QString &label);
-    void checkAccount();
-    void checkVat();
-    void makeReference();
-    void showAmount();
+    void createButtons();
+    void layOut();
+    void retranslate();
+    void showTotals();
+    void showStatus(const QString &text);
+    void startInvoice();
 
     clsqorGenLib &m_lib;
-    QLineEdit *m_account = nullptr;
-    QLineEdit *m_vat = nullptr;
-    QLineEdit *m_invoiceNumber = nullptr;
-    QLineEdit *m_amount = nullptr;
-    QLabel *m_reference = nullptr;
-    QLabel *m_euro = nullptr;
-    QHash<QObject *, qor::LineEditAdapter *> m_adapters;
+    DemoSettings &m_settings;
+    CustomerBlock *m_customer;
+    InvoiceHeader *m_header;
+    LineEntry *m_entry;
+    LineGrid *m_grid;
+    TotalsBlock *m_totals;
+    QComboBox *m_language;
+    QLabel *m_languageCaption;
+    QPushButton *m_save;
+    QPushButton *m_export;
+    QPushButton *m_import;
+    QLabel *m_status;
+    qor::FormAdapter *m_form;
 };

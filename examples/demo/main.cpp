@@ -1,28 +1,61 @@
+#include "demoapp.h"
+#include "demofill.h"
 #include "invoiceform.h"
 
-#include <qorgenlib/lib/clsqorgenlib.h>
 #include <qorgenlib/platform/qt/qtplatform.h>
 
 #include <QApplication>
+#include <QDir>
+#include <QStandardPaths>
 
-// A host application in a few lines: install the on-screen platform, create the
-// library object once, choose the language, and hand it to the forms.
+namespace {
+
+QString option(const QStringList &args, const QString &name)
+{
+    const int at = args.indexOf(name);
+    return at >= 0 && at + 1 < args.size() ? args.at(at + 1) : QString();
+}
+
+// The folder of the settings file: the machine's shared folder when it is
+// there, else (or when asked) a folder of the user's own.
+QString settingsFolder(const QStringList &args)
+{
+    QString folder = option(args, QStringLiteral("--system-dir"));
+    if (folder.isEmpty() && QDir(qor::CorePlatform::defaultSystemDirectory()).exists())
+        return qor::CorePlatform::defaultSystemDirectory();
+    if (folder.isEmpty())
+        folder = QStandardPaths::writableLocation(QStandardPaths::AppConfigLocation);
+    QDir().mkpath(folder);
+    return folder;
+}
+
+} // namespace
+
+// The host application: install the on-screen platform with Belgian regional
+// settings, create the library object once, hand it the application, and show
+// the windows.
+//   --system-dir DIR     where qorSoft.ini lives
+//   --fill demo          types a sample invoice
+//   --screenshot FILE    saves the invoice window and quits
 int main(int argc, char *argv[])
 {
     QApplication app(argc, argv);
-    qor::Platform::install(std::make_shared<qor::QtPlatform>());
-    clsqorGenLib lib;
+    QApplication::setApplicationName(QStringLiteral("qorgenlib-demo"));
     const QStringList args = app.arguments();
-    const int at = args.indexOf(QStringLiteral("--offset"));
-    if (at >= 0 && at + 1 < args.size())
-        lib.setProperty("Offset", args.at(at + 1).toInt());
-    InvoiceForm form(lib);
-    form.show();
-    // "--screenshot file.png" saves the form as shown and quits, for a look without a screen.
-    const int shot = args.indexOf(QStringLiteral("--screenshot"));
-    if (shot >= 0 && shot + 1 < args.size()) {
-        app.processEvents();
-        return form.grab().save(args.at(shot + 1)) ? 0 : 1;
-    }
-    return app.exec();
+    auto machine = std::make_shared<qor::QtPlatform>();
+    machine->setRegionalSettings(qor::RegionalSettings::fromLocale(QStringLiteral("nl_BE")));
+    machine->setSystemDirectory(settingsFolder(args));
+    qor::Platform::install(machine);
+
+    DemoApp demo;
+    if (!demo.start(QCoreApplication::applicationDirPath()))
+        return 1;
+    demo.show();
+    if (option(args, QStringLiteral("--fill")) == QLatin1String("demo"))
+        DemoFill(demo.invoice()).fill();
+    const QString shot = option(args, QStringLiteral("--screenshot"));
+    if (shot.isEmpty())
+        return app.exec();
+    app.processEvents();
+    return demo.invoice()->grab().save(shot) ? 0 : 1;
 }

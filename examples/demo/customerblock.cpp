@@ -1,0 +1,81 @@
+#include "customerblock.h"
+
+#include "catalogueword.h"
+
+#include <qorgenlib/host/qt/keyfilteradapter.h>
+
+#include <QFormLayout>
+#include <QLabel>
+#include <QLineEdit>
+
+CustomerBlock::CustomerBlock(clsqorGenLib &lib, QWidget *parent)
+    : QGroupBox(parent)
+    , m_lib(lib)
+    , m_form(new QFormLayout(this))
+{
+    setObjectName(QStringLiteral("fraKlant"));
+    m_name = addField("txtNaam");
+    m_vat = addField("txtBtwNr");
+    m_account = addField("txtBankNr");
+    m_nationalNumber = addField("txtNatNr");
+    // Quotes never reach a name: the library turns them into the acute accent.
+    qor::KeyFilterAdapter::attachKeyPress(m_name, &m_lib, QString());
+    connect(m_name, &QLineEdit::editingFinished, this, &CustomerBlock::checkName);
+    connect(m_vat, &QLineEdit::editingFinished, this, &CustomerBlock::checkVat);
+    connect(m_account, &QLineEdit::editingFinished, this, &CustomerBlock::checkAccount);
+    connect(
+        m_nationalNumber, &QLineEdit::editingFinished, this, &CustomerBlock::checkNationalNumber);
+    retranslate();
+}
+
+QLineEdit *CustomerBlock::addField(const char *objectName)
+{
+    auto *field = new QLineEdit(this);
+    field->setObjectName(QLatin1String(objectName));
+    auto *label = new QLabel(this);
+    label->setObjectName(QStringLiteral("lbl") + QLatin1String(objectName + 3));
+    label->setBuddy(field);
+    m_form->addRow(label, field);
+    return field;
+}
+
+void CustomerBlock::retranslate()
+{
+    setTitle(catalogueWord(m_lib, 9537));
+    const QList<std::pair<QLineEdit *, int>> captions { { m_name, 9521 }, { m_vat, 9553 },
+        { m_account, 9557 } };
+    for (const auto &[field, id] : captions)
+        static_cast<QLabel *>(m_form->labelForField(field))->setText(catalogueWord(m_lib, id));
+    // The catalogue has no word for the national number: the Belgian abbreviation
+    // of both national languages serves every language.
+    static_cast<QLabel *>(m_form->labelForField(m_nationalNumber))
+        ->setText(QStringLiteral("INSZ / NISS :"));
+}
+
+void CustomerBlock::checkName()
+{
+    QString name = m_name->text();
+    m_name->setText(m_lib.SCase(name));
+}
+
+void CustomerBlock::checkVat()
+{
+    QString typed = m_vat->text();
+    QString country;
+    const QString checked = m_lib.ControleerVAT(typed, true, country);
+    m_vat->setText(checked.isEmpty() ? typed : checked);
+}
+
+void CustomerBlock::checkAccount()
+{
+    QString typed = m_account->text();
+    const QString checked = m_lib.ControleerBankNr(typed);
+    m_account->setText(checked.isEmpty() ? typed : checked);
+}
+
+void CustomerBlock::checkNationalNumber()
+{
+    QString typed = m_nationalNumber->text();
+    const QString checked = m_lib.ControleerNatNr(typed);
+    m_nationalNumber->setText(checked.isEmpty() ? typed : checked);
+}

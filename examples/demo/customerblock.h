@@ -1,0 +1,34 @@
+#pragma once
+
+#include <QGroupBox>
+
+class QFormLayout;
+class QLineEdit;
+class clsqorGenLib;
+
+// The customer of the invoice: name, VAT number, bank account and national
+// number, each checked by the library when the user leaves the field. A wrong
+// number is reported by the library's message box; the field keeps the digits
+// the check left, so the user can correct them.
+class CustomerBlock : public QGroupBox
+{
+    Q_OBJECT
+
+public:
+    explicit CustomerBlock(clsqorGenLib &lib, QWidget *parent = nullptr);
+    void retranslate();
+
+private:
+    QLineEdit *addField(const char *objectName);
+    void checkName();
+    void checkVat();
+    void checkAccount();
+    void checkNationalNumber();
+
+    clsqorGenLib &m_lib;
+    QFormLayout *m_form;
+    QLineEdit *m_name;
+    QLineEdit *m_vat;
+    QLineEdit *m_account;
+    QLineEdit *m_nationalNumber;
+};

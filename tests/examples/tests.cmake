@@ -1,0 +1,8 @@
+# The demo driven as a person would: its windows come from the demo's own
+# library, which links the public shared libraries only, like the program.
+if(TARGET qorgenlib-demo-form)
+  add_executable(tst_demo ${CMAKE_CURRENT_LIST_DIR}/tst_demo.cpp)
+  target_link_libraries(tst_demo PRIVATE qorgenlib-demo-form Qt6::Test)
+  add_test(NAME tst_demo COMMAND tst_demo)
+  set_tests_properties(tst_demo PROPERTIES TIMEOUT 120 ENVIRONMENT "QT_QPA_PLATFORM=offscreen")
+endif()
