@@ -149,8 +149,9 @@ private slots:
         QTest::addColumn<bool>("byClick");
         QTest::addColumn<QString>("title");
         QTest::newRow("Dutch, closed by escape") << 0 << false << "  Help bij Velantis Calculator";
-        QTest::newRow("French, closed by a click")
-            << 10000 << true << "Aide de la Calculatrice Velantis";
+        // clang-format off
+        QTest::newRow("French, closed by a click") << 10000 << true << "Aide de la Calculatrice Velantis";
+        // clang-format on
     }
     void helpCardTakesTheKey()
     {

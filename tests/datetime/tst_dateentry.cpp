@@ -165,18 +165,11 @@ private slots:
         QTest::addColumn<QString>("prompt");
         QTest::addColumn<QString>("title");
         // clang-format off
-        QTest::newRow("Dutch, day first") << "nl_BE" << 0
-            << dutchNotationMessage("DDMMJJ", "DD/MM/JJ", "DD/MM/JJJJ") << "Fout !";
-        QTest::newRow("Dutch, month first") << "en_US" << 0
-            << dutchNotationMessage("MMDDJJ", "MM/DD/JJ", "MM/DD/JJJJ") << "Fout !";
-        QTest::newRow("Dutch, points") << "de_DE" << 0
-            << dutchNotationMessage("DDMMJJ", "DD.MM.JJ", "DD.MM.JJJJ") << "Fout !";
-        QTest::newRow("French, day first") << "fr_BE" << 10000
-            << QStringLiteral("Date non valable.  Utilisez une des notations suivantes :") + cr2
-               + "JJMMAA  ou  JJ/MM/AA  ou  JJ/MM/AAAA" << "Erreur !";
-        QTest::newRow("English, month first") << "en_US" << 20000
-            << QStringLiteral("Invalid Date.  Use one of the following notations :") + cr2
-               + "MMDDYY  or  MM/DD/YY  or  MM/DD/YYYY" << "Error !";
+        QTest::newRow("Dutch, day first") << "nl_BE" << 0 << dutchNotationMessage("DDMMJJ", "DD/MM/JJ", "DD/MM/JJJJ") << "Fout !";
+        QTest::newRow("Dutch, month first") << "en_US" << 0 << dutchNotationMessage("MMDDJJ", "MM/DD/JJ", "MM/DD/JJJJ") << "Fout !";
+        QTest::newRow("Dutch, points") << "de_DE" << 0 << dutchNotationMessage("DDMMJJ", "DD.MM.JJ", "DD.MM.JJJJ") << "Fout !";
+        QTest::newRow("French, day first") << "fr_BE" << 10000 << QStringLiteral("Date non valable.  Utilisez une des notations suivantes :") + cr2 + "JJMMAA  ou  JJ/MM/AA  ou  JJ/MM/AAAA" << "Erreur !";
+        QTest::newRow("English, month first") << "en_US" << 20000 << QStringLiteral("Invalid Date.  Use one of the following notations :") + cr2 + "MMDDYY  or  MM/DD/YY  or  MM/DD/YYYY" << "Error !";
         // clang-format on
     }
     void notationMessage()

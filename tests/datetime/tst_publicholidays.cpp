@@ -109,8 +109,7 @@ private slots:
         QTest::newRow("Flemish") << int(BelgianCommunity::Flemish) << QList<QDate> { QDate(2024, 7, 11) };
         QTest::newRow("French") << int(BelgianCommunity::French) << QList<QDate> { QDate(2024, 9, 27) };
         QTest::newRow("German-speaking") << int(BelgianCommunity::GermanSpeaking) << QList<QDate> { QDate(2024, 11, 15) };
-        QTest::newRow("all") << int(BelgianCommunity::All)
-            << QList<QDate> { QDate(2024, 7, 11), QDate(2024, 9, 27), QDate(2024, 11, 15) };
+        QTest::newRow("all") << int(BelgianCommunity::All) << QList<QDate> { QDate(2024, 7, 11), QDate(2024, 9, 27), QDate(2024, 11, 15) };
         // clang-format on
     }
     void communities()

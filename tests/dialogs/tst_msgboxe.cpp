@@ -173,10 +173,8 @@ private slots:
         QTest::addColumn<QString>("keys");
         QTest::addColumn<QString>("result");
         QTest::newRow("foreign card") << "v" << number;
-        QTest::newRow("typing error") << "t"
-                                      << "";
-        QTest::newRow("Enter") << "\r"
-                               << "";
+        QTest::newRow("typing error") << "t" << "";
+        QTest::newRow("Enter") << "\r" << "";
     }
     void identityCardCheck()
     {
@@ -257,10 +255,11 @@ private slots:
         QTest::addColumn<QString>("title");
         QTest::newRow("100000 characters, no blanks") << QString(100000, 'W') << "";
         QTest::newRow("only carriage returns") << QString(5000, '\r') << "";
-        QTest::newRow("control characters")
-            << QString(300, QChar(1)) + "\t\a\b" << QString(3, QChar(0));
+        // clang-format off
+        QTest::newRow("control characters") << QString(300, QChar(1)) + "\t\a\b" << QString(3, QChar(0));
         QTest::newRow("huge title") << "kort" << QString(100000, 'T');
         QTest::newRow("many words") << QString("lang woord ").repeated(5000) << "";
+        // clang-format on
     }
     void oddPrompts()
     {
@@ -326,12 +325,9 @@ private slots:
     {
         QTest::addColumn<QString>("how");
         QTest::addColumn<QString>("result");
-        QTest::newRow("OK button") << "cmdOK"
-                                   << "Jan";
-        QTest::newRow("Cancel button") << "cmdCancel"
-                                       << "-9999";
-        QTest::newRow("close button") << "close"
-                                      << "-9999";
+        QTest::newRow("OK button") << "cmdOK" << "Jan";
+        QTest::newRow("Cancel button") << "cmdCancel" << "-9999";
+        QTest::newRow("close button") << "close" << "-9999";
     }
     void inputBoxButtonsAndClose()
     {

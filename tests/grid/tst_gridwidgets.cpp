@@ -154,12 +154,10 @@ private slots:
         QTest::addColumn<QStringList>("payments");
         QTest::addColumn<QStringList>("languages");
 
-        QTest::newRow("Dutch") << 0
-                               << QStringList { "Contant", "Bancontact", "9999", "Domiciliëring" }
-                               << QStringList { "NL", "FR", "EN", "NL" };
-        QTest::newRow("French") << 10000
-                                << QStringList { "Comptant", "Bancontact", "9999", "Domiciliation" }
-                                << QStringList { "NL", "FR", "EN", "NL" };
+        // clang-format off
+        QTest::newRow("Dutch") << 0 << QStringList { "Contant", "Bancontact", "9999", "Domiciliëring" } << QStringList { "NL", "FR", "EN", "NL" };
+        QTest::newRow("French") << 10000 << QStringList { "Comptant", "Bancontact", "9999", "Domiciliation" } << QStringList { "NL", "FR", "EN", "NL" };
+        // clang-format on
     }
 
     void translatedColumnsShowTheirTexts()

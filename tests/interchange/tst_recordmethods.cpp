@@ -93,14 +93,11 @@ private slots:
 
         QTest::newRow("widths no array") << "en_US" << 12 << ab7 << QVariant(4) << f00 << true << blank << QVariant() << exportBox("arrFieldLength is geen geldige array !");
         QTest::newRow("widths Empty") << "en_US" << 12 << ab7 << QVariant() << f00 << true << blank << QVariant() << exportBox("arrFieldLength is geen geldige array !");
-        QTest::newRow("more widths than data") << "en_US" << 12 << ab7 << list({ 4, 3, 2 }) << f00 << true << blank << QVariant()
-            << exportBox("Het aantal elementen in arrFieldLength stemt niet overeen met het aantal elementen in Data !\r\rarrFieldLength = 2\rData = 1");
-        QTest::newRow("widths but no data") << "en_US" << 12 << QStringList() << list({ 4 }) << none << true << blank << QVariant()
-            << exportBox("Het aantal elementen in arrFieldLength stemt niet overeen met het aantal elementen in Data !\r\rarrFieldLength = 0\rData = -1");
+        QTest::newRow("more widths than data") << "en_US" << 12 << ab7 << list({ 4, 3, 2 }) << f00 << true << blank << QVariant() << exportBox("Het aantal elementen in arrFieldLength stemt niet overeen met het aantal elementen in Data !\r\rarrFieldLength = 2\rData = 1");
+        QTest::newRow("widths but no data") << "en_US" << 12 << QStringList() << list({ 4 }) << none << true << blank << QVariant() << exportBox("Het aantal elementen in arrFieldLength stemt niet overeen met het aantal elementen in Data !\r\rarrFieldLength = 0\rData = -1");
         QTest::newRow("formats no array") << "en_US" << 12 << ab7 << w43 << QVariant("0.00") << true << blank << QVariant() << exportBox("De variable arrFormat is geen geldige Array !");
         QTest::newRow("formats Null") << "en_US" << 12 << ab7 << w43 << nullVariant() << true << blank << QVariant() << exportBox("De variable arrFormat is geen geldige Array !");
-        QTest::newRow("fewer formats than data") << "en_US" << 12 << ab7 << w43 << list({ "" }) << true << blank << QVariant()
-            << exportBox("Het aantal elementen in arrFormat stemt niet overeen met het aantal elementen in Data !\r\rarrFormat = 0\rData = 1");
+        QTest::newRow("fewer formats than data") << "en_US" << 12 << ab7 << w43 << list({ "" }) << true << blank << QVariant() << exportBox("Het aantal elementen in arrFormat stemt niet overeen met het aantal elementen in Data !\r\rarrFormat = 0\rData = 1");
         QTest::newRow("widths checked before formats") << "en_US" << 12 << ab7 << QVariant("x") << QVariant("y") << true << blank << QVariant() << exportBox("arrFieldLength is geen geldige array !");
         // clang-format on
     }
