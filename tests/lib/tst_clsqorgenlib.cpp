@@ -47,21 +47,6 @@ private slots:
         QCOMPARE(lib.property("FieldExt").toString(), QStringLiteral("NL"));
     }
 
-    void klantPCFollowsTheMarkerFile()
-    {
-        {
-            clsqorGenLib customer;
-            QCOMPARE(customer.property("KlantPC").toBool(), true);
-        }
-        QFile marker(systemDir.filePath(QStringLiteral("QorVelChip.dll")));
-        QVERIFY(marker.open(QIODevice::WriteOnly));
-        marker.close();
-        clsqorGenLib developer;
-        QCOMPARE(developer.property("KlantPC").toBool(), false);
-        QCOMPARE(developer.GetKlantPC(), false);
-        marker.remove();
-    }
-
     void constructionClearsTheCalculatorState()
     {
         modGenLib().calculatorFlag = true;
