@@ -157,9 +157,11 @@ private slots:
     {
         QTest::addColumn<QString>("keys");
         QTest::addColumn<QString>("result");
+        // clang-format off
         QTest::newRow("foreign card") << "v" << number;
         QTest::newRow("typing error") << "t" << "";
         QTest::newRow("Enter") << "\r" << "";
+        // clang-format on
     }
     void identityCardCheck()
     {
@@ -305,9 +307,11 @@ private slots:
     {
         QTest::addColumn<QString>("how");
         QTest::addColumn<QString>("result");
+        // clang-format off
         QTest::newRow("OK button") << "cmdOK" << "Jan";
         QTest::newRow("Cancel button") << "cmdCancel" << "-9999";
         QTest::newRow("close button") << "close" << "-9999";
+        // clang-format on
     }
     void inputBoxButtonsAndClose()
     {

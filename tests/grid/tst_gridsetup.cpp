@@ -143,8 +143,10 @@ private slots:
         QTest::addColumn<QString>("calls");
         QTest::addColumn<QString>("widths");
 
+        // clang-format off
         QTest::newRow("three visible columns") << "0:1000,1:1500,2:800" << "1000,1500,3260";
         QTest::newRow("one column fills the grid") << "0:1000" << "5760";
+        // clang-format on
         // clang-format off
         QTest::newRow("hidden column keeps the rest at its time") << "0:1000,1:700:h,2:800" << "1000,5760,4760";
         QTest::newRow("hidden last column") << "0:1000,1:700:h" << "5760,5760";

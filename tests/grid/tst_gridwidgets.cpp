@@ -301,7 +301,6 @@ private slots:
         QVERIFY(form.property("qorTag").toString().startsWith(
             "Jans" + split + "Brugge" + split + "0" + split));
     }
-
 };
 
 QTEST_MAIN(TestGridWidgets)

@@ -46,8 +46,10 @@ private slots:
         QTest::addColumn<bool>("found");
         QTest::addColumn<qint32>("after");
 
+        // clang-format off
         QTest::newRow("by number") << "A|B|C" << "1|2|5" << -1 << 5 << "" << -1 << true << 2;
         QTest::newRow("by text") << "A|B|C" << "1|2|5" << -1 << -9999 << "B" << -1 << true << 1;
+        // clang-format on
         // clang-format off
         QTest::newRow("first in list order wins") << "A|B|C" << "1|2|5" << -1 << 5 << "A" << -1 << true << 0;
         QTest::newRow("number before text on one entry") << "A|B|C" << "7|2|5" << 2 << 7 << "A" << -1 << true << 0;

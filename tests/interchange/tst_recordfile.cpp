@@ -151,8 +151,8 @@ private slots:
         QTest::newRow("last line without line end") << good1 + "\r\n" + good2 << true << true << QStringList { "1 AB|7", "2 CD|8" };
         QTest::newRow("empty file") << QByteArray() << true << true << QStringList();
         QTest::newRow("one empty line") << QByteArray("\n") << true << true << QStringList { "1 checksum" };
-        QTest::newRow("every fault once") << good1 + "\r\n" + "000002 CD   8   A2\r\n" // wrong sum
         // clang-format on
+        QTest::newRow("every fault once") << good1 + "\r\n" + "000002 CD   8   A2\r\n" // wrong sum
                 + "\r\n" // empty
                 + "00000X CD   8   C7\r\n" // no number
                 + "000005 CDEFG8   16\r\n" // no blank: checksum fine, delimiter wrong
