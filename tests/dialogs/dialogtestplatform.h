@@ -3,6 +3,7 @@
 #include "host/application.h"
 #include "lib/frame/modgenlib.h"
 #include "platform/qt/qtplatform.h"
+#include "tests/common/typekeys.h"
 
 #include <QApplication>
 #include <QDir>
@@ -78,26 +79,6 @@ inline void whenModalIsActive(std::function<void(QWidget *)> action)
         QVERIFY(QTest::qWaitForWindowActive(window));
         action(window);
     });
-}
-
-// Types keys into a window: "\r" Enter, "\x1b" Escape, "\b" Backspace, any
-// other character as itself.
-inline void typeInto(QWidget *window, const QString &keys)
-{
-    for (const QChar c : keys) {
-        if (c == QLatin1Char('\r'))
-            QTest::keyClick(window, Qt::Key_Return);
-        else if (c == QLatin1Char('\x1b'))
-            QTest::keyClick(window, Qt::Key_Escape);
-        else if (c == QLatin1Char('\b'))
-            QTest::keyClick(window, Qt::Key_Backspace);
-        else {
-            const Qt::Key key
-                = c.unicode() < 128 ? Qt::Key(c.toUpper().unicode()) : Qt::Key_unknown;
-            QTest::sendKeyEvent(QTest::Press, window, key, QString(c), Qt::NoModifier);
-            QTest::sendKeyEvent(QTest::Release, window, key, QString(c), Qt::NoModifier);
-        }
-    }
 }
 
 } // namespace qor::test
