@@ -2,6 +2,7 @@
 #include "lib/clsqorgenlib.h"
 #include "lib/frame/modgenlib.h"
 #include "platform/qt/qtplatform.h"
+#include "tests/common/userinput.h"
 
 #include <QApplication>
 #include <QLabel>
@@ -9,23 +10,11 @@
 #include <QPushButton>
 #include <QScreen>
 #include <QTest>
-#include <QTimer>
 
 using namespace qor;
+using test::whenModalIsActive;
 
 namespace {
-
-// Runs an action on the next modal window with this name once it is active.
-void whenModalIsActive(const QString &name, std::function<void(QWidget *)> action)
-{
-    QTimer::singleShot(0, [name, action] {
-        QTRY_VERIFY(QApplication::activeModalWidget()
-            && QApplication::activeModalWidget()->objectName() == name);
-        QWidget *window = QApplication::activeModalWidget();
-        QVERIFY(QTest::qWaitForWindowActive(window));
-        action(window);
-    });
-}
 
 QString displayOf(QWidget *calculator)
 {

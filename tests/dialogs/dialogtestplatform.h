@@ -3,7 +3,7 @@
 #include "host/application.h"
 #include "lib/frame/modgenlib.h"
 #include "platform/qt/qtplatform.h"
-#include "tests/common/typekeys.h"
+#include "tests/common/userinput.h"
 
 #include <QApplication>
 #include <QDir>
@@ -11,7 +11,6 @@
 #include <QFontDatabase>
 #include <QTemporaryDir>
 #include <QTest>
-#include <QTimer>
 #include <QWidget>
 
 namespace qor::test {
@@ -69,16 +68,5 @@ private:
     QTemporaryDir m_folder;
     Application m_application;
 };
-
-// Runs an action on the next modal window once it is active.
-inline void whenModalIsActive(std::function<void(QWidget *)> action)
-{
-    QTimer::singleShot(0, [action] {
-        QTRY_VERIFY(QApplication::activeModalWidget() != nullptr);
-        QWidget *window = QApplication::activeModalWidget();
-        QVERIFY(QTest::qWaitForWindowActive(window));
-        action(window);
-    });
-}
 
 } // namespace qor::test

@@ -4,7 +4,7 @@
 #include "runtime/variant.h"
 
 #include "tests/common/recordingmachine.h"
-#include "tests/common/typekeys.h"
+#include "tests/common/userinput.h"
 
 #include <QKeyEvent>
 #include <QLineEdit>

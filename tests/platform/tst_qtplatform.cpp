@@ -2,29 +2,14 @@
 #include "lib/frame/messageboxlogic.h"
 #include "lib/frame/modgenlib.h"
 #include "platform/qt/qtplatform.h"
+#include "tests/common/userinput.h"
 
 #include <QApplication>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QTest>
-#include <QTimer>
 
 using namespace qor;
-
-namespace {
-
-// Runs an action on the next modal window once it is active.
-void whenModalIsActive(std::function<void(QWidget *)> action)
-{
-    QTimer::singleShot(0, [action] {
-        QTRY_VERIFY(QApplication::activeModalWidget() != nullptr);
-        QWidget *window = QApplication::activeModalWidget();
-        QVERIFY(QTest::qWaitForWindowActive(window));
-        action(window);
-    });
-}
-
-} // namespace
 
 class TestQtPlatform : public QObject
 {
@@ -49,7 +34,7 @@ private slots:
     // on a button answers too.
     void messageBoxButtonClick()
     {
-        whenModalIsActive([](QWidget *window) {
+        test::whenModalIsActive([](QWidget *window) {
             auto *no = window->findChild<QPushButton *>(QStringLiteral("cmdNo"));
             QCOMPARE(no->text(), QStringLiteral("Nee"));
             QTest::mouseClick(no, Qt::LeftButton);

@@ -4,9 +4,30 @@
 #include <QHash>
 #include <QKeyEvent>
 #include <QTest>
+#include <QTimer>
 #include <QWidget>
 
+#include <functional>
+
 namespace qor::test {
+
+// Runs an action on the next modal window once it is active; with a name, on
+// the next one of that object name.
+inline void whenModalIsActive(const QString &name, std::function<void(QWidget *)> action)
+{
+    QTimer::singleShot(0, [name, action] {
+        QTRY_VERIFY(QApplication::activeModalWidget()
+            && (name.isEmpty() || QApplication::activeModalWidget()->objectName() == name));
+        QWidget *window = QApplication::activeModalWidget();
+        QVERIFY(QTest::qWaitForWindowActive(window));
+        action(window);
+    });
+}
+
+inline void whenModalIsActive(std::function<void(QWidget *)> action)
+{
+    whenModalIsActive(QString(), std::move(action));
+}
 
 // Types a key sequence into a widget as a user types it. A character is the
 // key that types it; a name in braces is that key: {Enter}, {Esc}, {BS}, {Up},
