@@ -75,7 +75,6 @@ private slots:
         QTest::newRow("nothing typed asks nothing") << false << false << QVariantList() << false << false << false;
         QTest::newRow("typed amounts confirmed") << true << false << QVariantList { 6 } << true << true << true;
         QTest::newRow("typed amounts denied") << true << false << QVariantList { 7 } << false << true << true;
-        QTest::newRow("answered with the letter") << true << false << QVariantList { "J" } << true << true << true;
         QTest::newRow("reset clears without asking") << true << true << QVariantList() << false << false << false;
         // clang-format on
     }

@@ -8,39 +8,16 @@ using namespace qor;
 namespace {
 
 // Easter Sunday 2000-2030 from the published church tables.
+// clang-format off
 const QList<QDate> easterReference {
-    QDate(2000, 4, 23),
-    QDate(2001, 4, 15),
-    QDate(2002, 3, 31),
-    QDate(2003, 4, 20),
-    QDate(2004, 4, 11),
-    QDate(2005, 3, 27),
-    QDate(2006, 4, 16),
-    QDate(2007, 4, 8),
-    QDate(2008, 3, 23),
-    QDate(2009, 4, 12),
-    QDate(2010, 4, 4),
-    QDate(2011, 4, 24),
-    QDate(2012, 4, 8),
-    QDate(2013, 3, 31),
-    QDate(2014, 4, 20),
-    QDate(2015, 4, 5),
-    QDate(2016, 3, 27),
-    QDate(2017, 4, 16),
-    QDate(2018, 4, 1),
-    QDate(2019, 4, 21),
-    QDate(2020, 4, 12),
-    QDate(2021, 4, 4),
-    QDate(2022, 4, 17),
-    QDate(2023, 4, 9),
-    QDate(2024, 3, 31),
-    QDate(2025, 4, 20),
-    QDate(2026, 4, 5),
-    QDate(2027, 3, 28),
-    QDate(2028, 4, 16),
-    QDate(2029, 4, 1),
-    QDate(2030, 4, 21),
+    { 2000, 4, 23 }, { 2001, 4, 15 }, { 2002, 3, 31 }, { 2003, 4, 20 }, { 2004, 4, 11 }, { 2005, 3, 27 },
+    { 2006, 4, 16 }, { 2007, 4, 8 }, { 2008, 3, 23 }, { 2009, 4, 12 }, { 2010, 4, 4 }, { 2011, 4, 24 },
+    { 2012, 4, 8 }, { 2013, 3, 31 }, { 2014, 4, 20 }, { 2015, 4, 5 }, { 2016, 3, 27 }, { 2017, 4, 16 },
+    { 2018, 4, 1 }, { 2019, 4, 21 }, { 2020, 4, 12 }, { 2021, 4, 4 }, { 2022, 4, 17 }, { 2023, 4, 9 },
+    { 2024, 3, 31 }, { 2025, 4, 20 }, { 2026, 4, 5 }, { 2027, 3, 28 }, { 2028, 4, 16 }, { 2029, 4, 1 },
+    { 2030, 4, 21 }
 };
+// clang-format on
 
 QList<QDate> datesOf(const QList<PublicHoliday> &days)
 {
@@ -109,8 +86,7 @@ private slots:
         QTest::newRow("Flemish") << int(BelgianCommunity::Flemish) << QList<QDate> { QDate(2024, 7, 11) };
         QTest::newRow("French") << int(BelgianCommunity::French) << QList<QDate> { QDate(2024, 9, 27) };
         QTest::newRow("German-speaking") << int(BelgianCommunity::GermanSpeaking) << QList<QDate> { QDate(2024, 11, 15) };
-        QTest::newRow("all") << int(BelgianCommunity::All)
-            << QList<QDate> { QDate(2024, 7, 11), QDate(2024, 9, 27), QDate(2024, 11, 15) };
+        QTest::newRow("all") << int(BelgianCommunity::All) << QList<QDate> { QDate(2024, 7, 11), QDate(2024, 9, 27), QDate(2024, 11, 15) };
         // clang-format on
     }
     void communities()

@@ -3,6 +3,7 @@
 #include "host/application.h"
 #include "lib/frame/modgenlib.h"
 #include "platform/qt/qtplatform.h"
+#include "tests/common/userinput.h"
 
 #include <QApplication>
 #include <QDir>
@@ -10,7 +11,6 @@
 #include <QFontDatabase>
 #include <QTemporaryDir>
 #include <QTest>
-#include <QTimer>
 #include <QWidget>
 
 namespace qor::test {
@@ -68,36 +68,5 @@ private:
     QTemporaryDir m_folder;
     Application m_application;
 };
-
-// Runs an action on the next modal window once it is active.
-inline void whenModalIsActive(std::function<void(QWidget *)> action)
-{
-    QTimer::singleShot(0, [action] {
-        QTRY_VERIFY(QApplication::activeModalWidget() != nullptr);
-        QWidget *window = QApplication::activeModalWidget();
-        QVERIFY(QTest::qWaitForWindowActive(window));
-        action(window);
-    });
-}
-
-// Types keys into a window: "\r" Enter, "\x1b" Escape, "\b" Backspace, any
-// other character as itself.
-inline void typeInto(QWidget *window, const QString &keys)
-{
-    for (const QChar c : keys) {
-        if (c == QLatin1Char('\r'))
-            QTest::keyClick(window, Qt::Key_Return);
-        else if (c == QLatin1Char('\x1b'))
-            QTest::keyClick(window, Qt::Key_Escape);
-        else if (c == QLatin1Char('\b'))
-            QTest::keyClick(window, Qt::Key_Backspace);
-        else {
-            const Qt::Key key
-                = c.unicode() < 128 ? Qt::Key(c.toUpper().unicode()) : Qt::Key_unknown;
-            QTest::sendKeyEvent(QTest::Press, window, key, QString(c), Qt::NoModifier);
-            QTest::sendKeyEvent(QTest::Release, window, key, QString(c), Qt::NoModifier);
-        }
-    }
-}
 
 } // namespace qor::test

@@ -46,18 +46,13 @@ private slots:
         // clang-format off
         QTest::newRow("short prompt, narrowest form") << "Hallo" << 15360 << 11520 << "Hallo" << QRect(5380, 5010, 4600, 1500) << false;
         QTest::newRow("empty prompt") << "" << 15360 << 11520 << "" << QRect(5380, 5010, 4600, 1500) << false;
-        QTest::newRow("wrapped at blanks") << repeated("abcd", 20, " ") << 15360 << 11520
-            << nine + "\r" + nine + "\rabcd abcd" << QRect(4730, 4810, 5900, 1900) << false;
+        QTest::newRow("wrapped at blanks") << repeated("abcd", 20, " ") << 15360 << 11520 << nine + "\r" + nine + "\rabcd abcd" << QRect(4730, 4810, 5900, 1900) << false;
         QTest::newRow("paragraphs trimmed") << "  een  \r  twee" << 15360 << 11520 << "een\rtwee" << QRect(5380, 4910, 4600, 1700) << false;
         QTest::newRow("line feeds as breaks") << "een\r\ntwee\ndrie" << 15360 << 11520 << "een\rtwee\rdrie" << QRect(5380, 4810, 4600, 1900) << false;
         QTest::newRow("only carriage returns") << "\r\r" << 15360 << 11520 << "\r\r" << QRect(5380, 4810, 4600, 1900) << false;
-        QTest::newRow("word wider than the label is broken") << QString(100, 'x') << 15360 << 11520
-            << QString(45, 'x') + "\r" + QString(45, 'x') + "\r" + QString(10, 'x') << QRect(4680, 4810, 6000, 1900) << false;
-        QTest::newRow("widened until it fits") << repeated("abcd", 40, " ") << 15360 << 3000
-            << repeated("abcd", 18, " ") + "\r" + repeated("abcd", 18, " ") + "\r" + repeated("abcd", 4, " ")
-            << QRect(2480, 550, 10400, 1900) << false;
-        QTest::newRow("too high: cut at the screen") << repeated("abcd", 50, "\r") << 15360 << 3000
-            << "abcd\rabcd\rabcd" << QRect(5380, 500, 4600, 2000) << true;
+        QTest::newRow("word wider than the label is broken") << QString(100, 'x') << 15360 << 11520 << QString(45, 'x') + "\r" + QString(45, 'x') + "\r" + QString(10, 'x') << QRect(4680, 4810, 6000, 1900) << false;
+        QTest::newRow("widened until it fits") << repeated("abcd", 40, " ") << 15360 << 3000 << repeated("abcd", 18, " ") + "\r" + repeated("abcd", 18, " ") + "\r" + repeated("abcd", 4, " ") << QRect(2480, 550, 10400, 1900) << false;
+        QTest::newRow("too high: cut at the screen") << repeated("abcd", 50, "\r") << 15360 << 3000 << "abcd\rabcd\rabcd" << QRect(5380, 500, 4600, 2000) << true;
         QTest::newRow("screen narrower than the form") << "Hallo" << 3000 << 11520 << "Hallo" << QRect(0, 5010, 3000, 1500) << false;
         QTest::newRow("screen too small for a line") << "Hallo" << 3000 << 1500 << "" << QRect(0, 500, 3000, 500) << true;
         QTest::newRow("no screen") << "Hallo" << -10 << 0 << "" << QRect(0, 0, 0, 0) << true;

@@ -70,23 +70,17 @@ private slots:
         QTest::addColumn<double>("newFrameHeight");
         QTest::addColumn<int>("error");
 
-        QTest::newRow("grid 2000 high, rows of 225")
-            << 6045.0 << 2130.0 << 225.0 << 6000.0 << 1875.0 << 1995.0 << 0;
-        QTest::newRow("rows fit exactly")
-            << 6045.0 << 2220.0 << 225.0 << 6000.0 << 2100.0 << 2220.0 << 0;
-        QTest::newRow("one twip more than whole rows")
-            << 6045.0 << 2221.0 << 225.0 << 6000.0 << 2100.0 << 2220.0 << 0;
-        QTest::newRow("grid lower than the heading band")
-            << 1000.0 << 300.0 << 225.0 << 955.0 << 300.0 << 420.0 << 0;
-        QTest::newRow("row height rounded half to even")
-            << 6045.0 << 2130.0 << 224.5 << 6000.0 << 1868.0 << 1988.0 << 0;
-        QTest::newRow("fractional grid height rounded for Mod")
-            << 6045.0 << 2130.4 << 225.0 << 6000.0 << 1875.4 << 1995.4 << 0;
+        // clang-format off
+        QTest::newRow("grid 2000 high, rows of 225") << 6045.0 << 2130.0 << 225.0 << 6000.0 << 1875.0 << 1995.0 << 0;
+        QTest::newRow("rows fit exactly") << 6045.0 << 2220.0 << 225.0 << 6000.0 << 2100.0 << 2220.0 << 0;
+        QTest::newRow("one twip more than whole rows") << 6045.0 << 2221.0 << 225.0 << 6000.0 << 2100.0 << 2220.0 << 0;
+        QTest::newRow("grid lower than the heading band") << 1000.0 << 300.0 << 225.0 << 955.0 << 300.0 << 420.0 << 0;
+        QTest::newRow("row height rounded half to even") << 6045.0 << 2130.0 << 224.5 << 6000.0 << 1868.0 << 1988.0 << 0;
+        QTest::newRow("fractional grid height rounded for Mod") << 6045.0 << 2130.4 << 225.0 << 6000.0 << 1875.4 << 1995.4 << 0;
         QTest::newRow("empty frame") << 0.0 << 0.0 << 225.0 << -45.0 << 75.0 << 195.0 << 0;
-        QTest::newRow("row height 0") << 6045.0 << 2130.0 << 0.0 << 6000.0 << 2000.0 << 2130.0
-                                      << int(RuntimeError::DivisionByZero);
-        QTest::newRow("row height below a half") << 6045.0 << 2130.0 << 0.4 << 6000.0 << 2000.0
-                                                 << 2130.0 << int(RuntimeError::DivisionByZero);
+        QTest::newRow("row height 0") << 6045.0 << 2130.0 << 0.0 << 6000.0 << 2000.0 << 2130.0 << int(RuntimeError::DivisionByZero);
+        QTest::newRow("row height below a half") << 6045.0 << 2130.0 << 0.4 << 6000.0 << 2000.0 << 2130.0 << int(RuntimeError::DivisionByZero);
+        // clang-format on
     }
 
     void gridFitsTheFrameInWholeRows()
@@ -149,28 +143,21 @@ private slots:
         QTest::addColumn<QString>("calls");
         QTest::addColumn<QString>("widths");
 
-        QTest::newRow("three visible columns") << "0:1000,1:1500,2:800"
-                                               << "1000,1500,3260";
-        QTest::newRow("one column fills the grid") << "0:1000"
-                                                   << "5760";
-        QTest::newRow("hidden column keeps the rest at its time") << "0:1000,1:700:h,2:800"
-                                                                  << "1000,5760,4760";
-        QTest::newRow("hidden last column") << "0:1000,1:700:h"
-                                            << "5760,5760";
-        QTest::newRow("width 0 adds nothing") << "0:0,1:1500"
-                                              << "0,5760";
-        QTest::newRow("negative width adds nothing") << "0:-500,1:1500"
-                                                     << "-500,5760";
-        QTest::newRow("width 1 counts") << "0:1,1:1500"
-                                        << "1,5759";
-        QTest::newRow("gap adds the columns before") << "3:1000"
-                                                     << "0,0,0,5760";
-        QTest::newRow("falling index keeps the later width") << "2:1000,1:500"
-                                                             << "0,5760,5760";
-        QTest::newRow("same column twice") << "0:1000,0:2000,1:500"
-                                           << "2000,3760";
-        QTest::newRow("columns wider than the grid") << "0:4000,1:4000,2:100"
-                                                     << "4000,4000,-2240";
+        // clang-format off
+        QTest::newRow("three visible columns") << "0:1000,1:1500,2:800" << "1000,1500,3260";
+        QTest::newRow("one column fills the grid") << "0:1000" << "5760";
+        // clang-format on
+        // clang-format off
+        QTest::newRow("hidden column keeps the rest at its time") << "0:1000,1:700:h,2:800" << "1000,5760,4760";
+        QTest::newRow("hidden last column") << "0:1000,1:700:h" << "5760,5760";
+        QTest::newRow("width 0 adds nothing") << "0:0,1:1500" << "0,5760";
+        QTest::newRow("negative width adds nothing") << "0:-500,1:1500" << "-500,5760";
+        QTest::newRow("width 1 counts") << "0:1,1:1500" << "1,5759";
+        QTest::newRow("gap adds the columns before") << "3:1000" << "0,0,0,5760";
+        QTest::newRow("falling index keeps the later width") << "2:1000,1:500" << "0,5760,5760";
+        QTest::newRow("same column twice") << "0:1000,0:2000,1:500" << "2000,3760";
+        QTest::newRow("columns wider than the grid") << "0:4000,1:4000,2:100" << "4000,4000,-2240";
+        // clang-format on
     }
 
     void lastVisibleColumnTakesTheRest()
@@ -247,13 +234,13 @@ private slots:
         QTest::addColumn<int>("error");
         QTest::addColumn<int>("columns");
 
-        QTest::newRow("-1: no such column")
-            << QVariant(-1) << int(RuntimeError::SubscriptOutOfRange) << 0;
-        QTest::newRow("Integer maximum overflows the count")
-            << QVariant(32767) << int(RuntimeError::Overflow) << 32768;
+        // clang-format off
+        QTest::newRow("-1: no such column") << QVariant(-1) << int(RuntimeError::SubscriptOutOfRange) << 0;
+        QTest::newRow("Integer maximum overflows the count") << QVariant(32767) << int(RuntimeError::Overflow) << 32768;
         QTest::newRow("beyond Integer") << QVariant(32768) << int(RuntimeError::Overflow) << 0;
         QTest::newRow("below Integer") << QVariant(-32769) << int(RuntimeError::Overflow) << 0;
         QTest::newRow("text index") << QVariant("x") << int(RuntimeError::TypeMismatch) << 0;
+        // clang-format on
     }
 
     void columnIndexAtTheEdges()
@@ -276,39 +263,19 @@ private slots:
         QTest::addColumn<QList<qint32>>("pictures");
         QTest::addColumn<QString>("gridTag");
 
-        QTest::newRow("first click ascending")
-            << QStringList { "1" } << QStringList { "", " ASC", "" } << QList<qint32> { 0, 1000, 0 }
-            << "old";
-        QTest::newRow("second click descending")
-            << QStringList { "1", "1" } << QStringList { "", " DESC", "" }
-            << QList<qint32> { 0, 1001, 0 } << "old";
-        QTest::newRow("third click ascending again")
-            << QStringList { "1", "1", "1" } << QStringList { "", " ASC", "" }
-            << QList<qint32> { 0, 1000, 0 } << "old";
-        QTest::newRow("another column clears the first")
-            << QStringList { "1", "2" } << QStringList { "", "", " ASC" }
-            << QList<qint32> { 0, 0, 1000 } << "old";
-        QTest::newRow("forced descending writes the clause")
-            << QStringList { "0|DESC|Naam" } << QStringList { " DESC", "", "" }
-            << QList<qint32> { 1001, 0, 0 } << "Naam DESC";
-        QTest::newRow("forced state is trimmed")
-            << QStringList { "0|  DESC |Naam" } << QStringList { " DESC", "", "" }
-            << QList<qint32> { 1001, 0, 0 } << "Naam DESC";
-        QTest::newRow("forced state is case-sensitive")
-            << QStringList { "0|desc|Naam" } << QStringList { " ASC", "", "" }
-            << QList<qint32> { 1000, 0, 0 } << "Naam ASC";
-        QTest::newRow("forced anything else ascends")
-            << QStringList { "2|X|Datum" } << QStringList { "", "", " ASC" }
-            << QList<qint32> { 0, 0, 1000 } << "Datum ASC";
-        QTest::newRow("forced then toggled")
-            << QStringList { "2|ASC|Datum", "2" } << QStringList { "", "", " DESC" }
-            << QList<qint32> { 0, 0, 1001 } << "Datum ASC";
-        QTest::newRow("no such column clears all")
-            << QStringList { "1", "7" } << QStringList { "", "", "" } << QList<qint32> { 0, 0, 0 }
-            << "old";
-        QTest::newRow("forced on no such column")
-            << QStringList { "1", "9|DESC|Naam" } << QStringList { "", "", "" }
-            << QList<qint32> { 0, 0, 0 } << "old";
+        // clang-format off
+        QTest::newRow("first click ascending") << QStringList { "1" } << QStringList { "", " ASC", "" } << QList<qint32> { 0, 1000, 0 } << "old";
+        QTest::newRow("second click descending") << QStringList { "1", "1" } << QStringList { "", " DESC", "" } << QList<qint32> { 0, 1001, 0 } << "old";
+        QTest::newRow("third click ascending again") << QStringList { "1", "1", "1" } << QStringList { "", " ASC", "" } << QList<qint32> { 0, 1000, 0 } << "old";
+        QTest::newRow("another column clears the first") << QStringList { "1", "2" } << QStringList { "", "", " ASC" } << QList<qint32> { 0, 0, 1000 } << "old";
+        QTest::newRow("forced descending writes the clause") << QStringList { "0|DESC|Naam" } << QStringList { " DESC", "", "" } << QList<qint32> { 1001, 0, 0 } << "Naam DESC";
+        QTest::newRow("forced state is trimmed") << QStringList { "0|  DESC |Naam" } << QStringList { " DESC", "", "" } << QList<qint32> { 1001, 0, 0 } << "Naam DESC";
+        QTest::newRow("forced state is case-sensitive") << QStringList { "0|desc|Naam" } << QStringList { " ASC", "", "" } << QList<qint32> { 1000, 0, 0 } << "Naam ASC";
+        QTest::newRow("forced anything else ascends") << QStringList { "2|X|Datum" } << QStringList { "", "", " ASC" } << QList<qint32> { 0, 0, 1000 } << "Datum ASC";
+        QTest::newRow("forced then toggled") << QStringList { "2|ASC|Datum", "2" } << QStringList { "", "", " DESC" } << QList<qint32> { 0, 0, 1001 } << "Datum ASC";
+        QTest::newRow("no such column clears all") << QStringList { "1", "7" } << QStringList { "", "", "" } << QList<qint32> { 0, 0, 0 } << "old";
+        QTest::newRow("forced on no such column") << QStringList { "1", "9|DESC|Naam" } << QStringList { "", "", "" } << QList<qint32> { 0, 0, 0 } << "old";
+        // clang-format on
     }
 
     void iconShowsTheSortDirection()

@@ -50,48 +50,21 @@ private slots:
         QTest::addColumn<int>("count");
         QTest::addColumn<QStringList>("someItems"); // "index:item"
 
-        QTest::newRow("yes/no with cross value 2")
-            << 0 << 0 << 2 << 5
-            << QStringList { "0:Integer 0=", "1:Integer 1=X", "2:Integer -1=X",
-                   "3:Null=", "4:Long 2=X" };
-        QTest::newRow("yes/no repeats -1 by default")
-            << 0 << 0 << -1 << 5 << QStringList { "4:Long -1=X" };
-        QTest::newRow("DFM codes") << 1 << 0 << -1 << 9
-                                   << QStringList { "0:Integer 0=?", "1:Integer 1=CPK",
-                                          "4:Integer 4=OGC", "5:Integer 5=", "8:Integer 8=" };
-        QTest::newRow("documents")
-            << 2 << 10000 << -1 << 13
-            << QStringList { "0:Integer 0=Blanco", "2:Integer 2=Waarborg Badge",
-                   "3:Integer 3=", "4:Integer 101=Betalingsuitnodiging",
-                   "12:Integer 109=Betalingsuitnodiging" };
-        QTest::newRow("payment short, Dutch") << 3 << 0 << -1 << 21
-                                              << QStringList { "0:Integer 0= ", "1:Integer 1=CO",
-                                                     "19:Integer 19=OG", "20:Integer 99=" };
-        QTest::newRow("payment short, French")
-            << 3 << 10000 << -1 << 21 << QStringList { "1:Integer 1=CT" };
-        QTest::newRow("payment long, Dutch")
-            << 4 << 0 << -1 << 21
-            << QStringList { "1:Integer 1=Contant", "10:Integer 10=Domiciliëring",
-                   "18:Integer 18=PAYPAL Visa-Mastercard-AmEx-Discover-eCheck",
-                   "20:Integer 99=Integer 9999" };
-        QTest::newRow("payment long, French")
-            << 4 << 10000 << -1 << 21
-            << QStringList { "1:Integer 1=Comptant", "20:Integer 99=Integer 9999" };
-        QTest::newRow("payment long, English")
-            << 4 << 20000 << -1 << 21 << QStringList { "10:Integer 10=Direct Debit" };
-        QTest::newRow("language short") << 5 << 0 << -1 << 6
-                                        << QStringList { "0:Integer 0=NL", "3:Integer 30000=DE",
-                                               "4:Long 40000=ES", "5:Long 50000=IT" };
-        QTest::newRow("language long ignores the language")
-            << 6 << 10000 << -1 << 6
-            << QStringList { "1:Integer 10000=Français", "4:Long 40000=Espanol",
-                   "5:Long 50000=Italiano" };
-        QTest::newRow("house number: missing-text marker")
-            << 7 << 0 << -1 << 2
-            << QStringList { "0:Null= [LL 9018 ?] ", "1:Integer 0= [LL 9018 ?] " };
-        QTest::newRow("units") << 8 << 0 << -1 << 14
-                               << QStringList { "0:Integer 0=", "1:Integer 1=m3", "2:Integer 2=kg",
-                                      "13:Integer 13=keer" };
+        // clang-format off
+        QTest::newRow("yes/no with cross value 2") << 0 << 0 << 2 << 5 << QStringList { "0:Integer 0=", "1:Integer 1=X", "2:Integer -1=X", "3:Null=", "4:Long 2=X" };
+        QTest::newRow("yes/no repeats -1 by default") << 0 << 0 << -1 << 5 << QStringList { "4:Long -1=X" };
+        QTest::newRow("DFM codes") << 1 << 0 << -1 << 9 << QStringList { "0:Integer 0=?", "1:Integer 1=CPK", "4:Integer 4=OGC", "5:Integer 5=", "8:Integer 8=" };
+        QTest::newRow("documents") << 2 << 10000 << -1 << 13 << QStringList { "0:Integer 0=Blanco", "2:Integer 2=Waarborg Badge", "3:Integer 3=", "4:Integer 101=Betalingsuitnodiging", "12:Integer 109=Betalingsuitnodiging" };
+        QTest::newRow("payment short, Dutch") << 3 << 0 << -1 << 21 << QStringList { "0:Integer 0= ", "1:Integer 1=CO", "19:Integer 19=OG", "20:Integer 99=" };
+        QTest::newRow("payment short, French") << 3 << 10000 << -1 << 21 << QStringList { "1:Integer 1=CT" };
+        QTest::newRow("payment long, Dutch") << 4 << 0 << -1 << 21 << QStringList { "1:Integer 1=Contant", "10:Integer 10=Domiciliëring", "18:Integer 18=PAYPAL Visa-Mastercard-AmEx-Discover-eCheck", "20:Integer 99=Integer 9999" };
+        QTest::newRow("payment long, French") << 4 << 10000 << -1 << 21 << QStringList { "1:Integer 1=Comptant", "20:Integer 99=Integer 9999" };
+        QTest::newRow("payment long, English") << 4 << 20000 << -1 << 21 << QStringList { "10:Integer 10=Direct Debit" };
+        QTest::newRow("language short") << 5 << 0 << -1 << 6 << QStringList { "0:Integer 0=NL", "3:Integer 30000=DE", "4:Long 40000=ES", "5:Long 50000=IT" };
+        QTest::newRow("language long ignores the language") << 6 << 10000 << -1 << 6 << QStringList { "1:Integer 10000=Français", "4:Long 40000=Espanol", "5:Long 50000=Italiano" };
+        QTest::newRow("house number: missing-text marker") << 7 << 0 << -1 << 2 << QStringList { "0:Null= [LL 9018 ?] ", "1:Integer 0= [LL 9018 ?] " };
+        QTest::newRow("units") << 8 << 0 << -1 << 14 << QStringList { "0:Integer 0=", "1:Integer 1=m3", "2:Integer 2=kg", "13:Integer 13=keer" };
+        // clang-format on
     }
 
     void tables()
@@ -160,18 +133,14 @@ private slots:
         QTest::addColumn<QVariant>("col");
         QTest::addColumn<int>("error");
 
-        QTest::newRow("type 9") << QVariant(9) << QVariant(0)
-                                << int(RuntimeError::SubscriptOutOfRange);
-        QTest::newRow("type -1") << QVariant(-1) << QVariant(0)
-                                 << int(RuntimeError::SubscriptOutOfRange);
-        QTest::newRow("no such column comes first")
-            << QVariant(9) << QVariant(3) << int(RuntimeError::SubscriptOutOfRange);
-        QTest::newRow("negative column")
-            << QVariant(0) << QVariant(-1) << int(RuntimeError::SubscriptOutOfRange);
-        QTest::newRow("column beyond Integer")
-            << QVariant(0) << QVariant(40000) << int(RuntimeError::Overflow);
-        QTest::newRow("type as text")
-            << QVariant("x") << QVariant(0) << int(RuntimeError::TypeMismatch);
+        // clang-format off
+        QTest::newRow("type 9") << QVariant(9) << QVariant(0) << int(RuntimeError::SubscriptOutOfRange);
+        QTest::newRow("type -1") << QVariant(-1) << QVariant(0) << int(RuntimeError::SubscriptOutOfRange);
+        QTest::newRow("no such column comes first") << QVariant(9) << QVariant(3) << int(RuntimeError::SubscriptOutOfRange);
+        QTest::newRow("negative column") << QVariant(0) << QVariant(-1) << int(RuntimeError::SubscriptOutOfRange);
+        QTest::newRow("column beyond Integer") << QVariant(0) << QVariant(40000) << int(RuntimeError::Overflow);
+        QTest::newRow("type as text") << QVariant("x") << QVariant(0) << int(RuntimeError::TypeMismatch);
+        // clang-format on
     }
 
     void wrongTypesAndColumns()

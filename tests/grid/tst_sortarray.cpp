@@ -115,8 +115,8 @@ private slots:
         QTest::newRow("a minus sign is dropped") << "-5,3" << 1 << "3,-5";
         QTest::newRow("empty text dropped") << "x,_,y" << 3 << "x,y,E";
         QTest::newRow("leading empties skipped") << "_,E,_,b,a" << 3 << "a,b,E,E,E";
-        QTest::newRow("negative Integer reads as its digits")
-            << "i:5,_,i:-3,i:2" << 1 << "i:2,i:-3,i:5,E";
+        // clang-format off
+        QTest::newRow("negative Integer reads as its digits") << "i:5,_,i:-3,i:2" << 1 << "i:2,i:-3,i:5,E";
         QTest::newRow("negative Double by digits") << "d:-2.5,d:1" << 1 << "d:1,d:-2.5";
         QTest::newRow("reversed alphabetic past a dropped element") << "a,_,b,c" << 4 << "c,b,a,E";
         QTest::newRow("Null is kept behind the last") << "b,N,a,c" << 3 << "a,b,N,c";
@@ -124,12 +124,12 @@ private slots:
         QTest::newRow("Null never counts in length") << "bbb,N,a" << 5 << "a,bbb,N";
         QTest::newRow("numbers as text in alphabetic") << "i:10,i:9,abc" << 3 << "i:10,i:9,abc";
         QTest::newRow("Booleans by their text") << "b:1,b:0,S" << 3 << "b:0,S,b:1";
-        QTest::newRow("dates by their text")
-            << "t:2004-05-20,t:2003-12-31" << 3 << "t:2004-05-20,t:2003-12-31";
+        QTest::newRow("dates by their text") << "t:2004-05-20,t:2003-12-31" << 3 << "t:2004-05-20,t:2003-12-31";
         QTest::newRow("unknown order keeps the order") << "b,_,a,N,c" << 7 << "b,a,N,c,E";
         QTest::newRow("order 0 keeps the order") << "b,a" << 0 << "b,a";
         QTest::newRow("one element") << "z" << 3 << "z";
         QTest::newRow("upper case after lower by code") << "é,z,É" << 3 << "z,é,É";
+        // clang-format on
     }
 
     void sorts()
@@ -169,22 +169,17 @@ private slots:
         QTest::addColumn<int>("error");
         QTest::addColumn<QString>("after");
 
-        QTest::newRow("all empty")
-            << array("_,E,_") << 3 << int(RuntimeError::SubscriptOutOfRange) << "_,E,E";
-        QTest::newRow("all Null") << array("N,N") << 3 << int(RuntimeError::SubscriptOutOfRange)
-                                  << "N,E";
-        QTest::newRow("no elements")
-            << QVariant(QVariantList {}) << 3 << int(RuntimeError::SubscriptOutOfRange) << "";
-        QTest::newRow("not an array")
-            << QVariant("abc") << 3 << int(RuntimeError::TypeMismatch) << "String";
+        // clang-format off
+        QTest::newRow("all empty") << array("_,E,_") << 3 << int(RuntimeError::SubscriptOutOfRange) << "_,E,E";
+        QTest::newRow("all Null") << array("N,N") << 3 << int(RuntimeError::SubscriptOutOfRange) << "N,E";
+        QTest::newRow("no elements") << QVariant(QVariantList {}) << 3 << int(RuntimeError::SubscriptOutOfRange) << "";
+        QTest::newRow("not an array") << QVariant("abc") << 3 << int(RuntimeError::TypeMismatch) << "String";
         QTest::newRow("Empty") << QVariant() << 3 << int(RuntimeError::TypeMismatch) << "Empty";
-        QTest::newRow("nested array first")
-            << array("[],a") << 3 << int(RuntimeError::TypeMismatch) << "[],E";
-        QTest::newRow("nested array later")
-            << array("b,a,[],c") << 3 << int(RuntimeError::TypeMismatch) << "a,b,E,E";
-        QTest::newRow("Null in a numeric order")
-            << array("3,1,N,2") << 1 << int(RuntimeError::InvalidUseOfNull) << "1,3,E,E";
+        QTest::newRow("nested array first") << array("[],a") << 3 << int(RuntimeError::TypeMismatch) << "[],E";
+        QTest::newRow("nested array later") << array("b,a,[],c") << 3 << int(RuntimeError::TypeMismatch) << "a,b,E,E";
+        QTest::newRow("Null in a numeric order") << array("3,1,N,2") << 1 << int(RuntimeError::InvalidUseOfNull) << "1,3,E,E";
         QTest::newRow("leading Null in a numeric order") << array("N,3,1") << 1 << 0 << "1,3,E";
+        // clang-format on
     }
 
     void failures()

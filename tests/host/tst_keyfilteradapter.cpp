@@ -4,8 +4,8 @@
 #include "runtime/variant.h"
 
 #include "tests/common/recordingmachine.h"
+#include "tests/common/userinput.h"
 
-#include <QApplication>
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QTest>
@@ -13,40 +13,6 @@
 using namespace qor;
 
 namespace {
-
-// Types a key sequence into a widget: characters as typed, and {Up}, {Down},
-// {BS}, {Enter}, {Home}, {CtrlA}, {Esc} as those keys, {Zhe} a Cyrillic letter.
-void typeKeys(QWidget *widget, const QString &keys)
-{
-    static const QHash<QString, QPair<Qt::Key, Qt::KeyboardModifiers>> named {
-        { "Up", { Qt::Key_Up, Qt::NoModifier } },
-        { "Down", { Qt::Key_Down, Qt::NoModifier } },
-        { "BS", { Qt::Key_Backspace, Qt::NoModifier } },
-        { "Enter", { Qt::Key_Return, Qt::NoModifier } },
-        { "Home", { Qt::Key_Home, Qt::NoModifier } },
-        { "CtrlA", { Qt::Key_A, Qt::ControlModifier } },
-        { "Esc", { Qt::Key_Escape, Qt::NoModifier } },
-    };
-    for (qsizetype i = 0; i < keys.size(); ++i) {
-        const qsizetype close
-            = keys.at(i) == QLatin1Char('{') ? keys.indexOf(QLatin1Char('}'), i) : -1;
-        if (close < 0) {
-            QTest::keyClicks(widget, keys.at(i));
-            continue;
-        }
-        const QString name = keys.mid(i + 1, close - i - 1);
-        if (name == QLatin1String("Zhe")) {
-            // A Cyrillic letter, as a keyboard with that layout types it.
-            QKeyEvent event(
-                QEvent::KeyPress, Qt::Key_unknown, Qt::NoModifier, QStringLiteral("\u0416"));
-            QApplication::sendEvent(widget, &event);
-        } else {
-            const auto key = named.value(name);
-            QTest::keyClick(widget, key.first, key.second);
-        }
-        i = close;
-    }
-}
 
 int count(const RecordingPlatform &machine, const QString &kind)
 {
@@ -136,7 +102,7 @@ private slots:
             KeyFilterAdapter::attachScanBM(&field, &lib, handler.section(QLatin1Char(':'), 1));
         else
             KeyFilterAdapter::attachKeyPress(&field, &lib, handler.section(QLatin1Char(':'), 1));
-        typeKeys(&field, keys);
+        test::typeKeys(&field, keys);
         QTEST(field.text(), "expectedText");
         QTEST(field.cursorPosition(), "cursor");
         QTEST(field.selectedText(), "selected");

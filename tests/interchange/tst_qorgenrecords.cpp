@@ -68,21 +68,16 @@ private slots:
         QTest::addColumn<QStringList>("arguments");
         QTest::newRow("no direction") << QStringList { "records" };
         QTest::newRow("no widths") << QStringList { "records", "read", "x.txt" };
-        QTest::newRow("negative width")
-            << QStringList { "records", "read", "--widths", "4,-1", "x" };
-        QTest::newRow("width no number")
-            << QStringList { "records", "read", "--widths", "4,a", "x" };
-        QTest::newRow("huge width")
-            << QStringList { "records", "read", "--widths", "99999999999", "x" };
-        QTest::newRow("formats no array")
-            << QStringList { "records", "write", "--widths", "4", "--formats", "0.00", "x" };
-        QTest::newRow("formats count")
-            << QStringList { "records", "write", "--widths", "4,3", "--formats", "[\"\"]", "x" };
+        // clang-format off
+        QTest::newRow("negative width") << QStringList { "records", "read", "--widths", "4,-1", "x" };
+        QTest::newRow("width no number") << QStringList { "records", "read", "--widths", "4,a", "x" };
+        QTest::newRow("huge width") << QStringList { "records", "read", "--widths", "99999999999", "x" };
+        QTest::newRow("formats no array") << QStringList { "records", "write", "--widths", "4", "--formats", "0.00", "x" };
+        QTest::newRow("formats count") << QStringList { "records", "write", "--widths", "4,3", "--formats", "[\"\"]", "x" };
         QTest::newRow("no file") << QStringList { "records", "read", "--widths", "4" };
-        QTest::newRow("missing file")
-            << QStringList { "records", "read", "--widths", "4", "/nonexistent/x" };
-        QTest::newRow("unknown option")
-            << QStringList { "records", "read", "--widths", "4", "--fast", "x" };
+        QTest::newRow("missing file") << QStringList { "records", "read", "--widths", "4", "/nonexistent/x" };
+        QTest::newRow("unknown option") << QStringList { "records", "read", "--widths", "4", "--fast", "x" };
+        // clang-format on
     }
 
     void usageErrors()

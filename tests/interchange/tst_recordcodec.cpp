@@ -114,9 +114,9 @@ private slots:
                 const bool lineNumbers = options & 1;
                 const bool checksum = options & 2;
                 const bool formats = options & 4;
-                QTest::addRow("%s%s%s%s", locale, lineNumbers ? ", line numbers" : "",
-                    checksum ? ", checksum" : "", formats ? ", formats" : "")
-                    << QString::fromLatin1(locale) << lineNumbers << checksum << formats;
+                // clang-format off
+                QTest::addRow("%s%s%s%s", locale, lineNumbers ? ", line numbers" : "", checksum ? ", checksum" : "", formats ? ", formats" : "") << QString::fromLatin1(locale) << lineNumbers << checksum << formats;
+                // clang-format on
             }
         }
     }
@@ -156,13 +156,13 @@ private slots:
         QTest::addColumn<QString>("separator");
         QTest::addColumn<bool>("checksum");
         QTest::addColumn<RecordFault>("fault");
-        QTest::newRow("other separator, checksum")
-            << qint64(7) << ";" << true << RecordFault::Checksum;
+        // clang-format off
+        QTest::newRow("other separator, checksum") << qint64(7) << ";" << true << RecordFault::Checksum;
         QTest::newRow("other separator") << qint64(7) << ";" << false << RecordFault::Delimiter;
         QTest::newRow("two blanks, checksum") << qint64(7) << "  " << true << RecordFault::Checksum;
-        QTest::newRow("line number 1000000")
-            << qint64(1000000) << " " << true << RecordFault::LineNumber;
+        QTest::newRow("line number 1000000") << qint64(1000000) << " " << true << RecordFault::LineNumber;
         QTest::newRow("no line number") << qint64(0) << " " << true << RecordFault::LineNumber;
+        // clang-format on
     }
 
     void disagreement()
@@ -215,12 +215,13 @@ private slots:
         QTest::newRow("empty") << "" << 0;
         QTest::newRow("wraps at 256") << QString(3, QChar(0xFF)) << (3 * 255) % 256;
         QTest::newRow("latin-1 range as is") << QString::fromUtf8("é") << 0xE9;
-        QTest::newRow("code page range 80-9F")
-            << QString::fromUtf8("€‰Ÿ") << (0x80 + 0x89 + 0x9F) % 256;
+        // clang-format off
+        QTest::newRow("code page range 80-9F") << QString::fromUtf8("€‰Ÿ") << (0x80 + 0x89 + 0x9F) % 256;
         QTest::newRow("outside the code page") << QString::fromUtf8("Ω") << 63;
         QTest::newRow("outside the basic plane once") << QString::fromUtf8("😀") << 63;
         QTest::newRow("lone surrogate") << QString(QChar(0xD800)) << 63;
         QTest::newRow("control characters") << QString::fromLatin1("\x01\x7F") << 0x80;
+        // clang-format on
     }
 
     void checksum()

@@ -87,15 +87,12 @@ private slots:
         QTest::addColumn<QList<QStringList>>("records");
         QTest::addColumn<QByteArray>("bytes");
         const QList<QStringList> two { { "AB", "7" }, { QString::fromUtf8("Café"), "€" } };
-        QTest::newRow("numbered, with checksums")
-            << true << true << two
-            << QByteArray("000001 AB   7   9B\r\n000002 Caf\xE9 \x80   15\r\n");
-        QTest::newRow("plain") << false << false << two
-                               << QByteArray("AB   7  \r\nCaf\xE9 \x80  \r\n");
-        QTest::newRow("outside the code page as ?")
-            << false << true << QList<QStringList> { { QString::fromUtf8("Ω😀xy"), "" } }
-            << QByteArray("??xy     EF\r\n");
+        // clang-format off
+        QTest::newRow("numbered, with checksums") << true << true << two << QByteArray("000001 AB   7   9B\r\n000002 Caf\xE9 \x80   15\r\n");
+        QTest::newRow("plain") << false << false << two << QByteArray("AB   7  \r\nCaf\xE9 \x80  \r\n");
+        QTest::newRow("outside the code page as ?") << false << true << QList<QStringList> { { QString::fromUtf8("Ω😀xy"), "" } } << QByteArray("??xy     EF\r\n");
         QTest::newRow("no records") << true << true << QList<QStringList>() << QByteArray();
+        // clang-format on
     }
 
     void writtenBytes()
@@ -148,15 +145,13 @@ private slots:
         QTest::addColumn<QStringList>("seen");
         const QByteArray good1 = "000001 AB   7   9B";
         const QByteArray good2 = "000002 CD   8   A1";
-        QTest::newRow("CRLF") << good1 + "\r\n" + good2 + "\r\n"
-                              << true << true << QStringList { "1 AB|7", "2 CD|8" };
-        QTest::newRow("LF") << good1 + "\n" + good2 + "\n"
-                            << true << true << QStringList { "1 AB|7", "2 CD|8" };
-        QTest::newRow("last line without line end")
-            << good1 + "\r\n" + good2 << true << true << QStringList { "1 AB|7", "2 CD|8" };
+        // clang-format off
+        QTest::newRow("CRLF") << good1 + "\r\n" + good2 + "\r\n" << true << true << QStringList { "1 AB|7", "2 CD|8" };
+        QTest::newRow("LF") << good1 + "\n" + good2 + "\n" << true << true << QStringList { "1 AB|7", "2 CD|8" };
+        QTest::newRow("last line without line end") << good1 + "\r\n" + good2 << true << true << QStringList { "1 AB|7", "2 CD|8" };
         QTest::newRow("empty file") << QByteArray() << true << true << QStringList();
-        QTest::newRow("one empty line")
-            << QByteArray("\n") << true << true << QStringList { "1 checksum" };
+        QTest::newRow("one empty line") << QByteArray("\n") << true << true << QStringList { "1 checksum" };
+        // clang-format on
         QTest::newRow("every fault once") << good1 + "\r\n" + "000002 CD   8   A2\r\n" // wrong sum
                 + "\r\n" // empty
                 + "00000X CD   8   C7\r\n" // no number
@@ -167,10 +162,10 @@ private slots:
                                           << QStringList { "1 AB|7", "2 checksum", "3 checksum",
                                                  "4 line number", "5 delimiter at 12",
                                                  "6 NUL byte at 9", "7 checksum", "8 CD|8" };
-        QTest::newRow("delimiter without line numbers") << QByteArray(
-            "ABCDE   \nAB   7  ") << false << false << QStringList { "1 delimiter at 5", "2 AB|7" };
-        QTest::newRow("code page decoded") << QByteArray("Caf\xE9 \x80\x9C ") << false << false
-                                           << QStringList { QString::fromUtf8("1 Café|€œ") };
+        // clang-format off
+        QTest::newRow("delimiter without line numbers") << QByteArray( "ABCDE   \nAB   7  ") << false << false << QStringList { "1 delimiter at 5", "2 AB|7" };
+        QTest::newRow("code page decoded") << QByteArray("Caf\xE9 \x80\x9C ") << false << false << QStringList { QString::fromUtf8("1 Café|€œ") };
+        // clang-format on
     }
 
     void faultyLines()
@@ -189,8 +184,9 @@ private slots:
         QTest::addColumn<qsizetype>("length");
         QTest::newRow("one over a small limit") << qsizetype(20) << qsizetype(21);
         QTest::newRow("exactly the limit") << qsizetype(20) << qsizetype(20);
-        QTest::newRow("10 MB line, default limit")
-            << RecordFileReader::defaultMaxLineLength << qsizetype(10 << 20);
+        // clang-format off
+        QTest::newRow("10 MB line, default limit") << RecordFileReader::defaultMaxLineLength << qsizetype(10 << 20);
+        // clang-format on
     }
 
     void longLines()

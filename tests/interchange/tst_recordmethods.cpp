@@ -93,14 +93,10 @@ private slots:
 
         QTest::newRow("widths no array") << "en_US" << 12 << ab7 << QVariant(4) << f00 << true << blank << QVariant() << exportBox("arrFieldLength is geen geldige array !");
         QTest::newRow("widths Empty") << "en_US" << 12 << ab7 << QVariant() << f00 << true << blank << QVariant() << exportBox("arrFieldLength is geen geldige array !");
-        QTest::newRow("more widths than data") << "en_US" << 12 << ab7 << list({ 4, 3, 2 }) << f00 << true << blank << QVariant()
-            << exportBox("Het aantal elementen in arrFieldLength stemt niet overeen met het aantal elementen in Data !\r\rarrFieldLength = 2\rData = 1");
-        QTest::newRow("widths but no data") << "en_US" << 12 << QStringList() << list({ 4 }) << none << true << blank << QVariant()
-            << exportBox("Het aantal elementen in arrFieldLength stemt niet overeen met het aantal elementen in Data !\r\rarrFieldLength = 0\rData = -1");
+        QTest::newRow("more widths than data") << "en_US" << 12 << ab7 << list({ 4, 3, 2 }) << f00 << true << blank << QVariant() << exportBox("Het aantal elementen in arrFieldLength stemt niet overeen met het aantal elementen in Data !\r\rarrFieldLength = 2\rData = 1");
+        QTest::newRow("widths but no data") << "en_US" << 12 << QStringList() << list({ 4 }) << none << true << blank << QVariant() << exportBox("Het aantal elementen in arrFieldLength stemt niet overeen met het aantal elementen in Data !\r\rarrFieldLength = 0\rData = -1");
         QTest::newRow("formats no array") << "en_US" << 12 << ab7 << w43 << QVariant("0.00") << true << blank << QVariant() << exportBox("De variable arrFormat is geen geldige Array !");
-        QTest::newRow("formats Null") << "en_US" << 12 << ab7 << w43 << nullVariant() << true << blank << QVariant() << exportBox("De variable arrFormat is geen geldige Array !");
-        QTest::newRow("fewer formats than data") << "en_US" << 12 << ab7 << w43 << list({ "" }) << true << blank << QVariant()
-            << exportBox("Het aantal elementen in arrFormat stemt niet overeen met het aantal elementen in Data !\r\rarrFormat = 0\rData = 1");
+        QTest::newRow("fewer formats than data") << "en_US" << 12 << ab7 << w43 << list({ "" }) << true << blank << QVariant() << exportBox("Het aantal elementen in arrFormat stemt niet overeen met het aantal elementen in Data !\r\rarrFormat = 0\rData = 1");
         QTest::newRow("widths checked before formats") << "en_US" << 12 << ab7 << QVariant("x") << QVariant("y") << true << blank << QVariant() << exportBox("arrFieldLength is geen geldige array !");
         // clang-format on
     }
@@ -174,7 +170,6 @@ private slots:
         QTest::newRow("record shorter than its fields") << "000012 AB" << w43 << true << false << delimiterFault << importBox("Ongeldige Delimiter Space(1) op Positie 12 in Line 12  !");
         QTest::newRow("third delimiter") << "AB C D" << list({ 2, 1, 1, 1 }) << false << false << delimiterFault << importBox("Ongeldige Delimiter Space(1) op Positie 7 in InputRecord ''AB C D''  !");
         QTest::newRow("widths no array") << "000012 AB   .00 B4" << QVariant(4) << true << true << delimiterFault << importBox("arrFieldLength is geen geldige array !");
-        QTest::newRow("widths Null") << "000012 AB   .00 B4" << nullVariant() << true << true << delimiterFault << importBox("arrFieldLength is geen geldige array !");
         QTest::newRow("delimiter found before a bad width") << "ABCD" << list({ 2, "x" }) << false << false << delimiterFault << importBox("Ongeldige Delimiter Space(1) op Positie 3 in InputRecord ''ABCD''  !");
         QTest::newRow("checksum found before a bad width") << "AB 00" << list({ "x" }) << false << true << checksumFault << importBox("Ongeldige CheckSum  in InputRecord ''AB 00''  !");
         // clang-format on

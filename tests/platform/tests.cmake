@@ -1,3 +1,2 @@
 qor_add_test(tst_recordingplatform ${dir}/tst_recordingplatform.cpp)
-qor_add_test(tst_coreplatform ${dir}/tst_coreplatform.cpp)
 qor_add_test(tst_qtplatform ${dir}/tst_qtplatform.cpp WIDGETS)

@@ -1,31 +1,15 @@
-#include "lib/frame/messageboxlogic.h"
 #include "input/editing.h"
+#include "lib/frame/messageboxlogic.h"
 #include "lib/frame/modgenlib.h"
 #include "platform/qt/qtplatform.h"
+#include "tests/common/userinput.h"
 
 #include <QApplication>
-#include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QTest>
-#include <QTimer>
 
 using namespace qor;
-
-namespace {
-
-// Runs an action on the next modal window once it is active.
-void whenModalIsActive(std::function<void(QWidget *)> action)
-{
-    QTimer::singleShot(0, [action] {
-        QTRY_VERIFY(QApplication::activeModalWidget() != nullptr);
-        QWidget *window = QApplication::activeModalWidget();
-        QVERIFY(QTest::qWaitForWindowActive(window));
-        action(window);
-    });
-}
-
-} // namespace
 
 class TestQtPlatform : public QObject
 {
@@ -46,67 +30,16 @@ private slots:
         modGenLib().soundOff = true;
     }
 
-    void messageBoxAnswersKeys_data()
-    {
-        QTest::addColumn<int>("style");
-        QTest::addColumn<char>("key");
-        QTest::addColumn<int>("result");
-        QTest::addColumn<QString>("button");
-        // clang-format off
-        QTest::newRow("yes no answered with n") << 36 << 'n' << 7 << "cmdYes";
-        QTest::newRow("ok answered with escape") << 0 << '\x1b' << 1 << "cmdOK";
-        // clang-format on
-    }
-    void messageBoxAnswersKeys()
-    {
-        QFETCH(int, style);
-        QFETCH(char, key);
-        QFETCH(QString, button);
-        QString seenCaption;
-        QString seenPrompt;
-        whenModalIsActive([&](QWidget *window) {
-            seenCaption = window->windowTitle();
-            seenPrompt = window->findChild<QLabel *>(QStringLiteral("Label"))->text();
-            QVERIFY(window->findChild<QPushButton *>(button));
-            if (key == '\x1b')
-                QTest::keyClick(window, Qt::Key_Escape);
-            else
-                QTest::keyClick(window, key);
-        });
-        QTEST(showMessageBoxE(QStringLiteral("Eerste\rTweede"), style, QString()), "result");
-        QCOMPARE(seenPrompt, QStringLiteral("Eerste\nTweede"));
-        QCOMPARE(seenCaption, MessageBoxLogic::prepare(QString(), style, QString()).caption);
-    }
-
+    // Keys, scans and the input box are the message box tests' business; a click
+    // on a button answers too.
     void messageBoxButtonClick()
     {
-        whenModalIsActive([](QWidget *window) {
+        test::whenModalIsActive([](QWidget *window) {
             auto *no = window->findChild<QPushButton *>(QStringLiteral("cmdNo"));
             QCOMPARE(no->text(), QStringLiteral("Nee"));
             QTest::mouseClick(no, Qt::LeftButton);
         });
         QCOMPARE(showMessageBoxE(QStringLiteral("?"), 4, QStringLiteral("Titel")), 7);
-    }
-
-    void inputBoxTypedTextAndCancel()
-    {
-        InputBoxERequest request;
-        request.prompt = QStringLiteral("Naam ?");
-        request.defaultValue = QStringLiteral("x");
-        request.maxLength = 5;
-        request.cancelCaption = QStringLiteral("Annuleren");
-        whenModalIsActive([](QWidget *window) {
-            auto *text = window->findChild<QLineEdit *>(QStringLiteral("Text"));
-            text->clear();
-            QTest::keyClicks(text, QStringLiteral("abcdefgh"));
-            QTest::keyClick(text, Qt::Key_Return);
-        });
-        const InputBoxEAnswer typed = machine->inputBoxE(request);
-        QVERIFY(!typed.cancelled);
-        QCOMPARE(typed.text, QStringLiteral("abcde"));
-
-        whenModalIsActive([](QWidget *window) { QTest::keyClick(window, Qt::Key_Escape); });
-        QVERIFY(machine->inputBoxE(request).cancelled);
     }
 
     void keysReachTheFocusWidget()

@@ -262,13 +262,6 @@ private slots:
         clsqorGenLib lib;
         QTEST(lib.GetSystemDir(), "result");
     }
-
-    void shutDownIsOnlyRecorded()
-    {
-        clsqorGenLib lib;
-        lib.ShutDownPC();
-        QCOMPARE(machine->actions(), (QVariantList { QVariantMap { { "kind", "shutdown" } } }));
-    }
 };
 
 QTEST_GUILESS_MAIN(TestProcesses)

@@ -92,7 +92,6 @@ private slots:
         QTest::newRow("missing file") << QByteArray("<none>") << "K" << true << "" << true;
         QTest::newRow("empty file") << QByteArray() << "K" << false << "" << false;
         QTest::newRow("binary file") << QByteArray("\x00\xFF\x01\n\x00[S\x00", 9) << "K" << false << "" << false;
-        QTest::newRow("300 characters cut to 254") << "[S]\r\nK=" + QByteArray(300, 'x') + "\r\n" << "K" << true << QString(254, 'x') << false;
         QTest::newRow("255 characters cut to 254") << "[S]\r\nK=" + QByteArray(255, 'y') + "\r\n" << "K" << true << QString(254, 'y') << false;
         QTest::newRow("254 characters whole") << "[S]\r\nK=" + QByteArray(254, 'z') + "\r\n" << "K" << true << QString(254, 'z') << false;
         // clang-format on
