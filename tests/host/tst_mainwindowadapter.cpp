@@ -8,6 +8,7 @@
 #include "tests/common/recordingmachine.h"
 
 #include <QCalendarWidget>
+#include <QCoreApplication>
 #include <QGroupBox>
 #include <QLabel>
 #include <QPushButton>
@@ -30,7 +31,7 @@ QRect pixels(int left, int top, int width, int height)
 
 } // namespace
 
-// The house layout on a real main window.
+// The house layout on a real main window, and a screenshot of it.
 class TestMainWindowAdapter : public QObject
 {
     Q_OBJECT
@@ -104,6 +105,9 @@ private slots:
         QVERIFY(calendar->isVisible() && frame->isVisible());
 
         const QImage shot = window.grab().toImage();
+        const QString file
+            = QCoreApplication::applicationDirPath() + QStringLiteral("/mainwindowadapter.png");
+        QVERIFY(shot.save(file));
         // The big square in the strong colour, the small ones in the light one,
         // the calendar's outline white.
         QCOMPARE(shot.pixelColor(desk->mapTo(&window, QPoint(280, 60))), blue);
