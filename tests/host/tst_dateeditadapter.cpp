@@ -8,7 +8,9 @@
 #include "tests/common/recordingmachine.h"
 
 #include <QCalendarWidget>
+#include <QCoreApplication>
 #include <QDateEdit>
+#include <QDir>
 #include <QTableView>
 #include <QTest>
 #include <QTextCharFormat>
@@ -177,6 +179,34 @@ private slots:
         delete field;
         QCOMPARE(test::errorNumber([&] { adapter.value(); }), 91);
         QCOMPARE(test::errorNumber([&] { adapter.setFormat(QStringLiteral("dd/mm/yy")); }), 91);
+    }
+
+    // The picture of the calendar after SetDText: May 2004 in Dutch, the
+    // holidays in red.
+    void screenshot()
+    {
+        machineAt(QDate(2004, 5, 25), QStringLiteral("nl_BE"));
+        QDateEdit field;
+        DateEditAdapter adapter(&field);
+        clsqorGenLib lib;
+        QString country = QStringLiteral("BE");
+        lib.SetDText(&adapter, country, true, true);
+        QCalendarWidget *calendar = field.calendarWidget();
+        calendar->setCurrentPage(2004, 5);
+        calendar->resize(360, 240);
+        // The calendar lives in the field's closed pop-up: render it as it would show.
+        calendar->ensurePolished();
+        const QImage picture = calendar->grab().toImage();
+        QVERIFY(!picture.isNull());
+        const QString path = QDir(QCoreApplication::applicationDirPath())
+                                 .filePath(QStringLiteral("dateedit-calendar.png"));
+        QVERIFY(picture.save(path));
+        // Some pixel of the picture is the holiday red.
+        bool red = false;
+        for (int y = 0; y < picture.height() && !red; ++y)
+            for (int x = 0; x < picture.width() && !red; ++x)
+                red = picture.pixelColor(x, y) == QColor(Qt::red);
+        QVERIFY(red);
     }
 };
 
