@@ -44,12 +44,6 @@ struct InvoiceList
         frame.setTitle(QStringLiteral("Facturen"));
         frame.resize(403, 209);
         table->setModel(model);
-        fill();
-        grid.setRowHeight(225);
-    }
-
-    void fill()
-    {
         const QList<QList<QVariant>> rows { { 1001, "Janssens", 1, 0 },
             { 1002, "Peeters", 4, 10000 }, { 1003, "Maes", 99, 20000 }, { 1004, "Claes", 10, 0 } };
         model->setRowCount(int(rows.size()));
@@ -58,6 +52,7 @@ struct InvoiceList
             for (int c = 0; c < 4; ++c)
                 model->setData(model->index(r, c), rows[r][c]);
         }
+        grid.setRowHeight(225);
     }
 
     // The standard set-up of the list, as a host program makes it.
@@ -69,7 +64,12 @@ struct InvoiceList
         lib.SetDBGridCol(&grid, 1, "Klant", "Klant", 0, 1500);
         lib.SetDBGridCol(&grid, 2, "Betaling", "Betaling", 2, 800);
         lib.SetDBGridCol(&grid, 3, "Taal", "Taal", 0, 700, false);
-        fill();
+        const QList<QList<QVariant>> rows { { 1001, "Janssens", 1, 0 },
+            { 1002, "Peeters", 4, 10000 }, { 1003, "Maes", 99, 20000 }, { 1004, "Claes", 10, 0 } };
+        for (int r = 0; r < rows.size(); ++r) {
+            for (int c = 0; c < 4; ++c)
+                model->setData(model->index(r, c), rows[r][c]);
+        }
     }
 
     QString shown(int row, int column) const
@@ -154,10 +154,12 @@ private slots:
         QTest::addColumn<QStringList>("payments");
         QTest::addColumn<QStringList>("languages");
 
-        // clang-format off
-        QTest::newRow("Dutch") << 0 << QStringList { "Contant", "Bancontact", "9999", "Domiciliëring" } << QStringList { "NL", "FR", "EN", "NL" };
-        QTest::newRow("French") << 10000 << QStringList { "Comptant", "Bancontact", "9999", "Domiciliation" } << QStringList { "NL", "FR", "EN", "NL" };
-        // clang-format on
+        QTest::newRow("Dutch") << 0
+                               << QStringList { "Contant", "Bancontact", "9999", "Domiciliëring" }
+                               << QStringList { "NL", "FR", "EN", "NL" };
+        QTest::newRow("French") << 10000
+                                << QStringList { "Comptant", "Bancontact", "9999", "Domiciliation" }
+                                << QStringList { "NL", "FR", "EN", "NL" };
     }
 
     void translatedColumnsShowTheirTexts()
@@ -207,6 +209,23 @@ private slots:
         QCOMPARE(list.grid.property("Tag").toString(), QStringLiteral("FactNr ASC"));
     }
 
+    void screenshotOfASetUpGrid()
+    {
+        clsqorGenLib lib;
+        InvoiceList list;
+        list.setUp(lib);
+        lib.SetDBGridTranslation(&list.grid, qorGenLib::ttlBetalingLang, 2);
+        lib.SetDBGridIcon(&list.grid, 1, "DESC", "Klant");
+        list.frame.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&list.frame));
+        const QImage shot = list.frame.grab().toImage();
+        QCOMPARE(shot.size(), list.frame.size() * list.frame.devicePixelRatio());
+        const QString path
+            = QCoreApplication::applicationDirPath() + QStringLiteral("/gridwidgets.png");
+        QVERIFY(shot.save(path));
+        QVERIFY(QFileInfo(path).size() > 0);
+    }
+
     void listsSelectByNumberOrText_data()
     {
         QTest::addColumn<qint32>("itemData");
@@ -217,7 +236,9 @@ private slots:
 
         QTest::newRow("by number") << 30 << "" << -1 << true << 2;
         QTest::newRow("by text") << -9999 << "Gent" << -1 << true << 1;
+        QTest::newRow("first in list order") << 30 << "Brugge" << -1 << true << 0;
         QTest::newRow("none: cleared") << 99 << "Luik" << -1 << false << -1;
+        QTest::newRow("none: first") << 99 << "" << 0 << false << 0;
         QTest::newRow("none: unchanged") << 99 << "" << 99 << false << 1;
     }
 
@@ -249,6 +270,15 @@ private slots:
             int(RuntimeError::InvalidPropertyValue));
     }
 
+    void emptyListsAreLeftAlone()
+    {
+        clsqorGenLib lib;
+        QComboBox combo;
+        ComboBoxAdapter adapter(&combo);
+        QCOMPARE(lib.SetListIndex(&adapter, 5, "x", qorGenLib::SetListIndexLineZero), false);
+        QCOMPARE(combo.currentIndex(), -1);
+    }
+
     void formChangesAreTracked_data()
     {
         QTest::addColumn<QString>("typed"); // keys typed into the name field
@@ -257,6 +287,7 @@ private slots:
         QTest::addColumn<bool>("changed");
 
         QTest::newRow("nothing") << "" << false << 0 << false;
+        QTest::newRow("a letter") << "s" << false << 0 << true;
         QTest::newRow("typed and deleted") << "s\b" << false << 0 << false;
         QTest::newRow("ticked") << "" << true << 0 << true;
         QTest::newRow("spun") << "" << false << 1 << true;
@@ -300,6 +331,15 @@ private slots:
         const QString split(2, QChar(173));
         QVERIFY(form.property("qorTag").toString().startsWith(
             "Jans" + split + "Brugge" + split + "0" + split));
+    }
+
+    void formWithoutControls()
+    {
+        clsqorGenLib lib;
+        QWidget form;
+        FormAdapter adapter(&form);
+        QCOMPARE(lib.DataChange(&adapter, true), false);
+        QCOMPARE(lib.DataChange(&adapter), false);
     }
 };
 
