@@ -113,6 +113,35 @@ private slots:
             QStringLiteral("1.234,50 EUR"));
     }
 
+    // An enumeration argument is a Long: any 32-bit value is taken, and a value
+    // the enumeration does not name adds no symbol.
+    void enumerationArgumentsTakeAnyLong_data()
+    {
+        QTest::addColumn<QVariant>("symbol");
+        QTest::addColumn<QString>("suffix");
+        // clang-format off
+        QTest::newRow("EUR") << QVariant(1) << " EUR";
+        QTest::newRow("euro sign") << QVariant(2) << QStringLiteral(" \u20AC");
+        QTest::newRow("beyond the members") << QVariant(7) << "";
+        QTest::newRow("negative") << QVariant(-1) << "";
+        QTest::newRow("True is -1") << QVariant(true) << "";
+        QTest::newRow("largest Long") << QVariant(2147483647) << "";
+        QTest::newRow("smallest Long") << QVariant(-2147483647 - 1) << "";
+        QTest::newRow("text of a member") << QVariant(QStringLiteral("1")) << " EUR";
+        QTest::newRow("a date") << QVariant(QDateTime(QDate(2004, 5, 20), QTime(0, 0))) << "";
+        // clang-format on
+    }
+    void enumerationArgumentsTakeAnyLong()
+    {
+        QFETCH(QVariant, symbol);
+        QFETCH(QString, suffix);
+        static_assert(std::is_same_v<std::underlying_type_t<qorGenLib::OstSymbolType>, qint32>);
+        static_assert(std::is_same_v<std::underlying_type_t<qorGenLib::OstColors>, qint32>);
+        clsqorGenLib lib;
+        const QString plain = lib.SetEuro(2, qorGenLib::vbSymbolNone);
+        QCOMPARE(lib.Invoke("SetEuro", { 2, symbol }).toString(), plain + suffix);
+    }
+
     void errorsReachTheCaller_data()
     {
         QTest::addColumn<QString>("name");
