@@ -69,7 +69,8 @@ void setProperty(
     object->setProperty(resolved.constData(), value);
 }
 
-QVariant callOperation(QObject *object, const char *name, const QVariantList &args)
+QVariant callOperation(
+    QObject *object, const char *name, const QVariantList &args, const RegionalSettings &rs)
 {
     const QMetaObject *meta = requireObject(object)->metaObject();
     constexpr int maxArguments = 4;
@@ -89,8 +90,8 @@ QVariant callOperation(QObject *object, const char *name, const QVariantList &ar
             const QMetaType type = method.parameterMetaType(a);
             if (type.id() == QMetaType::QVariant)
                 converted[a] = QVariant(type, &args[a]);
-            else if (!converted[a].convert(type))
-                throw RuntimeError::typeMismatch();
+            else
+                converted[a] = coerceTo(args[a], type, rs);
             typeNames.append(method.parameterTypeName(a));
             generic[a] = QGenericArgument(typeNames.last().constData(), converted[a].constData());
         }

@@ -19,7 +19,9 @@ void setProperty(
 bool hasProperty(QObject *object, const char *name);
 // The name under which the object knows a property, or an empty array.
 QByteArray propertyNameOf(QObject *object, const char *name);
-// Calls a named operation (an invokable method) with up to four arguments.
-QVariant callOperation(QObject *object, const char *name, const QVariantList &args = {});
+// Calls a named operation (an invokable method) with up to four arguments, each
+// converted to its declared type as setProperty converts a value (coerceTo).
+QVariant callOperation(QObject *object, const char *name, const QVariantList &args = {},
+    const RegionalSettings &rs = RegionalSettings());
 
 } // namespace qor

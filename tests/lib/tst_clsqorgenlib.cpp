@@ -1,4 +1,6 @@
 #include "lib/clsqorgenlib.h"
+#include "platform/platform.h"
+#include "runtime/callbyname.h"
 #include "runtime/variant.h"
 
 #include "tests/common/errornumber.h"
@@ -140,6 +142,31 @@ private slots:
         clsqorGenLib lib;
         const QString plain = lib.SetEuro(2, qorGenLib::vbSymbolNone);
         QCOMPARE(lib.Invoke("SetEuro", { 2, symbol }).toString(), plain + suffix);
+    }
+
+    // A property takes a value by the same rule however it is assigned.
+    void propertyAssignmentsConvertAlike_data()
+    {
+        QTest::addColumn<QString>("property");
+        QTest::addColumn<QVariant>("value");
+        // clang-format off
+        QTest::newRow("True into a Long") << "Offset" << QVariant(true);
+        QTest::newRow("number text into a Long") << "BtwTar1" << QVariant(QStringLiteral("2100"));
+        QTest::newRow("double into a Long rounds to even") << "NbrDec" << QVariant(2.5);
+        QTest::newRow("number into a String") << "msg" << QVariant(12.5);
+        QTest::newRow("Boolean into a String") << "SQL" << QVariant(false);
+        // clang-format on
+    }
+    void propertyAssignmentsConvertAlike()
+    {
+        QFETCH(QString, property);
+        QFETCH(QVariant, value);
+        clsqorGenLib byInvoke;
+        clsqorGenLib byName;
+        byInvoke.Invoke(property, { value });
+        qor::setProperty(&byName, property.toLower().toLatin1().constData(), value,
+            qor::platform().regionalSettings());
+        QCOMPARE(byName.Invoke(property, {}), byInvoke.Invoke(property, {}));
     }
 
     void errorsReachTheCaller_data()

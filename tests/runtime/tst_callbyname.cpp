@@ -83,6 +83,38 @@ private slots:
         QCOMPARE(qor::callOperation(&control, "Echo", { 2.5 }), QVariant(2.5));
         QCOMPARE(qor::callOperation(&control, "Twice", { QStringLiteral("21") }).toInt(), 42);
     }
+
+    // Operations convert their arguments by the same rule as property assignments.
+    void operationArgumentsConvertAsAssignments_data()
+    {
+        QTest::addColumn<QVariant>("value");
+        QTest::addColumn<int>("twice");
+        QTest::addColumn<int>("error");
+        // clang-format off
+        QTest::newRow("True is -1") << QVariant(true) << -2 << 0;
+        QTest::newRow("False is 0") << QVariant(false) << 0 << 0;
+        QTest::newRow("text with decimal point") << QVariant(QStringLiteral("2.5")) << 4 << 0;
+        QTest::newRow("double rounds half to even") << QVariant(3.5) << 8 << 0;
+        QTest::newRow("text that is no number") << QVariant(QStringLiteral("abc")) << 0 << 13;
+        QTest::newRow("beyond a Long") << QVariant(3e9) << 0 << 6;
+        // clang-format on
+    }
+    void operationArgumentsConvertAsAssignments()
+    {
+        QFETCH(QVariant, value);
+        QFETCH(int, twice);
+        QFETCH(int, error);
+        SampleControl control;
+        int result = 0;
+        QCOMPARE(
+            errorNumber([&] { result = qor::callOperation(&control, "Twice", { value }).toInt(); }),
+            error);
+        QCOMPARE(result, twice);
+        if (error != 0)
+            return;
+        qor::setProperty(&control, "ListIndex", value, {});
+        QCOMPARE(control.listIndex * 2, twice);
+    }
 };
 
 QTEST_GUILESS_MAIN(TestCallByName)
