@@ -1,5 +1,7 @@
 #pragma once
 
+#include "runtime/propertybag.h"
+
 #include <QObject>
 #include <QStringList>
 #include <QVariant>
@@ -14,7 +16,7 @@ namespace qor {
 // see what the library did to it.
 //
 // Used on its own it is the class "Object": a bag with no declared properties.
-class HostObject : public QObject
+class HostObject : public QObject, public PropertyBag
 {
     Q_OBJECT
     Q_CLASSINFO("HostClass", "Object")
@@ -28,6 +30,8 @@ public:
     // Declared properties in declaration order, then the others in the order
     // they were first assigned.
     QStringList propertyNames() const;
+    // The declared ones alone.
+    QStringList declaredNames() const;
     // The name the object knows a property by, matched regardless of case; empty when unknown.
     QString resolveName(const QString &name) const;
     bool isDeclared(const QString &name) const;
@@ -50,6 +54,9 @@ protected:
     void recordCall(const QString &name, const QVariantList &args = {});
 
 private:
+    // The meta-object index of a property spelled exactly `name`, or -1.
+    int exactIndex(const QString &name) const;
+
     QVariantList m_calls;
 };
 

@@ -10,7 +10,8 @@ namespace qor {
 
 // Late-bound access to a host object by property and operation name, as an
 // automation call makes it: a property the object lacks raises 438, a missing
-// object 91. Names match exactly first, then regardless of case.
+// object 91. Names match exactly first, then regardless of case. An object that
+// is a PropertyBag keeps its undeclared properties there.
 QVariant getProperty(QObject *object, const char *name);
 // A declared property takes the value converted as an automation call converts
 // it (see coerceTo); 383 when it is read-only.

@@ -354,6 +354,55 @@ private slots:
         QCOMPARE(result.responses[0].contains("props"), withProps);
     }
 
+    // Objects of any size are read, checked for repeated names and written back
+    // in time that grows with their size alone (the test's time limit is the check).
+    void largeObjectsAreAnswered_data()
+    {
+        QTest::addColumn<QByteArray>("kind");
+        QTest::addColumn<int>("members");
+        QTest::newRow("host object with many properties") << QByteArray("$object") << 200000;
+        QTest::newRow("plain object with many members") << QByteArray("plain") << 200000;
+        QTest::newRow("many members, the last repeated") << QByteArray("repeated") << 200000;
+    }
+    void largeObjectsAreAnswered()
+    {
+        QFETCH(QByteArray, kind);
+        QFETCH(int, members);
+        QByteArray object = kind == "$object" ? QByteArray(R"({"$object": "TextBox", "Text": "ab")")
+                                              : QByteArray("{\"m\": 0");
+        for (int i = 1; i < members; ++i)
+            object += ", \"m" + QByteArray::number(i) + "\": " + QByteArray::number(i);
+        if (kind == "repeated")
+            object += ", \"m7\": 1";
+        object += '}';
+        const QByteArray call = kind == "$object"
+            ? R"({"id": 1, "props": false, "call": "SelEdit", "args": [)" + object + "]}"
+            : R"({"id": 1, "props": false, "call": "SCase", "args": ["x"], "extra": )" + object
+                + "}";
+        const BatchResult result = runBatch({ call, R"({"call": "SCase", "args": ["y"]})" });
+        QVERIFY(result.run.finished);
+        QCOMPARE(result.responses.size(), 2);
+        const QJsonObject reply = result.responses[0];
+        // A line that is not JSON (a name given twice) has no id to send back.
+        const QJsonValue id
+            = kind == "repeated" ? QJsonValue(QJsonValue::Undefined) : QJsonValue(1);
+        QCOMPARE(reply.value("id"), id);
+        if (kind == "$object") {
+            const QJsonObject control = reply.value("args").toArray().at(0).toObject();
+            QCOMPARE(control.value("SelLength").toInt(), 2);
+            QCOMPARE(control.value("m1").toInt(), 1);
+            QCOMPARE(control.value("m" + QString::number(members - 1)).toInt(), members - 1);
+        } else if (kind == "repeated") {
+            QCOMPARE(errorNumberOf(reply), 5);
+            QVERIFY(reply.value("error").toObject().value("description").toString().contains("m7"));
+        } else {
+            // A well-formed line with a field the bridge does not know.
+            QVERIFY(
+                reply.value("error").toObject().value("description").toString().contains("extra"));
+        }
+        QCOMPARE(result.responses[1].value("result").toString(), QStringLiteral("Y"));
+    }
+
     // A caller that writes one line and waits gets its answer without closing its side.
     void eachLineIsAnsweredWhileTheInputStaysOpen()
     {

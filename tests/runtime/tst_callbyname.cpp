@@ -1,4 +1,5 @@
 #include "runtime/callbyname.h"
+#include "runtime/propertybag.h"
 
 #include "tests/common/errornumber.h"
 
@@ -22,6 +23,12 @@ public:
     Q_INVOKABLE void AddItem(const QString &item, const QVariant &index) { calls << item << index; }
     Q_INVOKABLE QVariant Echo(const QVariant &value) { return value; }
     Q_INVOKABLE int Twice(int value) { return 2 * value; }
+};
+
+// A control that keeps its undeclared properties in a bag.
+class BagControl : public SampleControl, public qor::PropertyBag
+{
+    Q_OBJECT
 };
 
 class TestCallByName : public QObject
@@ -114,6 +121,23 @@ private slots:
             return;
         qor::setProperty(&control, "ListIndex", value, {});
         QCOMPARE(control.listIndex * 2, twice);
+    }
+
+    // An object's bag holds the names it was given, found regardless of case.
+    void bagPropertiesByName()
+    {
+        BagControl control;
+        control.bagAssign(QStringLiteral("Tag"), 7);
+        QCOMPARE(qor::getProperty(&control, "TAG").toInt(), 7);
+        qor::setProperty(&control, "tag", QStringLiteral("x"), {});
+        QCOMPARE(control.bagNames(), QStringList { QStringLiteral("Tag") });
+        QCOMPARE(*control.bagValue(QStringLiteral("tAg")), QVariant(QStringLiteral("x")));
+        QCOMPARE(qor::propertyNameOf(&control, "tag"), QByteArray("Tag"));
+        // Declared properties come first and keep their type.
+        qor::setProperty(&control, "listindex", QStringLiteral("4"), {});
+        QCOMPARE(control.listIndex, 4);
+        QVERIFY(!control.bagValue(QStringLiteral("ListIndex")));
+        QCOMPARE(errorNumber([&] { qor::getProperty(&control, "Missing"); }), 438);
     }
 };
 

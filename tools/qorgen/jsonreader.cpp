@@ -2,6 +2,7 @@
 
 #include "tools/qorgen/requesterror.h"
 
+#include <QSet>
 #include <QStringDecoder>
 
 #include <cmath>
@@ -129,13 +130,16 @@ JsonValue JsonReader::readObject(int depth)
         ++m_pos;
         return object;
     }
+    // The names so far, so that a repeated one is found in constant time.
+    QSet<QString> names;
     for (;;) {
         skipSpace();
         if (peek() != u'"')
             fail(QStringLiteral("expected a member name in double quotes"));
         const QString key = readString();
-        if (object.member(key))
+        if (names.contains(key))
             fail(QStringLiteral("member \"%1\" given twice").arg(key));
+        names.insert(key);
         expect(u':');
         object.insert(key, readValue(depth));
         skipSpace();
