@@ -21,6 +21,7 @@ TextMask::TextMask(const QString &pattern)
             continue;
         }
         if (c == QLatin1Char('&') || c == QLatin1Char('@')) {
+            m_slotPositions.push_back(m_literalsAndSlots.size());
             m_literalsAndSlots += slotMark;
             m_blankSlot.push_back(c == QLatin1Char('@'));
             m_anyBlankSlot = m_anyBlankSlot || c == QLatin1Char('@');
@@ -55,6 +56,8 @@ void TextMask::applyTo(QStringView text, QString &out) const
 void TextMask::applyExact(QStringView text, QString &out) const
 {
     const qsizetype slotCount = qsizetype(m_blankSlot.size());
+    if (text.size() == slotCount)
+        return fillSlots(text, out);
     const qsizetype surplus = std::max<qsizetype>(0, text.size() - slotCount);
     const qsizetype offset = m_leftToRight ? 0 : text.size() - slotCount; // text index of slot 0
     // Sized once: exactly when every placeholder is "&", else to the longest
@@ -88,6 +91,19 @@ void TextMask::applyExact(QStringView text, QString &out) const
     }
     if (write - start != size)
         out.resize(write - start);
+}
+
+// A text with exactly one character per placeholder, whatever the direction:
+// the literals as they stand, each placeholder taking the next character.
+void TextMask::fillSlots(QStringView text, QString &out) const
+{
+    out.resize(m_literalsAndSlots.size());
+    char16_t *write = reinterpret_cast<char16_t *>(out.data());
+    std::copy_n(reinterpret_cast<const char16_t *>(m_literalsAndSlots.constData()),
+        m_literalsAndSlots.size(), write);
+    const char16_t *source = reinterpret_cast<const char16_t *>(text.data());
+    for (size_t slot = 0; slot < m_slotPositions.size(); ++slot)
+        write[m_slotPositions[slot]] = source[slot];
 }
 
 } // namespace qor

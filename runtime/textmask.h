@@ -23,9 +23,11 @@ public:
 
 private:
     void applyExact(QStringView text, QString &out) const;
+    void fillSlots(QStringView text, QString &out) const;
 
     QString m_literalsAndSlots; // NUL marks a placeholder
     std::vector<bool> m_blankSlot; // '@' shows a blank when empty, '&' nothing
+    std::vector<qsizetype> m_slotPositions; // of the placeholders in m_literalsAndSlots
     bool m_anyBlankSlot = false;
     bool m_leftToRight = false;
     int m_caseChange = 0; // -1 lower, 1 upper

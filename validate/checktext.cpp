@@ -39,11 +39,27 @@ bool isAsciiDigits(QStringView text)
     return true;
 }
 
+namespace {
+
+// The value of four digits, worked out apart from the running sum.
+qint64 fourDigits(const char16_t *p)
+{
+    return ((p[0] - u'0') * 10 + (p[1] - u'0')) * 100 + (p[2] - u'0') * 10 + (p[3] - u'0');
+}
+
+} // namespace
+
 qint64 digitsNumber(QStringView digits)
 {
+    const char16_t *p = reinterpret_cast<const char16_t *>(digits.data());
+    const qsizetype size = digits.size();
+    const qsizetype lead = size % 4;
     qint64 value = 0;
-    for (QChar c : digits)
-        value = value * 10 + (c.unicode() - '0');
+    for (qsizetype i = 0; i < lead; ++i)
+        value = value * 10 + (p[i] - u'0');
+    // Four digits a step: the same sum with a quarter of the dependent steps.
+    for (qsizetype i = lead; i < size; i += 4)
+        value = value * 10000 + fourDigits(p + i);
     return value;
 }
 
@@ -70,9 +86,12 @@ void keepDigits(QString &text)
         return;
     char16_t *data = reinterpret_cast<char16_t *>(text.data());
     qsizetype kept = first;
+    // Every character is written and only a digit moves the write on, without a
+    // branch to mispredict on numbers that mix digits and separators.
     for (qsizetype i = first + 1; i < size; ++i) {
-        if (isDigit(data[i]))
-            data[kept++] = data[i];
+        const char16_t c = data[i];
+        data[kept] = c;
+        kept += isDigit(c) ? 1 : 0;
     }
     text.resize(kept);
 }
