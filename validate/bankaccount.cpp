@@ -7,9 +7,8 @@ namespace qor {
 
 Verdict checkBankAccount(QString &bankNr, QString &display)
 {
-    display.resize(0);
     if (isBlank(bankNr))
-        return Verdict::Skipped;
+        return nothingShown(display, Verdict::Skipped);
     keepDigits(bankNr);
     // The program tests for twelve digits but lets the check digits decide, so
     // numbers of other lengths are accepted when they add up. Ten digits are
@@ -18,7 +17,7 @@ Verdict checkBankAccount(QString &bankNr, QString &display)
     if (remainder == 0)
         remainder = 97;
     if (digitsNumber(rightPart(bankNr, 2)) != remainder)
-        return Verdict::Refused;
+        return nothingShown(display, Verdict::Refused);
     static const TextMask notation(QStringLiteral("&&&\\-&&&&&&&\\-&&"));
     notation.applyTo(bankNr, display);
     return Verdict::Accepted;

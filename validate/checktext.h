@@ -1,5 +1,7 @@
 #pragma once
 
+#include "validate/checkresult.h"
+
 #include <QString>
 #include <QStringView>
 
@@ -38,5 +40,13 @@ void keepDigits(QString &text);
 
 // storage = text, reusing the storage's buffer when it is large enough.
 void assignText(QString &storage, QStringView text);
+
+// The display of a number that is not shown: emptied, keeping its buffer. The
+// checks empty it only on the way out, as an accepted number overwrites it anyway.
+inline Verdict nothingShown(QString &display, Verdict verdict)
+{
+    display.resize(0);
+    return verdict;
+}
 
 } // namespace qor

@@ -18,20 +18,19 @@ qint32 checkFrom2000(qint32 checkBefore2000)
 
 Verdict checkNationalNumber(QString &natNr, const QString &landCode, QString &display)
 {
-    display.resize(0);
     if (!landCode.isEmpty() && landCode != QLatin1String("BE")) {
         assignText(display, natNr);
         return Verdict::Accepted;
     }
     if (isBlank(natNr))
-        return Verdict::Skipped;
+        return nothingShown(display, Verdict::Skipped);
     keepDigits(natNr);
     // Nine digits always fit in 32 bits.
     const qint32 firstPart = qint32(digitsNumber(leftPart(natNr, 9)));
     const qint32 check = 97 - firstPart % 97;
     const qint32 given = qint32(digitsNumber(rightPart(natNr, 2)));
     if (given != check && given != checkFrom2000(check))
-        return Verdict::Refused;
+        return nothingShown(display, Verdict::Refused);
     static const TextMask notation(QStringLiteral("&&&&&&\\.&&&\\.&&"));
     notation.applyTo(natNr, display);
     return Verdict::Accepted;

@@ -7,9 +7,8 @@ namespace qor {
 
 Verdict checkVatNumber(QString &vatNr, QString &landCode, QString &display)
 {
-    display.resize(0);
     if (isBlank(vatNr))
-        return Verdict::Skipped;
+        return nothingShown(display, Verdict::Skipped);
     if (landCode.isEmpty())
         landCode = QStringLiteral("BE");
     if (landCode != QLatin1String("BE")) {
@@ -26,7 +25,7 @@ Verdict checkVatNumber(QString &vatNr, QString &landCode, QString &display)
     const qint32 firstPart = qint32(digitsNumber(leftPart(vatNr, 8)));
     const qint32 check = 97 - firstPart % 97;
     if (digitsNumber(rightPart(vatNr, 2)) != check)
-        return Verdict::Refused;
+        return nothingShown(display, Verdict::Refused);
     static const TextMask notation(QStringLiteral("&&&&\\.&&&\\.&&&"));
     notation.applyTo(vatNr, display);
     return Verdict::Accepted;
