@@ -1,5 +1,6 @@
-// Feeds 100,000 FilterNumeric requests to `qorgen batch` and reports how many
-// requests per second it answers.
+// Feeds 100,000 FilterNumeric requests to `qorgen batch`, once with the
+// object's properties in every response and once without ("props": false), and
+// reports how many requests per second it answers (wall time of the batch).
 //
 //   bench_qorgen_batch [PATH-TO-QORGEN] [REQUESTS]
 //
@@ -20,13 +21,14 @@ QString defaultQorgen()
     return QCoreApplication::applicationDirPath() + QStringLiteral("/../tools/qorgen/qorgen");
 }
 
-QByteArray requests(int count)
+QByteArray requests(int count, bool withProps)
 {
     QByteArray input;
-    input.reserve(qsizetype(count) * 60);
+    input.reserve(qsizetype(count) * 80);
+    const QByteArray end = withProps ? QByteArray(R"("]})") : QByteArray(R"("], "props": false})");
     for (int i = 0; i < count; ++i) {
         input += R"({"call": "FilterNumeric", "args": ["BE )" + QByteArray::number(i) + '-'
-            + QByteArray::number(i * 7 % 100000) + R"("]})" + '\n';
+            + QByteArray::number(i * 7 % 100000) + end + '\n';
     }
     return input;
 }
@@ -42,19 +44,14 @@ qsizetype countLines(const QString &path)
     return lines;
 }
 
-} // namespace
-
-int main(int argc, char *argv[])
+// Requests answered per second, or a negative number when the batch failed.
+double run(const QString &qorgen, int count, bool withProps, const QTemporaryDir &dir)
 {
-    QCoreApplication app(argc, argv);
-    const QString qorgen = argc > 1 ? QString::fromLocal8Bit(argv[1]) : defaultQorgen();
-    const int count = argc > 2 ? QByteArray(argv[2]).toInt() : 100000;
-    QTemporaryDir dir;
     const QString in = dir.filePath(QStringLiteral("requests.jsonl"));
     const QString out = dir.filePath(QStringLiteral("responses.jsonl"));
     QFile file(in);
-    if (!file.open(QIODevice::WriteOnly) || file.write(requests(count)) < 0)
-        return 2;
+    if (!file.open(QIODevice::WriteOnly) || file.write(requests(count, withProps)) < 0)
+        return -1;
     file.close();
 
     QProcess process;
@@ -65,11 +62,25 @@ int main(int argc, char *argv[])
     process.start(qorgen, { QStringLiteral("batch") });
     if (!process.waitForStarted() || !process.waitForFinished(-1)) {
         std::fprintf(stderr, "cannot run %s\n", qPrintable(qorgen));
-        return 2;
+        return -1;
     }
     const double seconds = double(timer.nsecsElapsed()) / 1e9;
     const qsizetype answered = countLines(out);
-    std::printf("%lld requests answered of %d in %.2f s: %.0f requests per second\n",
-        (long long)answered, count, seconds, double(answered) / seconds);
-    return answered == count && process.exitCode() == 0 ? 0 : 1;
+    std::printf("%-16s %lld requests answered of %d in %.2f s: %.0f requests per second\n",
+        withProps ? "with props" : "\"props\": false", (long long)answered, count, seconds,
+        double(answered) / seconds);
+    return answered == count && process.exitCode() == 0 ? double(answered) / seconds : -1;
+}
+
+} // namespace
+
+int main(int argc, char *argv[])
+{
+    QCoreApplication app(argc, argv);
+    const QString qorgen = argc > 1 ? QString::fromLocal8Bit(argv[1]) : defaultQorgen();
+    const int count = argc > 2 ? QByteArray(argv[2]).toInt() : 100000;
+    QTemporaryDir dir;
+    const double withProps = run(qorgen, count, true, dir);
+    const double without = run(qorgen, count, false, dir);
+    return withProps > 0 && without > 0 ? 0 : 1;
 }

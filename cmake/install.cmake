@@ -7,7 +7,8 @@ qor_public_headers(
   lib/clsqorgenlib.h lib/typelibrary.h lib/frame/qorenums.h lib/frame/windowsize.h
   platform/platform.h platform/calculatorsession.h platform/coreplatform.h
   platform/recordingplatform.h
-  runtime/regionalsettings.h runtime/runtimeerror.h runtime/variant.h grid/gridcolumnwidths.h
+  runtime/regionalsettings.h runtime/runtimeerror.h runtime/variant.h runtime/propertybag.h
+  grid/gridcolumnwidths.h
   host/*.h)
 set(QOR_PACKAGE_TARGETS qorGenLib)
 if(QORGENLIB_BUILD_WIDGETS)

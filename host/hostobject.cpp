@@ -17,6 +17,24 @@ int firstOwnProperty()
     return QObject::staticMetaObject.propertyCount();
 }
 
+char16_t asciiLower(char16_t c)
+{
+    return c >= u'A' && c <= u'Z' ? char16_t(c + (u'a' - u'A')) : c;
+}
+
+// Names match with the ASCII letters alone folded, as names have always matched.
+bool sameIgnoringAsciiCase(const QString &name, const char *declared)
+{
+    const QLatin1StringView other(declared);
+    if (name.size() != other.size())
+        return false;
+    for (qsizetype i = 0; i < name.size(); ++i) {
+        if (asciiLower(name[i].unicode()) != asciiLower(char16_t(uchar(other[i].toLatin1()))))
+            return false;
+    }
+    return true;
+}
+
 } // namespace
 
 HostObject::HostObject(QObject *parent)
@@ -29,23 +47,45 @@ QString HostObject::className() const
     return QString::fromLatin1(metaObject()->classInfo(index).value());
 }
 
-QStringList HostObject::propertyNames() const
+QStringList HostObject::declaredNames() const
 {
     QStringList names;
     const QMetaObject *meta = metaObject();
     for (int i = firstOwnProperty(); i < meta->propertyCount(); ++i)
         names.append(QString::fromLatin1(meta->property(i).name()));
-    for (const QByteArray &name : dynamicPropertyNames())
-        names.append(QString::fromUtf8(name));
     return names;
+}
+
+QStringList HostObject::propertyNames() const
+{
+    return declaredNames() + bagNames();
 }
 
 QString HostObject::resolveName(const QString &name) const
 {
-    const QByteArray known
-        = propertyNameOf(const_cast<HostObject *>(this), name.toUtf8().constData());
+    const QMetaObject *meta = metaObject();
+    const int exact = exactIndex(name);
+    if (exact >= firstOwnProperty())
+        return name;
     // QObject's own objectName is not a property of the control.
-    return known == "objectName" ? QString() : QString::fromUtf8(known);
+    if (exact >= 0)
+        return QString();
+    const QString inBag = bagName(name);
+    if (!inBag.isEmpty())
+        return inBag;
+    for (int i = firstOwnProperty(); i < meta->propertyCount(); ++i) {
+        if (sameIgnoringAsciiCase(name, meta->property(i).name()))
+            return QString::fromLatin1(meta->property(i).name());
+    }
+    return QString();
+}
+
+int HostObject::exactIndex(const QString &name) const
+{
+    const QByteArray latin1 = name.toLatin1();
+    if (QString::fromLatin1(latin1) != name)
+        return -1;
+    return metaObject()->indexOfProperty(latin1.constData());
 }
 
 bool HostObject::isDeclared(const QString &name) const
@@ -65,7 +105,9 @@ QVariant HostObject::value(const QString &name) const
     const QString resolved = resolveName(name);
     if (resolved.isEmpty())
         return QVariant();
-    const QVariant held = property(resolved.toUtf8().constData());
+    if (const QVariant *own = bagValue(resolved))
+        return *own;
+    const QVariant held = property(resolved.toLatin1().constData());
     if (held.metaType() == QMetaType::fromType<QObject *>()) {
         if (auto *collection = qobject_cast<HostObject *>(held.value<QObject *>());
             collection && collection->isCollection())
@@ -77,9 +119,12 @@ QVariant HostObject::value(const QString &name) const
 void HostObject::assign(const QString &name, const QVariant &value)
 {
     const QString resolved = resolveName(name);
-    const int index = metaObject()->indexOfProperty(resolved.toLatin1().constData());
-    if (resolved.isEmpty() || index < firstOwnProperty()) {
-        setProperty((resolved.isEmpty() ? name : resolved).toUtf8().constData(), value);
+    if (resolved.isEmpty() && exactIndex(name) >= 0) {
+        QObject::setProperty(name.toLatin1().constData(), value);
+        return;
+    }
+    if (resolved.isEmpty() || !isDeclared(resolved)) {
+        bagAssign(resolved.isEmpty() ? name : resolved, value);
         return;
     }
     qor::setProperty(this, resolved.toLatin1().constData(), value, platform().regionalSettings());

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "qorgenlib_export.h"
+#include "runtime/propertybag.h"
 
 #include <QObject>
 #include <QStringList>
@@ -16,7 +17,7 @@ namespace qor {
 // see what the library did to it.
 //
 // Used on its own it is the class "Object": a bag with no declared properties.
-class QORGENLIB_EXPORT HostObject : public QObject
+class QORGENLIB_EXPORT HostObject : public QObject, public PropertyBag
 {
     Q_OBJECT
     Q_CLASSINFO("HostClass", "Object")
@@ -30,6 +31,8 @@ public:
     // Declared properties in declaration order, then the others in the order
     // they were first assigned.
     QStringList propertyNames() const;
+    // The declared ones alone.
+    QStringList declaredNames() const;
     // The name the object knows a property by, matched regardless of case; empty when unknown.
     QString resolveName(const QString &name) const;
     bool isDeclared(const QString &name) const;
@@ -58,6 +61,9 @@ protected:
     void recordCall(const QString &name, const QVariantList &args = {});
 
 private:
+    // The meta-object index of a property spelled exactly `name`, or -1.
+    int exactIndex(const QString &name) const;
+
     QVariantList m_calls;
 };
 

@@ -5,27 +5,43 @@
 #include "runtime/runtimeerror.h"
 #include "runtime/variant.h"
 
-#include <QDateTime>
 #include <QMetaProperty>
+#include <QVarLengthArray>
 
-#include <cmath>
-#include <limits>
-#include <vector>
+#include <optional>
 
 namespace qor {
 
 namespace {
 
-// Storage of exactly the declared type; a Variant parameter keeps its value wrapped.
-QVariant storageFor(const QVariant &value, QMetaType type)
+constexpr qsizetype usualArgumentCount = 8;
+
+// The user's settings, asked of the platform only when a conversion needs them.
+class LazySettings
+{
+public:
+    const RegionalSettings &get()
+    {
+        if (!m_settings)
+            m_settings = platform().regionalSettings();
+        return *m_settings;
+    }
+
+private:
+    std::optional<RegionalSettings> m_settings;
+};
+
+// A value in exactly the declared type, converted by the one rule of automation
+// calls (coerceTo); a Variant parameter keeps the value wrapped.
+QVariant storageFor(const QVariant &value, QMetaType type, LazySettings &settings)
 {
     if (type.id() == QMetaType::QVariant)
         return QVariant(type, &value);
     if (value.metaType() == type)
         return value;
+    QVariant converted = coerceTo(value, type, settings.get());
     // The call reads the slot as the declared type, so nothing else may sit there.
-    QVariant converted = value;
-    if (!converted.convert(type))
+    if (converted.metaType() != type)
         throw RuntimeError::typeMismatch();
     return converted;
 }
@@ -59,46 +75,42 @@ QVariant LateBinding::callMethod(const MethodInfo &method, QVariantList &args) c
 {
     if (args.size() > method.parameters.size())
         throw RuntimeError::wrongArgumentCount();
-    const RegionalSettings rs = platform().regionalSettings();
-    std::vector<QVariant> storage;
+    LazySettings settings;
+    QVarLengthArray<QVariant, usualArgumentCount> storage;
     storage.reserve(method.parameters.size());
     for (int i = 0; i < method.parameters.size(); ++i) {
         const ParameterInfo &param = method.parameters[i];
         const bool supplied = i < args.size() && !isMissing(args[i]);
-        QVariant value;
         if (supplied)
-            value = coerceTo(args[i], param.metaType, rs);
+            storage.append(storageFor(args[i], param.metaType, settings));
         else if (!param.optional)
             throw RuntimeError::argumentNotOptional();
         else if (param.defaultValue.isValid())
-            value = param.defaultValue;
+            storage.append(storageFor(param.defaultValue, param.metaType, settings));
         else if (param.metaType.id() != QMetaType::QVariant)
-            value = QVariant(param.metaType, nullptr);
-        else
-            value = missingVariant(); // an optional Variant without default: IsMissing
-        storage.push_back(storageFor(value, param.metaType));
+            storage.append(QVariant(param.metaType, nullptr));
+        else // an optional Variant without default: IsMissing
+            storage.append(storageFor(missingVariant(), param.metaType, settings));
     }
     const QMetaMethod meta = m_object->metaObject()->method(method.methodIndex);
     QVariant result;
     if (meta.returnMetaType().id() != QMetaType::Void)
         result = QVariant(meta.returnMetaType(), nullptr);
-    std::vector<void *> argv;
-    argv.push_back(result.isValid() ? result.data() : nullptr);
+    QVarLengthArray<void *, usualArgumentCount + 1> argv;
+    argv.append(result.isValid() ? result.data() : nullptr);
     for (QVariant &slot : storage)
-        argv.push_back(slot.data());
+        argv.append(slot.data());
     m_object->qt_metacall(QMetaObject::InvokeMetaMethod, method.methodIndex, argv.data());
     for (int i = 0; i < args.size(); ++i) {
         if (method.parameters[i].byRef && !isMissing(args[i]))
-            args[i] = unwrap(storage[size_t(i)]);
+            args[i] = unwrap(storage[i]);
     }
     return result.isValid() ? unwrap(result) : QVariant();
 }
 
 QVariant LateBinding::accessProperty(const PropertyInfo &property, QVariantList &args) const
 {
-    const QByteArray name = property.name.toLatin1();
-    const QMetaProperty meta
-        = m_object->metaObject()->property(m_object->metaObject()->indexOfProperty(name));
+    const QMetaProperty meta = m_object->metaObject()->property(property.propertyIndex);
     if (args.isEmpty())
         return unwrap(meta.read(m_object));
     if (args.size() > 1)

@@ -6,6 +6,7 @@
 #include <QMetaEnum>
 #include <QMetaMethod>
 #include <QMetaProperty>
+#include <QVarLengthArray>
 
 namespace qor {
 
@@ -48,6 +49,7 @@ TypeLibrary::TypeLibrary(const QMetaObject *cls, const QList<const QMetaObject *
         readEnums(scope);
     for (const QMetaObject *record : records)
         readRecord(record);
+    indexNames();
 }
 
 QString TypeLibrary::typeName(QMetaType type)
@@ -133,7 +135,7 @@ void TypeLibrary::readProperties(const QMetaObject *cls)
     for (int i = cls->propertyOffset(); i < cls->propertyCount(); ++i) {
         const QMetaProperty property = cls->property(i);
         m_properties.append(
-            { QString::fromLatin1(property.name()), typeName(property.metaType()) });
+            { QString::fromLatin1(property.name()), typeName(property.metaType()), i });
     }
 }
 
@@ -161,22 +163,55 @@ void TypeLibrary::readRecord(const QMetaObject *record)
     m_records.append(info);
 }
 
+namespace {
+
+// A name folded to one case, in a buffer on the stack for the usual short names.
+class FoldedName
+{
+public:
+    explicit FoldedName(const QString &name)
+    {
+        m_text.resize(name.size());
+        for (qsizetype i = 0; i < name.size(); ++i) {
+            const char16_t c = name[i].unicode();
+            m_text[i] = c < 0x80 ? (c >= u'A' && c <= u'Z' ? char16_t(c + 32) : c)
+                                 : QChar(c).toCaseFolded().unicode();
+        }
+    }
+    std::u16string_view view() const { return { m_text.constData(), size_t(m_text.size()) }; }
+
+private:
+    QVarLengthArray<char16_t, 64> m_text;
+};
+
+} // namespace
+
+void TypeLibrary::indexNames()
+{
+    // The first of two names that differ only in case wins, as a scan would find it.
+    for (qsizetype i = 0; i < m_methods.size(); ++i)
+        m_methodIndex.emplace(std::u16string(FoldedName(m_methods[i].name).view()), i);
+    for (qsizetype i = 0; i < m_properties.size(); ++i)
+        m_propertyIndex.emplace(std::u16string(FoldedName(m_properties[i].name).view()), i);
+}
+
+qsizetype TypeLibrary::lookUp(const NameIndex &index, const QString &name)
+{
+    const FoldedName folded(name);
+    const auto it = index.find(folded.view());
+    return it == index.end() ? -1 : it->second;
+}
+
 const MethodInfo *TypeLibrary::findMethod(const QString &name) const
 {
-    for (const MethodInfo &method : m_methods) {
-        if (method.name.compare(name, Qt::CaseInsensitive) == 0)
-            return &method;
-    }
-    return nullptr;
+    const qsizetype i = lookUp(m_methodIndex, name);
+    return i < 0 ? nullptr : &m_methods[i];
 }
 
 const PropertyInfo *TypeLibrary::findProperty(const QString &name) const
 {
-    for (const PropertyInfo &property : m_properties) {
-        if (property.name.compare(name, Qt::CaseInsensitive) == 0)
-            return &property;
-    }
-    return nullptr;
+    const qsizetype i = lookUp(m_propertyIndex, name);
+    return i < 0 ? nullptr : &m_properties[i];
 }
 
 const EnumInfo *TypeLibrary::findEnumeration(const QString &name) const

@@ -8,6 +8,9 @@
 #include <QVariant>
 
 #include <optional>
+#include <string>
+#include <string_view>
+#include <unordered_map>
 
 namespace qor {
 
@@ -34,6 +37,7 @@ struct QORGENLIB_EXPORT PropertyInfo
 {
     QString name;
     QString type;
+    int propertyIndex = -1; // in the class's meta-object; -1 for a record field
 };
 
 struct QORGENLIB_EXPORT EnumMemberInfo
@@ -91,6 +95,21 @@ private:
     QList<PropertyInfo> m_properties;
     QList<EnumInfo> m_enums;
     QList<RecordInfo> m_records;
+
+    // Case-folded names to their place in m_methods and m_properties.
+    struct NameHash
+    {
+        using is_transparent = void;
+        size_t operator()(std::u16string_view name) const
+        {
+            return std::hash<std::u16string_view>()(name);
+        }
+    };
+    using NameIndex = std::unordered_map<std::u16string, qsizetype, NameHash, std::equal_to<>>;
+    void indexNames();
+    static qsizetype lookUp(const NameIndex &index, const QString &name);
+    NameIndex m_methodIndex;
+    NameIndex m_propertyIndex;
 };
 
 } // namespace qor

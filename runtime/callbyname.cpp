@@ -1,6 +1,7 @@
 #include "runtime/callbyname.h"
 
 #include "runtime/coercion.h"
+#include "runtime/propertybag.h"
 #include "runtime/runtimeerror.h"
 
 #include <QMetaMethod>
@@ -17,6 +18,11 @@ QObject *requireObject(QObject *object)
     return object;
 }
 
+PropertyBag *bagOf(QObject *object)
+{
+    return dynamic_cast<PropertyBag *>(object);
+}
+
 } // namespace
 
 QByteArray propertyNameOf(QObject *object, const char *name)
@@ -24,6 +30,11 @@ QByteArray propertyNameOf(QObject *object, const char *name)
     const QMetaObject *meta = object->metaObject();
     if (meta->indexOfProperty(name) >= 0)
         return QByteArray(name);
+    if (const PropertyBag *bag = bagOf(object)) {
+        const QString known = bag->bagName(QString::fromUtf8(name));
+        if (!known.isEmpty())
+            return known.toUtf8();
+    }
     const QList<QByteArray> dynamic = object->dynamicPropertyNames();
     if (dynamic.contains(QByteArray(name)))
         return QByteArray(name);
@@ -48,6 +59,12 @@ QVariant getProperty(QObject *object, const char *name)
     const QByteArray resolved = propertyNameOf(requireObject(object), name);
     if (resolved.isEmpty())
         throw RuntimeError::notSupportedByObject();
+    if (object->metaObject()->indexOfProperty(resolved.constData()) < 0) {
+        if (const PropertyBag *bag = bagOf(object)) {
+            if (const QVariant *value = bag->bagValue(QString::fromUtf8(resolved)))
+                return *value;
+        }
+    }
     return object->property(resolved.constData());
 }
 
@@ -66,10 +83,17 @@ void setProperty(
             throw RuntimeError::propertyReadOnly(QLatin1String(name));
         return;
     }
+    if (PropertyBag *bag = bagOf(object)) {
+        if (bag->bagValue(QString::fromUtf8(resolved))) {
+            bag->bagAssign(QString::fromUtf8(resolved), value);
+            return;
+        }
+    }
     object->setProperty(resolved.constData(), value);
 }
 
-QVariant callOperation(QObject *object, const char *name, const QVariantList &args)
+QVariant callOperation(
+    QObject *object, const char *name, const QVariantList &args, const RegionalSettings &rs)
 {
     const QMetaObject *meta = requireObject(object)->metaObject();
     constexpr int maxArguments = 4;
@@ -89,8 +113,8 @@ QVariant callOperation(QObject *object, const char *name, const QVariantList &ar
             const QMetaType type = method.parameterMetaType(a);
             if (type.id() == QMetaType::QVariant)
                 converted[a] = QVariant(type, &args[a]);
-            else if (!converted[a].convert(type))
-                throw RuntimeError::typeMismatch();
+            else
+                converted[a] = coerceTo(args[a], type, rs);
             typeNames.append(method.parameterTypeName(a));
             generic[a] = QGenericArgument(typeNames.last().constData(), converted[a].constData());
         }

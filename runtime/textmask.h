@@ -17,10 +17,18 @@ public:
     explicit TextMask(const QString &pattern);
 
     QString apply(QString text) const;
+    // The same into storage kept by the caller: its buffer is reused when large
+    // enough, so applying a mask to many texts allocates nothing.
+    void applyTo(QStringView text, QString &out) const;
 
 private:
+    void applyExact(QStringView text, QString &out) const;
+    void fillSlots(QStringView text, QString &out) const;
+
     QString m_literalsAndSlots; // NUL marks a placeholder
     std::vector<bool> m_blankSlot; // '@' shows a blank when empty, '&' nothing
+    std::vector<qsizetype> m_slotPositions; // of the placeholders in m_literalsAndSlots
+    bool m_anyBlankSlot = false;
     bool m_leftToRight = false;
     int m_caseChange = 0; // -1 lower, 1 upper
 };

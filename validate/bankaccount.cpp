@@ -1,25 +1,31 @@
 #include "validate/bankaccount.h"
 
-#include "input/textfilters.h"
 #include "runtime/textmask.h"
 #include "validate/checktext.h"
 
 namespace qor {
 
-CheckResult checkBankAccount(QString &bankNr)
+Verdict checkBankAccount(QString &bankNr, QString &display)
 {
     if (isBlank(bankNr))
-        return CheckResult::skipped();
-    bankNr = filterNumeric(bankNr);
+        return nothingShown(display, Verdict::Skipped);
+    keepDigits(bankNr);
     // The program tests for twelve digits but lets the check digits decide, so
-    // numbers of other lengths are accepted when they add up.
-    double remainder = remainder97(digitsValue(leftPart(bankNr, 10)));
+    // numbers of other lengths are accepted when they add up. Ten digits are
+    // exact in double precision, so the remainder is the whole-number one.
+    qint64 remainder = digitsNumber(leftPart(bankNr, 10)) % 97;
     if (remainder == 0)
         remainder = 97;
-    if (digitsValue(rightPart(bankNr, 2)) != remainder)
-        return CheckResult::wrong();
+    if (digitsNumber(rightPart(bankNr, 2)) != remainder)
+        return nothingShown(display, Verdict::Refused);
     static const TextMask notation(QStringLiteral("&&&\\-&&&&&&&\\-&&"));
-    return CheckResult::accepted(notation.apply(bankNr));
+    notation.applyTo(bankNr, display);
+    return Verdict::Accepted;
+}
+
+CheckResult checkBankAccount(QString &bankNr)
+{
+    return checkResultOf([&](QString &display) { return checkBankAccount(bankNr, display); });
 }
 
 } // namespace qor

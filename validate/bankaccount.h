@@ -9,5 +9,8 @@ namespace qor {
 // its digits in place. The length is never enforced: any digit string whose
 // first ten digits modulo 97 (0 counting as 97) equal its last two passes.
 CheckResult checkBankAccount(QString &bankNr);
+// The same with the display notation written into the caller's storage
+// (emptied when the number is blank or refused).
+Verdict checkBankAccount(QString &bankNr, QString &display);
 
 } // namespace qor

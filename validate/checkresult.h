@@ -4,6 +4,15 @@
 
 namespace qor {
 
+// What an identifier check decided.
+enum class Verdict {
+    // Blank input: nothing checked, nothing to report.
+    Skipped,
+    Accepted,
+    // The number was checked and found wrong: the case a user is told about.
+    Refused,
+};
+
 // The outcome of an identifier check. The checked text itself is cleaned in the
 // caller's variable, as the library's methods do.
 struct CheckResult
@@ -18,5 +27,14 @@ struct CheckResult
     // Blank input: nothing checked, nothing to report.
     static CheckResult skipped() { return {}; }
 };
+
+// The result of a check that writes its display text into storage the caller
+// keeps from one check to the next.
+template <typename Check> CheckResult checkResultOf(Check check)
+{
+    CheckResult result;
+    result.refused = check(result.display) == Verdict::Refused;
+    return result;
+}
 
 } // namespace qor

@@ -1,14 +1,18 @@
 #pragma once
 
+#include "validate/checkresult.h"
+
 #include <QString>
 #include <QStringView>
+
+#include <cmath>
 
 namespace qor {
 
 // Small text helpers shared by the identifier checks.
 
 // Trim(text) is empty: only blanks (character 32) are trimmed.
-bool isBlank(const QString &text);
+bool isBlank(QStringView text);
 
 // Left(text, n) and Right(text, n), without copying.
 QStringView leftPart(QStringView text, qsizetype n);
@@ -20,7 +24,29 @@ bool isAsciiDigits(QStringView text);
 // value, 0 for an empty text. Exact for up to fifteen digits.
 double digitsValue(QStringView digits);
 
+// The value of a text of at most fifteen plain digits as a whole number: the
+// same number digitsValue gives, as an integer.
+qint64 digitsNumber(QStringView digits);
+
 // value - Int(value / 97) * 97, in double precision as the checks compute it.
-double remainder97(double value);
+inline double remainder97(double value)
+{
+    return value - std::floor(value / 97) * 97;
+}
+
+// FilterNumeric in place: only the digits 0 to 9 stay. A text that already is
+// all digits is left untouched (and not copied when shared).
+void keepDigits(QString &text);
+
+// storage = text, reusing the storage's buffer when it is large enough.
+void assignText(QString &storage, QStringView text);
+
+// The display of a number that is not shown: emptied, keeping its buffer. The
+// checks empty it only on the way out, as an accepted number overwrites it anyway.
+inline Verdict nothingShown(QString &display, Verdict verdict)
+{
+    display.resize(0);
+    return verdict;
+}
 
 } // namespace qor

@@ -18,19 +18,28 @@ double partValue(QStringView part, const RegionalSettings &rs)
 
 } // namespace
 
-CheckResult checkIdentityCard(QString &identNr, const RegionalSettings &rs)
+Verdict checkIdentityCard(QString &identNr, const RegionalSettings &rs, QString &display)
 {
+    display.resize(0);
     if (isBlank(identNr))
-        return CheckResult::skipped();
+        return Verdict::Skipped;
     if (identNr.size() != 12)
-        return CheckResult::wrong();
+        return Verdict::Refused;
     // The card number is kept with check digits "00" for a remainder of 0.
-    if (identNr.endsWith(QLatin1String("97")))
-        identNr = identNr.left(10) + QStringLiteral("00");
+    if (identNr.endsWith(QLatin1String("97"))) {
+        identNr[10] = QLatin1Char('0');
+        identNr[11] = QLatin1Char('0');
+    }
     const double remainder = remainder97(partValue(leftPart(identNr, 10), rs));
     if (partValue(rightPart(identNr, 2), rs) != remainder)
-        return CheckResult::wrong();
-    return CheckResult::accepted(identNr);
+        return Verdict::Refused;
+    assignText(display, identNr);
+    return Verdict::Accepted;
+}
+
+CheckResult checkIdentityCard(QString &identNr, const RegionalSettings &rs)
+{
+    return checkResultOf([&](QString &display) { return checkIdentityCard(identNr, rs, display); });
 }
 
 } // namespace qor

@@ -14,5 +14,7 @@ namespace qor {
 // A refused number may still be accepted by the user as a foreign card; that
 // choice is the caller's.
 CheckResult checkIdentityCard(QString &identNr, const RegionalSettings &rs);
+// The same with the accepted number written into the caller's storage.
+Verdict checkIdentityCard(QString &identNr, const RegionalSettings &rs, QString &display);
 
 } // namespace qor

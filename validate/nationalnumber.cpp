@@ -1,6 +1,5 @@
 #include "validate/nationalnumber.h"
 
-#include "input/textfilters.h"
 #include "runtime/textmask.h"
 #include "validate/checktext.h"
 
@@ -17,21 +16,30 @@ qint32 checkFrom2000(qint32 checkBefore2000)
 
 } // namespace
 
+Verdict checkNationalNumber(QString &natNr, const QString &landCode, QString &display)
+{
+    if (!landCode.isEmpty() && landCode != QLatin1String("BE")) {
+        assignText(display, natNr);
+        return Verdict::Accepted;
+    }
+    if (isBlank(natNr))
+        return nothingShown(display, Verdict::Skipped);
+    keepDigits(natNr);
+    // Nine digits always fit in 32 bits.
+    const qint32 firstPart = qint32(digitsNumber(leftPart(natNr, 9)));
+    const qint32 check = 97 - firstPart % 97;
+    const qint32 given = qint32(digitsNumber(rightPart(natNr, 2)));
+    if (given != check && given != checkFrom2000(check))
+        return nothingShown(display, Verdict::Refused);
+    static const TextMask notation(QStringLiteral("&&&&&&\\.&&&\\.&&"));
+    notation.applyTo(natNr, display);
+    return Verdict::Accepted;
+}
+
 CheckResult checkNationalNumber(QString &natNr, const QString &landCode)
 {
-    if (!landCode.isEmpty() && landCode != QLatin1String("BE"))
-        return CheckResult::accepted(natNr);
-    if (isBlank(natNr))
-        return CheckResult::skipped();
-    natNr = filterNumeric(natNr);
-    // Nine digits always fit in 32 bits.
-    const qint32 firstPart = qint32(digitsValue(leftPart(natNr, 9)));
-    const qint32 check = 97 - firstPart % 97;
-    const double given = digitsValue(rightPart(natNr, 2));
-    if (given != check && given != checkFrom2000(check))
-        return CheckResult::wrong();
-    static const TextMask notation(QStringLiteral("&&&&&&\\.&&&\\.&&"));
-    return CheckResult::accepted(notation.apply(natNr));
+    return checkResultOf(
+        [&](QString &display) { return checkNationalNumber(natNr, landCode, display); });
 }
 
 } // namespace qor

@@ -13,5 +13,7 @@ namespace qor {
 // non-blank number is reduced to its digits in place; the length is not
 // enforced.
 CheckResult checkNationalNumber(QString &natNr, const QString &landCode = QString());
+// The same with the display notation written into the caller's storage.
+Verdict checkNationalNumber(QString &natNr, const QString &landCode, QString &display);
 
 } // namespace qor

@@ -1,10 +1,7 @@
 #include "validate/paymentreference.h"
 
-#include "input/textfilters.h"
 #include "runtime/conversion.h"
 #include "validate/checktext.h"
-
-#include <array>
 
 namespace qor {
 
@@ -13,28 +10,41 @@ namespace {
 constexpr qsizetype referenceDigits = 10;
 
 // Twelve digits in the form 000/0000/00000.
-QString ogmNotation(QStringView twelveDigits)
+void writeOgmNotation(const char16_t *twelveDigits, QString &out)
 {
-    QString out;
-    out.reserve(14);
-    out.append(twelveDigits.first(3)).append(QLatin1Char('/'));
-    out.append(twelveDigits.sliced(3, 4)).append(QLatin1Char('/'));
-    return out.append(twelveDigits.sliced(7));
+    out.resize(14);
+    char16_t *write = reinterpret_cast<char16_t *>(out.data());
+    write = std::copy(twelveDigits, twelveDigits + 3, write);
+    *write++ = u'/';
+    write = std::copy(twelveDigits + 3, twelveDigits + 7, write);
+    *write++ = u'/';
+    std::copy(twelveDigits + 7, twelveDigits + 12, write);
 }
 
 // The reference zero-padded to ten digits followed by the two check digits: what
 // the masks "000\/0000\/000" and "00" write side by side.
-std::array<char16_t, 12> referenceDigitsWithCheck(qint64 value, qint64 check)
+void writeReferenceDigitsWithCheck(qint64 value, qint64 check, char16_t (&digits)[12])
 {
-    std::array<char16_t, 12> digits;
     for (int i = 11; i >= 10; --i, check /= 10)
-        digits[size_t(i)] = char16_t(u'0' + check % 10);
+        digits[i] = char16_t(u'0' + check % 10);
     for (int i = 9; i >= 0; --i, value /= 10)
-        digits[size_t(i)] = char16_t(u'0' + value % 10);
-    return digits;
+        digits[i] = char16_t(u'0' + value % 10);
 }
 
-bool checkDigitsMatch(const QString &twelveDigits)
+// The number in decimal without leading zeros, as Str(CGetal(text)) writes it.
+void writeNumber(qint64 value, QString &out)
+{
+    char16_t buffer[20];
+    char16_t *end = buffer + 20;
+    char16_t *begin = end;
+    do {
+        *--begin = char16_t(u'0' + value % 10);
+        value /= 10;
+    } while (value > 0);
+    assignText(out, QStringView(begin, end));
+}
+
+bool checkDigitsMatch(QStringView twelveDigits)
 {
     const double firstPart = digitsValue(leftPart(twelveDigits, 10));
     const double check = digitsValue(rightPart(twelveDigits, 2));
@@ -42,34 +52,60 @@ bool checkDigitsMatch(const QString &twelveDigits)
     return check == firstPart - 97.0 * vbIntDiv(firstPart, 97);
 }
 
+// The digits of text, copied into storage.
+void copyDigits(QStringView text, QString &digits)
+{
+    digits.resize(text.size());
+    char16_t *write = reinterpret_cast<char16_t *>(digits.data());
+    char16_t *const start = write;
+    for (QChar c : text) {
+        if (c >= QLatin1Char('0') && c <= QLatin1Char('9'))
+            *write++ = c.unicode();
+    }
+    digits.resize(write - start);
+}
+
 } // namespace
+
+bool makePaymentReference(QString &referentieNummer, QString &digits, QString &ogm)
+{
+    copyDigits(referentieNummer, digits);
+    // Padded on the left or cut to the last ten digits.
+    const qint64 value = qint64(digitsValue(rightPart(digits, referenceDigits)));
+    // The variable is read back as a number, which drops the leading zeros.
+    writeNumber(value, referentieNummer);
+    const double remainder = remainder97(double(value));
+    const qint64 check = remainder == 0 ? 97 : qint64(remainder);
+    char16_t twelveDigits[12];
+    writeReferenceDigitsWithCheck(value, check, twelveDigits);
+    writeOgmNotation(twelveDigits, ogm);
+    return digits.size() > referenceDigits;
+}
 
 PaymentReference makePaymentReference(QString &referentieNummer)
 {
     PaymentReference made;
-    made.digits = filterNumeric(referentieNummer);
-    made.tooLong = made.digits.size() > referenceDigits;
-    // Padded on the left or cut to the last ten digits.
-    const qint64 value = qint64(digitsValue(rightPart(made.digits, referenceDigits)));
-    // The variable is read back as a number, which drops the leading zeros.
-    referentieNummer = QString::number(value);
-    const double remainder = remainder97(double(value));
-    const qint64 check = remainder == 0 ? 97 : qint64(remainder);
-    const std::array<char16_t, 12> digits = referenceDigitsWithCheck(value, check);
-    made.ogm = ogmNotation(QStringView(digits.data(), digits.size()));
+    made.tooLong = makePaymentReference(referentieNummer, made.digits, made.ogm);
     return made;
+}
+
+Verdict checkPaymentReference(QString &ogm, QString &display)
+{
+    display.resize(0);
+    if (isBlank(ogm))
+        return Verdict::Skipped;
+    keepDigits(ogm);
+    if (ogm.size() != 12 || !checkDigitsMatch(ogm))
+        ogm.clear();
+    if (ogm.isEmpty())
+        return Verdict::Refused;
+    writeOgmNotation(reinterpret_cast<const char16_t *>(ogm.constData()), display);
+    return Verdict::Accepted;
 }
 
 CheckResult checkPaymentReference(QString &ogm)
 {
-    if (isBlank(ogm))
-        return CheckResult::skipped();
-    ogm = filterNumeric(ogm);
-    if (ogm.size() != 12 || !checkDigitsMatch(ogm))
-        ogm.clear();
-    if (ogm.isEmpty())
-        return CheckResult::wrong();
-    return CheckResult::accepted(ogmNotation(ogm));
+    return checkResultOf([&](QString &display) { return checkPaymentReference(ogm, display); });
 }
 
 } // namespace qor

@@ -20,6 +20,9 @@ struct PaymentReference
 // The reference number is rewritten in place to the number used, without
 // leading zeros.
 PaymentReference makePaymentReference(QString &referentieNummer);
+// The same into storage kept by the caller; true when the reference had more
+// than ten digits.
+bool makePaymentReference(QString &referentieNummer, QString &digits, QString &ogm);
 
 // Checks a structured reference as typed (with or without +++, slashes, blanks)
 // and returns it as 000/0000/00000. The text is reduced to its digits in place,
@@ -29,5 +32,7 @@ PaymentReference makePaymentReference(QString &referentieNummer);
 // The check divides the first ten digits as a 32-bit integer: a first part
 // above 2147483647 throws RuntimeError 6 (Overflow), after the text was cleaned.
 CheckResult checkPaymentReference(QString &ogm);
+// The same with the display notation written into the caller's storage.
+Verdict checkPaymentReference(QString &ogm, QString &display);
 
 } // namespace qor

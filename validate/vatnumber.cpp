@@ -1,30 +1,40 @@
 #include "validate/vatnumber.h"
 
-#include "input/textfilters.h"
 #include "runtime/textmask.h"
 #include "validate/checktext.h"
 
 namespace qor {
 
-CheckResult checkVatNumber(QString &vatNr, QString &landCode)
+Verdict checkVatNumber(QString &vatNr, QString &landCode, QString &display)
 {
     if (isBlank(vatNr))
-        return CheckResult::skipped();
+        return nothingShown(display, Verdict::Skipped);
     if (landCode.isEmpty())
         landCode = QStringLiteral("BE");
-    if (landCode != QLatin1String("BE"))
-        return CheckResult::accepted(vatNr);
+    if (landCode != QLatin1String("BE")) {
+        assignText(display, vatNr);
+        return Verdict::Accepted;
+    }
     // A deliberate "0" stands for a number that is known to be absent.
-    if (vatNr == QLatin1String("0"))
-        return CheckResult::accepted(QStringLiteral("0000.000.000"));
-    vatNr = filterNumeric(vatNr);
+    if (vatNr == QLatin1String("0")) {
+        assignText(display, u"0000.000.000");
+        return Verdict::Accepted;
+    }
+    keepDigits(vatNr);
     // Eight digits always fit in 32 bits.
-    const qint32 firstPart = qint32(digitsValue(leftPart(vatNr, 8)));
+    const qint32 firstPart = qint32(digitsNumber(leftPart(vatNr, 8)));
     const qint32 check = 97 - firstPart % 97;
-    if (digitsValue(rightPart(vatNr, 2)) != check)
-        return CheckResult::wrong();
+    if (digitsNumber(rightPart(vatNr, 2)) != check)
+        return nothingShown(display, Verdict::Refused);
     static const TextMask notation(QStringLiteral("&&&&\\.&&&\\.&&&"));
-    return CheckResult::accepted(notation.apply(vatNr));
+    notation.applyTo(vatNr, display);
+    return Verdict::Accepted;
+}
+
+CheckResult checkVatNumber(QString &vatNr, QString &landCode)
+{
+    return checkResultOf(
+        [&](QString &display) { return checkVatNumber(vatNr, landCode, display); });
 }
 
 } // namespace qor

@@ -12,5 +12,7 @@ namespace qor {
 // "0000.000.000" without a check. Otherwise the number is reduced to its
 // digits in place; its length is never tested.
 CheckResult checkVatNumber(QString &vatNr, QString &landCode);
+// The same with the display notation written into the caller's storage.
+Verdict checkVatNumber(QString &vatNr, QString &landCode, QString &display);
 
 } // namespace qor

@@ -2,60 +2,44 @@
 
 #include "lib/frame/modgenlib.h"
 
-#include <QFile>
-#include <QHash>
-#include <QJsonDocument>
-#include <QJsonObject>
-
-static void initCatalogueResource()
-{
-    Q_INIT_RESOURCE(catalogue);
-}
+#include <algorithm>
+#include <iterator>
 
 namespace qor {
 
 namespace {
 
-struct LanguageFile
+struct Entry
 {
-    qint64 offset;
-    const char *name;
+    qint64 id;
+    const char16_t *text;
+    qsizetype length;
 };
 
-constexpr LanguageFile languageFiles[] = {
-    { 0, "nl" },
-    { 10000, "fr" },
-    { 20000, "en" },
-    { 30000, "de" },
-    { 40000, "es" },
-    { 50000, "it" },
+#define QOR_CATALOGUE_ENTRY(id, text) { id, u"" text, std::size(u"" text) - 1 },
+
+// Every text of every language, sorted by id, compiled in from the catalogue files.
+constexpr Entry entries[] = {
+#include "cataloguetable.inc"
 };
 
-QHash<qint64, QString> loadAll()
+#undef QOR_CATALOGUE_ENTRY
+
+static_assert(std::is_sorted(std::begin(entries), std::end(entries),
+                  [](const Entry &a, const Entry &b) { return a.id < b.id; }),
+    "the catalogue table is sorted by id");
+
+const Entry *find(qint64 id)
 {
-    initCatalogueResource();
-    QHash<qint64, QString> texts;
-    for (const auto &language : languageFiles) {
-        QFile file(
-            QStringLiteral(":/qorgenlib/catalogue/%1.json").arg(QLatin1String(language.name)));
-        if (!file.open(QIODevice::ReadOnly))
-            continue;
-        const QJsonObject entries = QJsonDocument::fromJson(file.readAll()).object();
-        for (auto it = entries.begin(); it != entries.end(); ++it) {
-            bool ok = false;
-            const qint64 baseId = it.key().toLongLong(&ok);
-            if (ok)
-                texts.insert(baseId + language.offset, it.value().toString());
-        }
-    }
-    return texts;
+    const Entry *it = std::lower_bound(std::begin(entries), std::end(entries), id,
+        [](const Entry &entry, qint64 wanted) { return entry.id < wanted; });
+    return it != std::end(entries) && it->id == id ? it : nullptr;
 }
 
-// Read once, shared read-only by every thread.
-const QHash<qint64, QString> &allTexts()
+// The text without a copy: the table lives as long as the program.
+QString textOf(const Entry &entry)
 {
-    static const QHash<qint64, QString> texts = loadAll();
-    return texts;
+    return QString::fromRawData(reinterpret_cast<const QChar *>(entry.text), entry.length);
 }
 
 QString marker(const char *prefix, qint64 id)
@@ -67,33 +51,32 @@ QString marker(const char *prefix, qint64 id)
 
 std::optional<QString> Catalogue::text(qint64 id)
 {
-    const auto &texts = allTexts();
-    const auto it = texts.constFind(id);
-    if (it == texts.constEnd())
-        return std::nullopt;
-    return *it;
+    if (const Entry *entry = find(id))
+        return textOf(*entry);
+    return std::nullopt;
 }
 
 int Catalogue::count(qint64 from, qint64 to)
 {
-    int n = 0;
-    for (auto it = allTexts().begin(); it != allTexts().end(); ++it) {
-        if (it.key() >= from && it.key() <= to)
-            ++n;
-    }
-    return n;
+    return int(std::count_if(std::begin(entries), std::end(entries),
+        [&](const Entry &entry) { return entry.id >= from && entry.id <= to; }));
 }
 
 QString Catalogue::llGenLib(qint32 id)
 {
-    return text(id).value_or(marker("LLGenLib", id));
+    // The marker is built only for a text that is missing.
+    if (const Entry *entry = find(id))
+        return textOf(*entry);
+    return marker("LLGenLib", id);
 }
 
 QString Catalogue::load(qint32 baseId)
 {
     // An id beyond the Long range cannot name a text; it shows as its marker.
     const qint64 id = qint64(baseId) + modGenLib().languageOffset;
-    return text(id).value_or(marker("LL", id));
+    if (const Entry *entry = find(id))
+        return textOf(*entry);
+    return marker("LL", id);
 }
 
 } // namespace qor

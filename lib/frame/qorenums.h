@@ -12,7 +12,7 @@
 namespace qorGenLib {
 Q_NAMESPACE_EXPORT(QORGENLIB_EXPORT)
 
-enum OstEenheid {
+enum OstEenheid : qint32 {
     ehKubiekeMeter = 1,
     ehKilogram = 2,
     ehTon = 3,
@@ -29,7 +29,7 @@ enum OstEenheid {
 };
 Q_ENUM_NS(OstEenheid)
 
-enum TranslateEnum {
+enum TranslateEnum : qint32 {
     ttlBoolean = 0,
     ttlDFM = 1,
     ttlDocument = 2,
@@ -42,14 +42,14 @@ enum TranslateEnum {
 };
 Q_ENUM_NS(TranslateEnum)
 
-enum NotFoundIndexType {
+enum NotFoundIndexType : qint32 {
     SetListIndexMinusOne = -1,
     SetListIndexLineZero = 0,
     SetListIndexUnchanged = 99,
 };
 Q_ENUM_NS(NotFoundIndexType)
 
-enum OstSortOrder {
+enum OstSortOrder : qint32 {
     soNumeric = 1,
     soNumericRev = 2,
     soAlphabetic = 3,
@@ -59,7 +59,7 @@ enum OstSortOrder {
 };
 Q_ENUM_NS(OstSortOrder)
 
-enum OstBetalingswijze {
+enum OstBetalingswijze : qint32 {
     btKasticket = 20,
     btAdminFactuur = 21,
     btZero = 0,
@@ -99,7 +99,7 @@ enum OstBetalingswijze {
 };
 Q_ENUM_NS(OstBetalingswijze)
 
-enum OstSpecificIcon {
+enum OstSpecificIcon : qint32 {
     spiDefault = 0,
     spiDis = 2000,
     spiGrey = 1000,
@@ -110,7 +110,7 @@ enum OstSpecificIcon {
 };
 Q_ENUM_NS(OstSpecificIcon)
 
-enum OstPrintStyles {
+enum OstPrintStyles : qint32 {
     vbPrStyleNormal = 0,
     vbPrStyleTitle = 1,
     vbPrStyleSubTitle = 2,
@@ -121,7 +121,7 @@ enum OstPrintStyles {
 };
 Q_ENUM_NS(OstPrintStyles)
 
-enum OstPrFormat {
+enum OstPrFormat : qint32 {
     vbPrStr = 0,
     vbPrNum = 1,
     vbPrNumD = 2,
@@ -146,21 +146,21 @@ enum OstPrFormat {
 };
 Q_ENUM_NS(OstPrFormat)
 
-enum OstLogoLayout {
+enum OstLogoLayout : qint32 {
     vbPrLogoLeftUpper = 0,
     vbPrLogoRightUpper = 1,
     vbPrLogoCenterLarge = 2,
 };
 Q_ENUM_NS(OstLogoLayout)
 
-enum OstLabelForm {
+enum OstLabelForm : qint32 {
     posFormNone = 0,
     posFormPopUp = 1,
     posFormOKCancel = 2,
 };
 Q_ENUM_NS(OstLabelForm)
 
-enum OstLabelOrient {
+enum OstLabelOrient : qint32 {
     posNoRotation = 0,
     posRotate90 = 1,
     posRotate180 = 2,
@@ -168,7 +168,7 @@ enum OstLabelOrient {
 };
 Q_ENUM_NS(OstLabelOrient)
 
-enum OstLabelStyle {
+enum OstLabelStyle : qint32 {
     posNormal = 0,
     posReverse = 1,
     posHigh2x = 2,
@@ -178,7 +178,7 @@ enum OstLabelStyle {
 };
 Q_ENUM_NS(OstLabelStyle)
 
-enum OstLabelFontSize {
+enum OstLabelFontSize : qint32 {
     posFontSize1 = 1,
     posFontSize2 = 2,
     posFontSize3Normal = 3,
@@ -187,7 +187,7 @@ enum OstLabelFontSize {
 };
 Q_ENUM_NS(OstLabelFontSize)
 
-enum OstLabelFormat {
+enum OstLabelFormat : qint32 {
     posPrString = 0,
     posPrNumberLong = 1,
     posPrBarcodeNoHR = 2,
@@ -207,27 +207,27 @@ enum OstLabelFormat {
 };
 Q_ENUM_NS(OstLabelFormat)
 
-enum OstDisplayLine {
+enum OstDisplayLine : qint32 {
     posBothLines40 = 0,
     posUpperLine20 = 1,
     posLowerLine20 = 2,
 };
 Q_ENUM_NS(OstDisplayLine)
 
-enum OstDisplayClose {
+enum OstDisplayClose : qint32 {
     posHoldScreen = 0,
     posClearScreen = 1,
     posRunScrollText = 2,
 };
 Q_ENUM_NS(OstDisplayClose)
 
-enum FactGroupMode {
+enum FactGroupMode : qint32 {
     gmFactuurPerLeveringsbon = 0,
     gmFactuurPerKlant = 1,
 };
 Q_ENUM_NS(FactGroupMode)
 
-enum ModuleCol {
+enum ModuleCol : qint32 {
     mocModuleCode = 0,
     mocSubModuleCode = 1,
     mocLeveringsbonNr = 2,
@@ -249,14 +249,14 @@ enum ModuleCol {
 };
 Q_ENUM_NS(ModuleCol)
 
-enum OstSymbolType {
+enum OstSymbolType : qint32 {
     vbSymbolNone = 0,
     vbSymbolEUR = 1,
     vbSymbolEuro = 2,
 };
 Q_ENUM_NS(OstSymbolType)
 
-enum OstColors {
+enum OstColors : qint32 {
     vbGrey1 = 14737632,
     vbGrey = -2147483633,
     vbGrey4 = 8421504,
@@ -294,13 +294,13 @@ enum OstColors {
 };
 Q_ENUM_NS(OstColors)
 
-enum SpinUpDown {
+enum SpinUpDown : qint32 {
     SpinUp = 38,
     SpinDown = 40,
 };
 Q_ENUM_NS(SpinUpDown)
 
-enum IconList {
+enum IconList : qint32 {
     iccAfdrukken = 1,
     iccAfdrukkenPop = 2,
     iccAnn = 3,

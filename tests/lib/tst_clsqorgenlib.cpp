@@ -1,4 +1,6 @@
 #include "lib/clsqorgenlib.h"
+#include "platform/platform.h"
+#include "runtime/callbyname.h"
 #include "runtime/variant.h"
 
 #include "tests/common/errornumber.h"
@@ -93,6 +95,60 @@ private slots:
         const QVariant actual = lib.Invoke(name, args);
         QCOMPARE(varTypeName(actual), varTypeName(result));
         QCOMPARE(actual, result);
+    }
+
+    // An enumeration argument is a Long: any 32-bit value is taken, and a value
+    // the enumeration does not name adds no symbol.
+    void enumerationArgumentsTakeAnyLong_data()
+    {
+        QTest::addColumn<QVariant>("symbol");
+        QTest::addColumn<QString>("suffix");
+        // clang-format off
+        QTest::newRow("EUR") << QVariant(1) << " EUR";
+        QTest::newRow("euro sign") << QVariant(2) << QStringLiteral(" \u20AC");
+        QTest::newRow("beyond the members") << QVariant(7) << "";
+        QTest::newRow("negative") << QVariant(-1) << "";
+        QTest::newRow("True is -1") << QVariant(true) << "";
+        QTest::newRow("largest Long") << QVariant(2147483647) << "";
+        QTest::newRow("smallest Long") << QVariant(-2147483647 - 1) << "";
+        QTest::newRow("text of a member") << QVariant(QStringLiteral("1")) << " EUR";
+        QTest::newRow("a date") << QVariant(QDateTime(QDate(2004, 5, 20), QTime(0, 0))) << "";
+        // clang-format on
+    }
+    void enumerationArgumentsTakeAnyLong()
+    {
+        QFETCH(QVariant, symbol);
+        QFETCH(QString, suffix);
+        static_assert(std::is_same_v<std::underlying_type_t<qorGenLib::OstSymbolType>, qint32>);
+        static_assert(std::is_same_v<std::underlying_type_t<qorGenLib::OstColors>, qint32>);
+        clsqorGenLib lib;
+        const QString plain = lib.SetEuro(2, qorGenLib::vbSymbolNone);
+        QCOMPARE(lib.Invoke("SetEuro", { 2, symbol }).toString(), plain + suffix);
+    }
+
+    // A property takes a value by the same rule however it is assigned.
+    void propertyAssignmentsConvertAlike_data()
+    {
+        QTest::addColumn<QString>("property");
+        QTest::addColumn<QVariant>("value");
+        // clang-format off
+        QTest::newRow("True into a Long") << "Offset" << QVariant(true);
+        QTest::newRow("number text into a Long") << "BtwTar1" << QVariant(QStringLiteral("2100"));
+        QTest::newRow("double into a Long rounds to even") << "NbrDec" << QVariant(2.5);
+        QTest::newRow("number into a String") << "msg" << QVariant(12.5);
+        QTest::newRow("Boolean into a String") << "SQL" << QVariant(false);
+        // clang-format on
+    }
+    void propertyAssignmentsConvertAlike()
+    {
+        QFETCH(QString, property);
+        QFETCH(QVariant, value);
+        clsqorGenLib byInvoke;
+        clsqorGenLib byName;
+        byInvoke.Invoke(property, { value });
+        qor::setProperty(&byName, property.toLower().toLatin1().constData(), value,
+            qor::platform().regionalSettings());
+        QCOMPARE(byName.Invoke(property, {}), byInvoke.Invoke(property, {}));
     }
 
     void errorsReachTheCaller_data()

@@ -116,6 +116,33 @@ private slots:
         QCOMPARE(box.resolveName(QStringLiteral("TAG")), QStringLiteral("Tag"));
     }
 
+    // Names match with the case of ASCII letters ignored, other letters as they are.
+    void namesMatchIgnoringAsciiCase_data()
+    {
+        QTest::addColumn<QStringList>("assigned");
+        QTest::addColumn<QString>("asked");
+        QTest::addColumn<QString>("resolved");
+        QTest::addColumn<QStringList>("undeclared");
+        // clang-format off
+        QTest::newRow("undeclared in another case") << QStringList { "Tag" } << "tAG" << "Tag" << QStringList { "Tag" };
+        QTest::newRow("declared in another case") << QStringList { "SELSTART" } << "selstart" << "SelStart" << QStringList();
+        QTest::newRow("assigned again in another case") << QStringList { "Tag", "TAG" } << "tag" << "Tag" << QStringList { "Tag" };
+        QTest::newRow("accented letters match only themselves") << QStringList { QStringLiteral("\u00C9tat") } << QStringLiteral("\u00E9tat") << "" << QStringList { QStringLiteral("\u00C9tat") };
+        QTest::newRow("long s is not s") << QStringList { "Sel", QStringLiteral("\u017Fel") } << "sel" << "Sel" << QStringList { "Sel", QStringLiteral("\u017Fel") };
+        QTest::newRow("objectName is not the control's") << QStringList { "objectName" } << "objectName" << "" << QStringList();
+        // clang-format on
+    }
+    void namesMatchIgnoringAsciiCase()
+    {
+        QFETCH(QStringList, assigned);
+        QFETCH(QString, asked);
+        TextBox box;
+        for (const QString &name : assigned)
+            box.assign(name, 1);
+        QTEST(box.resolveName(asked), "resolved");
+        QTEST(box.bagNames(), "undeclared");
+    }
+
     void assignConvertsToTheDeclaredType_data()
     {
         QTest::addColumn<QString>("name");

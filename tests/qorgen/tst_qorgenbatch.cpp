@@ -326,6 +326,104 @@ private slots:
         QCOMPARE(errorNumberOf(QJsonDocument::fromJson(lines[1]).object()), 5);
     }
 
+    // A request's id comes back unchanged; "props": false leaves the properties out.
+    void idAndPropsFields_data()
+    {
+        QTest::addColumn<QByteArray>("request");
+        QTest::addColumn<QByteArray>("responseStart");
+        QTest::addColumn<bool>("withProps");
+        // clang-format off
+        QTest::newRow("number id, properties left out") << QByteArray(R"({"id": 7, "call": "FilterNumeric", "args": ["a1b2"], "props": false})") << QByteArray(R"({"id":7,"result":"12","resultType":"String","args":["a1b2"],"argTypes":["String"],"shown":[]})") << false;
+        QTest::newRow("id given last") << QByteArray(R"({"call": "SCase", "args": ["x"], "props": false, "id": "x-1"})") << QByteArray(R"({"id":"x-1","result":"X","args":["x"],"shown":[]})") << false;
+        QTest::newRow("structured id") << QByteArray(R"({"id": {"batch": [1, 2.5, null]}, "call": "Offset", "props": false})") << QByteArray(R"({"id":{"batch":[1,2.5,null]},"result":0,"args":[],"shown":[]})") << false;
+        QTest::newRow("properties asked for") << QByteArray(R"({"id": 1, "call": "Offset", "props": true})") << QByteArray(R"({"id":1,"result":0,"args":[],"props":{)") << true;
+        QTest::newRow("properties by default") << QByteArray(R"({"call": "Offset"})") << QByteArray(R"({"result":0,"args":[],"props":{)") << true;
+        QTest::newRow("id of an unknown method") << QByteArray(R"({"id": 3, "call": "NoSuchMethod"})") << QByteArray(R"({"id":3,"error":{"number":438,)") << false;
+        QTest::newRow("id of an argument of the wrong shape") << QByteArray(R"({"id": null, "call": "SCase", "args": [{"$date": "x"}]})") << QByteArray(R"({"id":null,"error":)") << false;
+        QTest::newRow("props that is not a flag") << QByteArray(R"({"id": 4, "call": "Offset", "props": 0})") << QByteArray(R"({"id":4,"error":{"number":5,)") << false;
+        QTest::newRow("no id in JSON that cannot be read") << QByteArray(R"({"id": 5, "call": )") << QByteArray(R"({"error":{"number":5,)") << false;
+        // clang-format on
+    }
+    void idAndPropsFields()
+    {
+        QFETCH(QByteArray, request);
+        QFETCH(QByteArray, responseStart);
+        QFETCH(bool, withProps);
+        const BatchResult result = runBatch({ request });
+        QCOMPARE(result.raw.size(), 1);
+        QVERIFY2(result.raw[0].startsWith(responseStart), result.raw[0].constData());
+        QCOMPARE(result.responses[0].contains("props"), withProps);
+    }
+
+    // Objects of any size are read, checked for repeated names and written back
+    // in time that grows with their size alone (the test's time limit is the check).
+    void largeObjectsAreAnswered_data()
+    {
+        QTest::addColumn<QByteArray>("kind");
+        QTest::addColumn<int>("members");
+        QTest::newRow("host object with many properties") << QByteArray("$object") << 200000;
+        QTest::newRow("plain object with many members") << QByteArray("plain") << 200000;
+        QTest::newRow("many members, the last repeated") << QByteArray("repeated") << 200000;
+    }
+    void largeObjectsAreAnswered()
+    {
+        QFETCH(QByteArray, kind);
+        QFETCH(int, members);
+        QByteArray object = kind == "$object" ? QByteArray(R"({"$object": "TextBox", "Text": "ab")")
+                                              : QByteArray("{\"m\": 0");
+        for (int i = 1; i < members; ++i)
+            object += ", \"m" + QByteArray::number(i) + "\": " + QByteArray::number(i);
+        if (kind == "repeated")
+            object += ", \"m7\": 1";
+        object += '}';
+        const QByteArray call = kind == "$object"
+            ? R"({"id": 1, "props": false, "call": "SelEdit", "args": [)" + object + "]}"
+            : R"({"id": 1, "props": false, "call": "SCase", "args": ["x"], "extra": )" + object
+                + "}";
+        const BatchResult result = runBatch({ call, R"({"call": "SCase", "args": ["y"]})" });
+        QVERIFY(result.run.finished);
+        QCOMPARE(result.responses.size(), 2);
+        const QJsonObject reply = result.responses[0];
+        // A line that is not JSON (a name given twice) has no id to send back.
+        const QJsonValue id
+            = kind == "repeated" ? QJsonValue(QJsonValue::Undefined) : QJsonValue(1);
+        QCOMPARE(reply.value("id"), id);
+        if (kind == "$object") {
+            const QJsonObject control = reply.value("args").toArray().at(0).toObject();
+            QCOMPARE(control.value("SelLength").toInt(), 2);
+            QCOMPARE(control.value("m1").toInt(), 1);
+            QCOMPARE(control.value("m" + QString::number(members - 1)).toInt(), members - 1);
+        } else if (kind == "repeated") {
+            QCOMPARE(errorNumberOf(reply), 5);
+            QVERIFY(reply.value("error").toObject().value("description").toString().contains("m7"));
+        } else {
+            // A well-formed line with a field the bridge does not know.
+            QVERIFY(
+                reply.value("error").toObject().value("description").toString().contains("extra"));
+        }
+        QCOMPARE(result.responses[1].value("result").toString(), QStringLiteral("Y"));
+    }
+
+    // A caller that writes one line and waits gets its answer without closing its side.
+    void eachLineIsAnsweredWhileTheInputStaysOpen()
+    {
+        QProcess process;
+        process.start(QStringLiteral(QORGEN_PATH), { QStringLiteral("batch") });
+        QVERIFY(process.waitForStarted(10000));
+        for (const QByteArray &text : { QByteArray("one"), QByteArray("two") }) {
+            process.write(
+                "{\"call\": \"SCase\", \"args\": [\"" + text + "\"], \"props\": false}\n");
+            QByteArray answer;
+            while (!answer.endsWith('\n') && process.waitForReadyRead(20000))
+                answer += process.readAllStandardOutput();
+            QVERIFY2(answer.startsWith(QByteArray("{\"result\":\"")), answer.constData());
+            QVERIFY(answer.contains(text.left(1).toUpper() + text.mid(1)));
+        }
+        process.closeWriteChannel();
+        QVERIFY(process.waitForFinished(10000));
+        QCOMPARE(process.exitCode(), 0);
+    }
+
     // Every method of the type information is reachable by name.
     void everyPublishedMethodIsCallable()
     {

@@ -1,4 +1,5 @@
 #include "runtime/callbyname.h"
+#include "runtime/propertybag.h"
 
 #include "tests/common/errornumber.h"
 
@@ -22,6 +23,12 @@ public:
     Q_INVOKABLE void AddItem(const QString &item, const QVariant &index) { calls << item << index; }
     Q_INVOKABLE QVariant Echo(const QVariant &value) { return value; }
     Q_INVOKABLE int Twice(int value) { return 2 * value; }
+};
+
+// A control that keeps its undeclared properties in a bag.
+class BagControl : public SampleControl, public qor::PropertyBag
+{
+    Q_OBJECT
 };
 
 class TestCallByName : public QObject
@@ -82,6 +89,55 @@ private slots:
             (QVariantList { QStringLiteral("Clear"), QStringLiteral("Contant"), QVariant() }));
         QCOMPARE(qor::callOperation(&control, "Echo", { 2.5 }), QVariant(2.5));
         QCOMPARE(qor::callOperation(&control, "Twice", { QStringLiteral("21") }).toInt(), 42);
+    }
+
+    // Operations convert their arguments by the same rule as property assignments.
+    void operationArgumentsConvertAsAssignments_data()
+    {
+        QTest::addColumn<QVariant>("value");
+        QTest::addColumn<int>("twice");
+        QTest::addColumn<int>("error");
+        // clang-format off
+        QTest::newRow("True is -1") << QVariant(true) << -2 << 0;
+        QTest::newRow("False is 0") << QVariant(false) << 0 << 0;
+        QTest::newRow("text with decimal point") << QVariant(QStringLiteral("2.5")) << 4 << 0;
+        QTest::newRow("double rounds half to even") << QVariant(3.5) << 8 << 0;
+        QTest::newRow("text that is no number") << QVariant(QStringLiteral("abc")) << 0 << 13;
+        QTest::newRow("beyond a Long") << QVariant(3e9) << 0 << 6;
+        // clang-format on
+    }
+    void operationArgumentsConvertAsAssignments()
+    {
+        QFETCH(QVariant, value);
+        QFETCH(int, twice);
+        QFETCH(int, error);
+        SampleControl control;
+        int result = 0;
+        QCOMPARE(
+            errorNumber([&] { result = qor::callOperation(&control, "Twice", { value }).toInt(); }),
+            error);
+        QCOMPARE(result, twice);
+        if (error != 0)
+            return;
+        qor::setProperty(&control, "ListIndex", value, {});
+        QCOMPARE(control.listIndex * 2, twice);
+    }
+
+    // An object's bag holds the names it was given, found regardless of case.
+    void bagPropertiesByName()
+    {
+        BagControl control;
+        control.bagAssign(QStringLiteral("Tag"), 7);
+        QCOMPARE(qor::getProperty(&control, "TAG").toInt(), 7);
+        qor::setProperty(&control, "tag", QStringLiteral("x"), {});
+        QCOMPARE(control.bagNames(), QStringList { QStringLiteral("Tag") });
+        QCOMPARE(*control.bagValue(QStringLiteral("tAg")), QVariant(QStringLiteral("x")));
+        QCOMPARE(qor::propertyNameOf(&control, "tag"), QByteArray("Tag"));
+        // Declared properties come first and keep their type.
+        qor::setProperty(&control, "listindex", QStringLiteral("4"), {});
+        QCOMPARE(control.listIndex, 4);
+        QVERIFY(!control.bagValue(QStringLiteral("ListIndex")));
+        QCOMPARE(errorNumber([&] { qor::getProperty(&control, "Missing"); }), 438);
     }
 };
 

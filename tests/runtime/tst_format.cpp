@@ -60,6 +60,9 @@ private slots:
         QTest::newRow("empty text keeps the literals") << QVariant("") << bankMask << "--" << "--";
         QTest::newRow("@ shows a blank") << QVariant("ab") << "(@@@@)" << "(  ab)" << "(  ab)";
         QTest::newRow("! fills from the left") << QVariant("abc") << "!&&\\-&&" << "ab-c" << "ab-c";
+        QTest::newRow("! with one character a place") << QVariant("abcd") << "!&&\\-&&" << "ab-cd" << "ab-cd";
+        QTest::newRow("@ with one character a place") << QVariant("abcd") << "(@@@@)" << "(abcd)" << "(abcd)";
+        QTest::newRow("mixed places, one character each") << QVariant("abc") << "@-&-@" << "a-b-c" << "a-b-c";
         QTest::newRow("> upper case") << QVariant("abc") << ">&&&" << "ABC" << "ABC";
         QTest::newRow("second section for empty text") << QVariant("") << "&&;\\-" << "-" << "-";
         QTest::newRow("quoted literal") << QVariant("12") << "\"nr \"&&" << "nr 12" << "nr 12";

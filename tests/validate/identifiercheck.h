@@ -20,6 +20,27 @@ inline void compareCheck(const CheckResult &check, const QString &input)
     QCOMPARE(check.refused, display.isEmpty() && input.count(QLatin1Char(' ')) != input.size());
 }
 
+// The same check into storage kept from an earlier check: the same display
+// (the storage's old text gone), the same verdict and the same rewritten number,
+// while a copy sharing the caller's text keeps it.
+template <typename StorageCheck>
+inline void compareStorageCheck(
+    const QString &input, const CheckResult &expected, const QString &rewritten, StorageCheck check)
+{
+    QString number = input;
+    const QString shared = number;
+    QString display = QStringLiteral("left over from an earlier check");
+    display.reserve(64);
+    const Verdict verdict = check(number, display);
+    QCOMPARE(display, expected.display);
+    QCOMPARE(verdict == Verdict::Refused, expected.refused);
+    // A number shown was accepted (another land's empty text is accepted unshown).
+    if (!expected.display.isEmpty())
+        QVERIFY(verdict == Verdict::Accepted);
+    QCOMPARE(number, rewritten);
+    QCOMPARE(shared, input);
+}
+
 inline const QString cr2 = QString(2, QChar(13));
 
 // A table of calls: properties set first, the arguments, the result, the

@@ -41,6 +41,8 @@ private slots:
         const CheckResult check = checkBankAccount(bankNr);
         QTEST(bankNr, "cleaned");
         test::compareCheck(check, input);
+        test::compareStorageCheck(
+            input, check, bankNr, [](QString &n, QString &d) { return checkBankAccount(n, d); });
     }
 
     void megabyteOfDigits()

@@ -44,6 +44,8 @@ private slots:
         const CheckResult check = checkIdentityCard(identNr, belgian);
         QTEST(identNr, "after");
         test::compareCheck(check, input);
+        test::compareStorageCheck(input, check, identNr,
+            [&](QString &n, QString &d) { return checkIdentityCard(n, belgian, d); });
     }
 
     void partsAreReadAsTheLibraryReadsNumbers()

@@ -47,6 +47,8 @@ private slots:
         const CheckResult check = checkNationalNumber(natNr, landCode);
         QTEST(natNr, "cleaned");
         test::compareCheck(check, input);
+        test::compareStorageCheck(input, check, natNr,
+            [&](QString &n, QString &d) { return checkNationalNumber(n, landCode, d); });
         // Belgium is the land when none is given.
         QString withoutLand = input;
         if (landCode == QLatin1String("BE"))

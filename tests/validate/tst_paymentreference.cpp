@@ -35,10 +35,19 @@ private slots:
     void make()
     {
         QFETCH(QString, reference);
+        const QString given = reference;
         const PaymentReference made = makePaymentReference(reference);
         QTEST(reference, "after");
         QTEST(made.ogm, "ogm");
         QTEST(made.tooLong, "tooLong");
+        // Into storage kept from an earlier reference: the same texts.
+        QString number = given;
+        QString digits = QStringLiteral("0123456789012345");
+        QString ogm = QStringLiteral("999/9999/99999 and more");
+        QCOMPARE(makePaymentReference(number, digits, ogm), made.tooLong);
+        QCOMPARE(number, reference);
+        QCOMPARE(digits, made.digits);
+        QCOMPARE(ogm, made.ogm);
     }
 
     void makeFromMegabyteKeepsTheDigitsForTheMessage()
@@ -76,6 +85,8 @@ private slots:
         const CheckResult result = checkPaymentReference(ogm);
         QTEST(ogm, "after");
         test::compareCheck(result, typed);
+        test::compareStorageCheck(
+            typed, result, ogm, [](QString &n, QString &d) { return checkPaymentReference(n, d); });
     }
 
     void checkOfMadeReferenceDiffersOnRemainderZero()

@@ -42,11 +42,16 @@ private slots:
     {
         QFETCH(QString, input);
         QFETCH(QString, landCode);
+        const QString givenLand = landCode;
         QString vatNr = input;
         const CheckResult check = checkVatNumber(vatNr, landCode);
         QTEST(vatNr, "cleaned");
         QTEST(landCode, "landAfter");
         test::compareCheck(check, input);
+        QString land = givenLand;
+        test::compareStorageCheck(input, check, vatNr,
+            [&](QString &n, QString &d) { return checkVatNumber(n, land, d); });
+        QTEST(land, "landAfter");
     }
 
     void megabyteOfDigitsReadsFirstEightOnly()

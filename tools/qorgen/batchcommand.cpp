@@ -18,12 +18,19 @@ bool isBlank(const QByteArray &line)
     return true;
 }
 
+// Responses gather here and go out in one write when no further request is
+// waiting, or when this much has gathered.
+constexpr qsizetype outputBlock = 64 * 1024;
+
 // False when the reader of our output has gone.
-bool writeLine(std::FILE *out, QByteArray bytes)
+bool writeOut(std::FILE *out, QByteArray &pending)
 {
-    bytes.append('\n');
-    return std::fwrite(bytes.constData(), 1, size_t(bytes.size()), out) == size_t(bytes.size())
-        && std::fflush(out) == 0;
+    const bool written = pending.isEmpty()
+        || (std::fwrite(pending.constData(), 1, size_t(pending.size()), out)
+                == size_t(pending.size())
+            && std::fflush(out) == 0);
+    pending.resize(0);
+    return written;
 }
 
 } // namespace
@@ -33,22 +40,26 @@ int BatchCommand::run(std::FILE *in, std::FILE *out)
     Session session;
     LineReader reader(in);
     QByteArray line;
+    QByteArray pending;
+    pending.reserve(outputBlock * 2);
     for (;;) {
         const LineReader::Status status = reader.next(line);
         if (status == LineReader::Status::End)
-            return 0;
+            return writeOut(out, pending) ? 0 : 1;
         if (status == LineReader::Status::Line && isBlank(line))
             continue;
-        JsonValue response;
         if (status == LineReader::Status::TooLong) {
-            response = Session::unreadable(
-                RequestError::unreadable(QStringLiteral("the request line is longer than %1 bytes")
-                                             .arg(reader.maxLength())))
-                           .response;
+            JsonWriter::appendCompact(pending,
+                Session::unreadable(RequestError::unreadable(
+                                        QStringLiteral("the request line is longer than %1 bytes")
+                                            .arg(reader.maxLength())))
+                    .response);
         } else {
-            response = session.handleLine(line).response;
+            JsonWriter::appendCompact(pending, session.handleLine(line).response);
         }
-        if (!writeLine(out, JsonWriter::compact(response)))
+        pending.append('\n');
+        // A caller that writes one line and waits for its answer gets it at once.
+        if ((pending.size() >= outputBlock || !reader.hasPending()) && !writeOut(out, pending))
             return 1;
     }
 }

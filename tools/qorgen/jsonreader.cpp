@@ -2,6 +2,7 @@
 
 #include "tools/qorgen/requesterror.h"
 
+#include <QSet>
 #include <QStringDecoder>
 
 #include <cmath>
@@ -129,13 +130,24 @@ JsonValue JsonReader::readObject(int depth)
         ++m_pos;
         return object;
     }
+    // A repeated name is looked for among the few first members directly; from
+    // then on a set of the names finds it in constant time.
+    constexpr qsizetype scannedMembers = 16;
+    qsizetype count = 0;
+    QSet<QString> names;
     for (;;) {
         skipSpace();
         if (peek() != u'"')
             fail(QStringLiteral("expected a member name in double quotes"));
         const QString key = readString();
-        if (object.member(key))
+        if (count < scannedMembers ? object.member(key) != nullptr : names.contains(key))
             fail(QStringLiteral("member \"%1\" given twice").arg(key));
+        if (++count == scannedMembers) {
+            for (const JsonValue::Member &member : object.toObject())
+                names.insert(member.first);
+        }
+        if (count >= scannedMembers)
+            names.insert(key);
         expect(u':');
         object.insert(key, readValue(depth));
         skipSpace();

@@ -35,6 +35,14 @@ QByteArray JsonWriter::compact(const JsonValue &value)
     return writer.m_out;
 }
 
+void JsonWriter::appendCompact(QByteArray &out, const JsonValue &value)
+{
+    JsonWriter writer(false);
+    writer.m_out.swap(out);
+    writer.write(value, 0);
+    writer.m_out.swap(out);
+}
+
 QByteArray JsonWriter::indented(const JsonValue &value)
 {
     JsonWriter writer(true);

@@ -15,6 +15,8 @@ class JsonWriter
 {
 public:
     static QByteArray compact(const JsonValue &value);
+    // The compact form appended to `out`, whose buffer is reused from call to call.
+    static void appendCompact(QByteArray &out, const JsonValue &value);
     static QByteArray indented(const JsonValue &value);
 
 private:

@@ -11,6 +11,9 @@ namespace qor {
 // cut off by the end of the stream is returned as it is. Reads only what is
 // there, so that a caller waiting for each answer before it writes the next
 // line is served at once.
+//
+// The stream is read through its file descriptor in blocks of its own, so that
+// the reader can tell whether a further line is already waiting.
 class LineReader
 {
 public:
@@ -22,9 +25,19 @@ public:
     Status next(QByteArray &line);
     qsizetype maxLength() const { return m_maxLength; }
 
+    // True when more input is already there: read but not yet returned, or
+    // waiting to be read (the end of the input counts as waiting).
+    bool hasPending() const;
+
 private:
-    std::FILE *m_stream;
+    bool fill();
+
+    int m_fd;
     qsizetype m_maxLength;
+    QByteArray m_buffer;
+    qsizetype m_pos = 0;
+    qsizetype m_end = 0;
+    bool m_atEnd = false;
 };
 
 } // namespace qor

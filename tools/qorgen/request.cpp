@@ -64,15 +64,29 @@ Request Request::fromJson(const JsonValue &json)
             if (!value.isBool())
                 throw wrongField(field, QStringLiteral("true or false"), value);
             request.fresh = value.toBool();
+        } else if (field == QLatin1String("id")) {
+            request.id = value;
+        } else if (field == QLatin1String("props")) {
+            if (!value.isBool())
+                throw wrongField(field, QStringLiteral("true or false"), value);
+            request.withProperties = value.toBool();
         } else {
-            throw RequestError::unreadable(QStringLiteral(
-                "unknown request field \"%1\" (known: call, args, set, env, answers, new)")
+            throw RequestError::unreadable(QStringLiteral("unknown request field \"%1\" (known: "
+                                                          "call, args, set, env, answers, new, id, "
+                                                          "props)")
                                                .arg(field));
         }
     }
     if (request.call.isEmpty() && !request.args.empty())
         throw RequestError::unreadable(QStringLiteral("\"args\" without \"call\""));
     return request;
+}
+
+std::optional<JsonValue> Request::idOf(const JsonValue &json)
+{
+    if (const JsonValue *id = json.isObject() ? json.member(u"id") : nullptr)
+        return *id;
+    return std::nullopt;
 }
 
 QVariant Request::answer(const JsonValue &json, int index)

@@ -6,6 +6,8 @@
 #include <QByteArrayView>
 #include <QVariantList>
 
+#include <optional>
+
 namespace qor {
 
 // One request as read from its JSON object: what to call with which
@@ -20,11 +22,17 @@ struct Request
     Environment env;
     QVariantList answers;
     bool fresh = false;
+    // Echoed unchanged in the response when the request has one.
+    std::optional<JsonValue> id;
+    // False: the response leaves out the object's properties.
+    bool withProperties = true;
 
     static Request fromJson(const JsonValue &json);
     static Request fromLine(QByteArrayView utf8);
     // A dialog answer as the recording platform takes it.
     static QVariant answer(const JsonValue &json, int index);
+    // The id of a request object, whatever else is wrong with it.
+    static std::optional<JsonValue> idOf(const JsonValue &json);
 };
 
 } // namespace qor

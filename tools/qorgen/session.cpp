@@ -109,6 +109,8 @@ struct Session::Call
     const PropertyInfo *property = nullptr;
     QVariantList args;
     QList<std::pair<QString, QVariant>> set;
+    std::optional<JsonValue> id;
+    bool withProperties = true;
 
     QString name() const { return method ? method->name : property ? property->name : QString(); }
     bool hasResult() const
@@ -154,11 +156,13 @@ void Session::setSoundOutput(
 
 Session::Reply Session::handleLine(QByteArrayView utf8)
 {
+    JsonValue json;
     try {
-        return handle(Request::fromLine(utf8));
+        json = JsonReader::parse(utf8);
     } catch (const RequestError &error) {
         return unreadable(error);
     }
+    return handleJson(json);
 }
 
 Session::Reply Session::handleJson(const JsonValue &request)
@@ -166,14 +170,17 @@ Session::Reply Session::handleJson(const JsonValue &request)
     try {
         return handle(Request::fromJson(request));
     } catch (const RequestError &error) {
-        return unreadable(error);
+        return unreadable(error, Request::idOf(request));
     }
 }
 
-Session::Reply Session::unreadable(const RequestError &error)
+Session::Reply Session::unreadable(const RequestError &error, const std::optional<JsonValue> &id)
 {
-    return { JsonValue::object().insert(QStringLiteral("error"), errorObject(error)),
-        Outcome::Unreadable };
+    JsonValue response = JsonValue::object();
+    if (id)
+        response.insert(QStringLiteral("id"), *id);
+    response.insert(QStringLiteral("error"), errorObject(error));
+    return { std::move(response), Outcome::Unreadable };
 }
 
 Session::Reply Session::handle(const Request &request)
@@ -184,12 +191,14 @@ Session::Reply Session::handle(const Request &request)
     try {
         call = prepare(request, &owner);
     } catch (const RequestError &error) {
-        return unreadable(error);
+        return unreadable(error, request.id);
     } catch (const std::bad_alloc &) {
         return unreadable(
-            RequestError(7, QStringLiteral("Out of memory: the request is too large")));
+            RequestError(7, QStringLiteral("Out of memory: the request is too large")), request.id);
     }
     applyPlatform(request);
+    call.id = request.id;
+    call.withProperties = request.withProperties;
     Reply reply;
     reply.response = run(call, reply.outcome);
     keepHeldObjects(&owner);
@@ -300,6 +309,8 @@ JsonValue Session::run(Call &call, Outcome &outcome)
     outcome = error.isNull() ? Outcome::Ran : Outcome::RuntimeError;
 
     JsonValue response = JsonValue::object();
+    if (call.id)
+        response.insert(QStringLiteral("id"), *call.id);
     if (error.isNull() && call.hasResult()) {
         response.insert(QStringLiteral("result"), ValueCodec::encode(result));
         if (call.variantResult())
@@ -317,7 +328,8 @@ JsonValue Session::run(Call &call, Outcome &outcome)
     response.insert(QStringLiteral("args"), std::move(args));
     if (anyVariant)
         response.insert(QStringLiteral("argTypes"), std::move(argTypes));
-    response.insert(QStringLiteral("props"), properties());
+    if (call.withProperties)
+        response.insert(QStringLiteral("props"), properties());
     response.insert(QStringLiteral("shown"), shown());
     if (!m_platform->actions().isEmpty())
         response.insert(QStringLiteral("actions"), actions());

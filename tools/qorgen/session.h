@@ -7,6 +7,7 @@
 
 #include <functional>
 #include <memory>
+#include <optional>
 
 class clsqorGenLib;
 
@@ -42,8 +43,10 @@ public:
     Reply handleLine(QByteArrayView utf8);
     Reply handleJson(const JsonValue &request);
     Reply handle(const Request &request);
-    // The response to a request that could not be read: the error alone.
-    static Reply unreadable(const RequestError &error);
+    // The response to a request that could not be read: its id (when it has
+    // one) and the error.
+    static Reply unreadable(
+        const RequestError &error, const std::optional<JsonValue> &id = std::nullopt);
 
     // Where sounds go when a request asks for them ("sound": true); by default nowhere.
     void setSoundOutput(

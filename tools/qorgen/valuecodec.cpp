@@ -7,6 +7,7 @@
 #include "runtime/variant.h"
 #include "tools/qorgen/requesterror.h"
 
+#include <QHash>
 #include <QMetaProperty>
 #include <QRegularExpression>
 
@@ -168,17 +169,24 @@ void Decoder::populate(
         rest.append(&member);
     }
     // Declared properties in their own order: a selection after its text, an index after its list.
-    for (const QString &name : object->propertyNames()) {
-        for (qsizetype i = 0; i < rest.size(); ++i) {
-            if (rest[i]->first.compare(name, Qt::CaseInsensitive) != 0)
-                continue;
-            property(object, name, rest[i]->second, where, depth);
-            rest.removeAt(i);
-            break;
-        }
+    QHash<QString, qsizetype> firstByName;
+    for (qsizetype i = 0; i < rest.size(); ++i) {
+        const QString folded = rest[i]->first.toCaseFolded();
+        if (!firstByName.contains(folded))
+            firstByName.insert(folded, i);
     }
-    for (const JsonValue::Member *member : rest)
-        property(object, member->first, member->second, where, depth);
+    std::vector<bool> done(size_t(rest.size()), false);
+    for (const QString &name : object->declaredNames()) {
+        const qsizetype i = firstByName.value(name.toCaseFolded(), -1);
+        if (i < 0)
+            continue;
+        property(object, name, rest[i]->second, where, depth);
+        done[size_t(i)] = true;
+    }
+    for (qsizetype i = 0; i < rest.size(); ++i) {
+        if (!done[size_t(i)])
+            property(object, rest[i]->first, rest[i]->second, where, depth);
+    }
 }
 
 void Decoder::property(
