@@ -16,7 +16,8 @@ if [ ! -f "$build/CMakeCache.txt" ]; then
         -DQORGENLIB_BUILD_TESTS=OFF >/dev/null
 fi
 cmake --build "$build" --target bench_validate bench_catalogue bench_invoke \
-    bench_qorgen_batch bench_check_numbers qorgen >/dev/null
+    bench_qorgen_batch bench_check_numbers bench_records bench_keystrokes bench_sortarray \
+    qorgen >/dev/null
 
 cxx=$(sed -n 's/^CMAKE_CXX_COMPILER:[A-Z]*=//p' "$build/CMakeCache.txt")
 build_type=$(sed -n 's/^CMAKE_BUILD_TYPE:[A-Z]*=//p' "$build/CMakeCache.txt")
@@ -38,6 +39,15 @@ echo "== Catalogue (bench_catalogue)"
 echo
 echo "== Calling by name (bench_invoke)"
 "$build/bench/bench_invoke"
+echo
+echo "== Fixed-field records (bench_records)"
+"$build/bench/bench_records"
+echo
+echo "== Keystroke handlers (bench_keystrokes)"
+"$build/bench/bench_keystrokes"
+echo
+echo "== SortArray (bench_sortarray)"
+"$build/bench/bench_sortarray"
 echo
 echo "== Bridge (bench_qorgen_batch, wall time)"
 "$build/bench/bench_qorgen_batch" "$build/tools/qorgen/qorgen"
