@@ -7,12 +7,14 @@
 // The enumerations published with the library object. Every name, value and the
 // declaration order are part of the interface. Three published names are not C++
 // identifiers; their members carry an ASCII name here and the published name in
-// the type library (see typelibrary.cpp).
+// the type library (see typelibrary.cpp). Each is based on int: a host may pass
+// any Long where an enumeration is asked, and that is then a value of the type
+// (the library reads a value no member names as it always did).
 
 namespace qorGenLib {
 Q_NAMESPACE_EXPORT(QORGENLIB_EXPORT)
 
-enum OstEenheid {
+enum OstEenheid : int {
     ehKubiekeMeter = 1,
     ehKilogram = 2,
     ehTon = 3,
@@ -29,7 +31,7 @@ enum OstEenheid {
 };
 Q_ENUM_NS(OstEenheid)
 
-enum TranslateEnum {
+enum TranslateEnum : int {
     ttlBoolean = 0,
     ttlDFM = 1,
     ttlDocument = 2,
@@ -42,14 +44,14 @@ enum TranslateEnum {
 };
 Q_ENUM_NS(TranslateEnum)
 
-enum NotFoundIndexType {
+enum NotFoundIndexType : int {
     SetListIndexMinusOne = -1,
     SetListIndexLineZero = 0,
     SetListIndexUnchanged = 99,
 };
 Q_ENUM_NS(NotFoundIndexType)
 
-enum OstSortOrder {
+enum OstSortOrder : int {
     soNumeric = 1,
     soNumericRev = 2,
     soAlphabetic = 3,
@@ -59,7 +61,7 @@ enum OstSortOrder {
 };
 Q_ENUM_NS(OstSortOrder)
 
-enum OstBetalingswijze {
+enum OstBetalingswijze : int {
     btKasticket = 20,
     btAdminFactuur = 21,
     btZero = 0,
@@ -99,7 +101,7 @@ enum OstBetalingswijze {
 };
 Q_ENUM_NS(OstBetalingswijze)
 
-enum OstSpecificIcon {
+enum OstSpecificIcon : int {
     spiDefault = 0,
     spiDis = 2000,
     spiGrey = 1000,
@@ -110,7 +112,7 @@ enum OstSpecificIcon {
 };
 Q_ENUM_NS(OstSpecificIcon)
 
-enum OstPrintStyles {
+enum OstPrintStyles : int {
     vbPrStyleNormal = 0,
     vbPrStyleTitle = 1,
     vbPrStyleSubTitle = 2,
@@ -121,7 +123,7 @@ enum OstPrintStyles {
 };
 Q_ENUM_NS(OstPrintStyles)
 
-enum OstPrFormat {
+enum OstPrFormat : int {
     vbPrStr = 0,
     vbPrNum = 1,
     vbPrNumD = 2,
@@ -146,21 +148,21 @@ enum OstPrFormat {
 };
 Q_ENUM_NS(OstPrFormat)
 
-enum OstLogoLayout {
+enum OstLogoLayout : int {
     vbPrLogoLeftUpper = 0,
     vbPrLogoRightUpper = 1,
     vbPrLogoCenterLarge = 2,
 };
 Q_ENUM_NS(OstLogoLayout)
 
-enum OstLabelForm {
+enum OstLabelForm : int {
     posFormNone = 0,
     posFormPopUp = 1,
     posFormOKCancel = 2,
 };
 Q_ENUM_NS(OstLabelForm)
 
-enum OstLabelOrient {
+enum OstLabelOrient : int {
     posNoRotation = 0,
     posRotate90 = 1,
     posRotate180 = 2,
@@ -168,7 +170,7 @@ enum OstLabelOrient {
 };
 Q_ENUM_NS(OstLabelOrient)
 
-enum OstLabelStyle {
+enum OstLabelStyle : int {
     posNormal = 0,
     posReverse = 1,
     posHigh2x = 2,
@@ -178,7 +180,7 @@ enum OstLabelStyle {
 };
 Q_ENUM_NS(OstLabelStyle)
 
-enum OstLabelFontSize {
+enum OstLabelFontSize : int {
     posFontSize1 = 1,
     posFontSize2 = 2,
     posFontSize3Normal = 3,
@@ -187,7 +189,7 @@ enum OstLabelFontSize {
 };
 Q_ENUM_NS(OstLabelFontSize)
 
-enum OstLabelFormat {
+enum OstLabelFormat : int {
     posPrString = 0,
     posPrNumberLong = 1,
     posPrBarcodeNoHR = 2,
@@ -207,27 +209,27 @@ enum OstLabelFormat {
 };
 Q_ENUM_NS(OstLabelFormat)
 
-enum OstDisplayLine {
+enum OstDisplayLine : int {
     posBothLines40 = 0,
     posUpperLine20 = 1,
     posLowerLine20 = 2,
 };
 Q_ENUM_NS(OstDisplayLine)
 
-enum OstDisplayClose {
+enum OstDisplayClose : int {
     posHoldScreen = 0,
     posClearScreen = 1,
     posRunScrollText = 2,
 };
 Q_ENUM_NS(OstDisplayClose)
 
-enum FactGroupMode {
+enum FactGroupMode : int {
     gmFactuurPerLeveringsbon = 0,
     gmFactuurPerKlant = 1,
 };
 Q_ENUM_NS(FactGroupMode)
 
-enum ModuleCol {
+enum ModuleCol : int {
     mocModuleCode = 0,
     mocSubModuleCode = 1,
     mocLeveringsbonNr = 2,
@@ -249,14 +251,14 @@ enum ModuleCol {
 };
 Q_ENUM_NS(ModuleCol)
 
-enum OstSymbolType {
+enum OstSymbolType : int {
     vbSymbolNone = 0,
     vbSymbolEUR = 1,
     vbSymbolEuro = 2,
 };
 Q_ENUM_NS(OstSymbolType)
 
-enum OstColors {
+enum OstColors : int {
     vbGrey1 = 14737632,
     vbGrey = -2147483633,
     vbGrey4 = 8421504,
@@ -294,13 +296,13 @@ enum OstColors {
 };
 Q_ENUM_NS(OstColors)
 
-enum SpinUpDown {
+enum SpinUpDown : int {
     SpinUp = 38,
     SpinDown = 40,
 };
 Q_ENUM_NS(SpinUpDown)
 
-enum IconList {
+enum IconList : int {
     iccAfdrukken = 1,
     iccAfdrukkenPop = 2,
     iccAnn = 3,

@@ -164,6 +164,8 @@ private slots:
                                 << int(RuntimeError::SubscriptOutOfRange);
         QTest::newRow("type -1") << QVariant(-1) << QVariant(0)
                                  << int(RuntimeError::SubscriptOutOfRange);
+        QTest::newRow("type beyond every member") << QVariant(2147483647) << QVariant(0)
+                                                  << int(RuntimeError::SubscriptOutOfRange);
         QTest::newRow("no such column comes first")
             << QVariant(9) << QVariant(3) << int(RuntimeError::SubscriptOutOfRange);
         QTest::newRow("negative column")
