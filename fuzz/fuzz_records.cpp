@@ -48,7 +48,10 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
             qint32 lineNumber = qint32(input.byte()) * 4099 - 1000;
             const QStringList parts = input.parts(2 * count + 1);
             QStringList fields = parts.mid(0, count);
-            QVariant formats = QVariant(QVariantList(parts.mid(count, count).cbegin(), parts.mid(count, count).cend()));
+            QVariantList masks;
+            for (const QString &mask : parts.mid(count, count))
+                masks.append(mask);
+            QVariant formats = masks;
             lib.GetExportData(lineNumber, fields, arrWidths, formats, checksum, parts.value(2 * count));
             break;
         }
