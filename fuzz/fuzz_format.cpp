@@ -4,6 +4,7 @@
 #include "runtime/format.h"
 #include "runtime/runtimeerror.h"
 
+#include <cmath>
 #include <cstring>
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
@@ -22,8 +23,8 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
     case 0: value = text; break;
     case 1: value = number; break;
     case 2: value = float(number); break;
-    case 3: value = qint32(qint64(number) & 0xffffffff); break;
-    case 4: value = QDateTime(QDate(1899, 12, 30), QTime(0, 0)).addSecs(qint64(number) % 400000000); break;
+    case 3: value = qint32(std::fmod(std::isfinite(number) ? number : 0, 2147483648.0)); break;
+    case 4: value = QDateTime(QDate(1899, 12, 30), QTime(0, 0)).addSecs(qint64(std::fmod(std::isfinite(number) ? number : 0, 4e8))); break;
     default: value = bool(kind & 8); break;
     }
     try {

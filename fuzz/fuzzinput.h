@@ -2,6 +2,8 @@
 
 #include "lib/frame/modgenlib.h"
 #include "platform/recordingplatform.h"
+#include "runtime/callbyname.h"
+#include "runtime/codepage.h"
 
 #include <QString>
 #include <QStringList>
@@ -68,6 +70,37 @@ inline RecordingPlatform &fuzzMachine()
     machine->clearRecords();
     machine->setAnswers({});
     return *machine;
+}
+
+// What a host's edit control does with the key code a handler let through:
+// Backspace deletes the selection or the character before the caret, Enter
+// and codes outside a byte do nothing, any other code replaces the selection.
+inline void typeInto(QObject *control, int code, bool grid = false)
+{
+    if (code == 13 || code <= 0 || code > 255)
+        return;
+    const char *textName = grid ? "EditText" : "Text";
+    const char *startName = grid ? "EditSelStart" : "SelStart";
+    const char *lengthName = grid ? "EditSelLength" : "SelLength";
+    const RegionalSettings rs;
+    QString text = getProperty(control, textName).toString();
+    const qsizetype none = 0;
+    qsizetype start = qBound(none, qsizetype(getProperty(control, startName).toInt()), text.size());
+    qsizetype length
+        = qBound(none, qsizetype(getProperty(control, lengthName).toInt()), text.size() - start);
+    if (code == 8) {
+        if (length == 0 && start > 0) {
+            --start;
+            length = 1;
+        }
+        text.remove(start, length);
+    } else {
+        text.replace(start, length, chr(code));
+        ++start;
+    }
+    setProperty(control, textName, text, rs);
+    setProperty(control, startName, qint32(start), rs);
+    setProperty(control, lengthName, 0, rs);
 }
 
 } // namespace qor::fuzz

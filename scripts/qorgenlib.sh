@@ -2,7 +2,8 @@
 # Installs what is missing, builds, and then runs the main job (no argument:
 # the invoice demo when there is a display, else the tour through qorgen), the
 # tour (tour) or all tests (test: the suite, then the suite again under
-# AddressSanitizer and UndefinedBehaviorSanitizer in build-asan/).
+# AddressSanitizer and UndefinedBehaviorSanitizer in build-asan/, then every fuzz
+# target briefly over its corpus in the same build).
 set -euo pipefail
 cd "$(dirname "$0")/.."
 
@@ -31,11 +32,17 @@ build() {
 
 sanitized_tests() {
   cmake -S . -B build-asan -G Ninja -DCMAKE_BUILD_TYPE=Debug -DCMAKE_CXX_COMPILER=clang++ \
-    -DQORGENLIB_SANITIZE=ON -DQORGENLIB_BUILD_BENCH=OFF -DBUILD_SHARED_LIBS=OFF >/dev/null
+    -DQORGENLIB_SANITIZE=ON -DQORGENLIB_FUZZ=ON -DQORGENLIB_BUILD_BENCH=OFF -DBUILD_SHARED_LIBS=OFF >/dev/null
   cmake --build build-asan
-  cd build-asan
-  ASAN_OPTIONS=detect_leaks=1:strict_string_checks=1 UBSAN_OPTIONS=print_stacktrace=1 \
-    QT_QPA_PLATFORM=offscreen ctest --output-on-failure -j2 -E '^(layers_|package_)'
+  (cd build-asan
+   ASAN_OPTIONS=detect_leaks=1:strict_string_checks=1 UBSAN_OPTIONS=print_stacktrace=1:halt_on_error=1 \
+     QT_QPA_PLATFORM=offscreen ctest --output-on-failure -j2 -E '^(layers_|package_)')
+}
+
+# Every fuzz target over its corpus and then a few seconds of fuzzing, so that
+# an input that once failed, or a new failure close to the corpus, fails CI.
+fuzz_smoke() {
+  bash fuzz/run.sh build-asan "${QORGENLIB_FUZZ_SECONDS:-10}" build-asan/fuzz-results.md
 }
 
 case "$job" in
@@ -56,6 +63,7 @@ case "$job" in
     build
     (cd build && QT_QPA_PLATFORM=offscreen ctest --output-on-failure -j2)
     sanitized_tests
+    fuzz_smoke
     ;;
   *)
     echo "usage: $0 [main|tour|test]" >&2

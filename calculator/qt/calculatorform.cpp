@@ -180,15 +180,17 @@ bool CalculatorForm::eventFilter(QObject *watched, QEvent *event)
 {
     if (watched != m_display)
         return QDialog::eventFilter(watched, event);
-    auto *mouse = static_cast<QMouseEvent *>(event);
+    // The display sees every kind of event; only the mouse events are read as such.
     switch (event->type()) {
-    case QEvent::MouseButtonPress:
+    case QEvent::MouseButtonPress: {
+        const auto *mouse = static_cast<QMouseEvent *>(event);
         m_dragging = mouse->button() == Qt::LeftButton;
         m_dragOffset = mouse->globalPosition().toPoint() - frameGeometry().topLeft();
         return true;
+    }
     case QEvent::MouseMove:
         if (m_dragging)
-            move(mouse->globalPosition().toPoint() - m_dragOffset);
+            move(static_cast<QMouseEvent *>(event)->globalPosition().toPoint() - m_dragOffset);
         return true;
     case QEvent::MouseButtonRelease: m_dragging = false; return true;
     default: return QDialog::eventFilter(watched, event);

@@ -7,7 +7,9 @@
 // The enumerations published with the library object. Every name, value and the
 // declaration order are part of the interface. Three published names are not C++
 // identifiers; their members carry an ASCII name here and the published name in
-// the type library (see typelibrary.cpp).
+// the type library (see typelibrary.cpp). Each is based on int: a host may pass
+// any Long where an enumeration is asked, and that is then a value of the type
+// (the library reads a value no member names as it always did).
 
 namespace qorGenLib {
 Q_NAMESPACE_EXPORT(QORGENLIB_EXPORT)

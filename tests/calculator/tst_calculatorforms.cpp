@@ -193,14 +193,28 @@ private slots:
         QVERIFY(shown);
     }
 
+    void draggingTheDisplayMovesTheWindow_data()
+    {
+        QTest::addColumn<QList<int>>("between");
+        QTest::newRow("press, move, release") << QList<int>();
+        // Events of other kinds reach the display's filter as well and are no mouse events.
+        QTest::newRow("enter, leave and a repaint in between")
+            << QList<int> { QEvent::Enter, QEvent::Leave, QEvent::UpdateRequest, QEvent::StyleChange };
+    }
+
     void draggingTheDisplayMovesTheWindow()
     {
+        QFETCH(QList<int>, between);
         clsqorGenLib lib;
         QPoint moved;
         whenModalIsActive(QStringLiteral("frmCalculator"), [&](QWidget *calculator) {
             QWidget *display = calculator->findChild<QLabel *>(QStringLiteral("lblDisplay"));
             const QPoint before = calculator->pos();
             QTest::mousePress(display, Qt::LeftButton, {}, QPoint(5, 5));
+            for (int type : between) {
+                QEvent other { QEvent::Type(type) };
+                QApplication::sendEvent(display, &other);
+            }
             QMouseEvent drag(QEvent::MouseMove, QPointF(45, 35),
                 display->mapToGlobal(QPointF(45, 35)), Qt::NoButton, Qt::LeftButton,
                 Qt::NoModifier);

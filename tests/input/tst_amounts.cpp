@@ -56,6 +56,8 @@ private slots:
         QTest::newRow("euro sign") << "nl_BE" << 1234.5f << 2 << QStringLiteral("1.234,50 \u20AC");
         QTest::newRow("no symbol") << "nl_BE" << 0.0f << 0 << "0,00";
         QTest::newRow("unknown symbol adds nothing") << "nl_BE" << 5.0f << 7 << "5,00";
+        QTest::newRow("negative symbol adds nothing") << "nl_BE" << 5.0f << -1 << "5,00";
+        QTest::newRow("symbol beyond an Integer adds nothing") << "nl_BE" << 5.0f << 100000 << "5,00";
         QTest::newRow("point decimals") << "en_US" << 1234.25f << 1 << "1,234.25 EUR";
         // A Single's text form keeps seven digits, and Val reads that text.
         QTest::newRow("single text form on a point system") << "en_US" << 1234567.25f << 1 << "1,234,567.00 EUR";
