@@ -78,6 +78,8 @@ done
   printf '%s\n' "${rows[@]}"
   echo
   echo "Total executions: $total."
+  # Notes written by hand below the table are kept from run to run.
+  [ -f "$results" ] && sed -n '/^## /,$p' "$results" | sed '1s/^/\n/'
 } >"$results.new"
 mv "$results.new" "$results"
 exit $failed
