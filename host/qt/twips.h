@@ -1,29 +1,40 @@
 #pragma once
 
 #include "platform/platform.h"
+#include "runtime/runtimeerror.h"
 
 #include <QColor>
 #include <QPalette>
 #include <QtMath>
 
+#include <cmath>
+
 namespace qor::twips {
 
-// Sizes: the host speaks twips, the widgets pixels, at the screen's twips per pixel.
+// Sizes: the host speaks twips, the widgets pixels, at the screen's twips per
+// pixel. A size no screen can show (or not a number) raises RuntimeError 6.
+inline int toPixels(double twips, double twipsPerPixel)
+{
+    const double value = std::round(twips / qMax(1.0, twipsPerPixel));
+    if (!std::isfinite(value) || std::fabs(value) > 1.0e7)
+        throw RuntimeError::overflow();
+    return int(value);
+}
 inline int toPixelsX(double twips)
 {
-    return qRound(twips / platform().screen().twipsPerPixelX);
+    return toPixels(twips, platform().screen().twipsPerPixelX);
 }
 inline int toPixelsY(double twips)
 {
-    return qRound(twips / platform().screen().twipsPerPixelY);
+    return toPixels(twips, platform().screen().twipsPerPixelY);
 }
 inline float fromPixelsX(int pixels)
 {
-    return float(pixels * platform().screen().twipsPerPixelX);
+    return float(pixels) * float(platform().screen().twipsPerPixelX);
 }
 inline float fromPixelsY(int pixels)
 {
-    return float(pixels * platform().screen().twipsPerPixelY);
+    return float(pixels) * float(platform().screen().twipsPerPixelY);
 }
 
 // Colours: &HBBGGRR, or &H800000nn for a system colour of the palette.
@@ -37,6 +48,8 @@ inline QColor toColor(qint32 colour, const QPalette &palette)
         case 0x0E: return palette.color(QPalette::HighlightedText);
         case 0x05: return palette.color(QPalette::Base);
         case 0x08: return palette.color(QPalette::Text);
+        case 0x11: return palette.color(QPalette::Disabled, QPalette::Text);
+        case 0x12: return palette.color(QPalette::ButtonText);
         default: return palette.color(QPalette::Button);
         }
     }

@@ -1,5 +1,6 @@
 #include "host/qt/widgetadapter.h"
 
+#include "host/qt/twips.h"
 #include "platform/platform.h"
 #include "runtime/runtimeerror.h"
 
@@ -24,18 +25,12 @@ QWidget *WidgetAdapter::widget() const
 
 int WidgetAdapter::pixels(double twips, bool horizontal)
 {
-    const ScreenInfo screen = platform().screen();
-    const double perPixel = horizontal ? screen.twipsPerPixelX : screen.twipsPerPixelY;
-    const double value = std::round(twips / qMax(1.0, perPixel));
-    if (!std::isfinite(value) || std::fabs(value) > 1.0e7)
-        throw RuntimeError::overflow();
-    return int(value);
+    return horizontal ? qor::twips::toPixelsX(twips) : qor::twips::toPixelsY(twips);
 }
 
 float WidgetAdapter::twips(int pixels, bool horizontal)
 {
-    const ScreenInfo screen = platform().screen();
-    return float(pixels) * float(horizontal ? screen.twipsPerPixelX : screen.twipsPerPixelY);
+    return horizontal ? qor::twips::fromPixelsX(pixels) : qor::twips::fromPixelsY(pixels);
 }
 
 float WidgetAdapter::left() const
@@ -107,19 +102,7 @@ void WidgetAdapter::ZOrder(qint32 position)
 
 QColor WidgetAdapter::colourOf(qint32 colour)
 {
-    const quint32 value = quint32(colour);
-    if (value & 0x80000000u) {
-        const QPalette palette = QApplication::palette();
-        switch (value & 0xFF) {
-        case 0x05: return palette.color(QPalette::Base);
-        case 0x08: return palette.color(QPalette::Text);
-        case 0x0D: return palette.color(QPalette::Highlight);
-        case 0x11: return palette.color(QPalette::Disabled, QPalette::Text);
-        case 0x12: return palette.color(QPalette::ButtonText);
-        default: return palette.color(QPalette::Button);
-        }
-    }
-    return QColor(int(value & 0xFF), int((value >> 8) & 0xFF), int((value >> 16) & 0xFF));
+    return qor::twips::toColor(colour, QApplication::palette());
 }
 
 } // namespace qor
