@@ -1,6 +1,7 @@
 #include "customerblock.h"
 
 #include "catalogueword.h"
+#include "formfield.h"
 
 #include <qorgenlib/host/qt/keyfilteradapter.h>
 
@@ -14,10 +15,10 @@ CustomerBlock::CustomerBlock(clsqorGenLib &lib, QWidget *parent)
     , m_form(new QFormLayout(this))
 {
     setObjectName(QStringLiteral("fraKlant"));
-    m_name = addField("txtNaam");
-    m_vat = addField("txtBtwNr");
-    m_account = addField("txtBankNr");
-    m_nationalNumber = addField("txtNatNr");
+    m_name = addFormField(m_form, this, "txtNaam");
+    m_vat = addFormField(m_form, this, "txtBtwNr");
+    m_account = addFormField(m_form, this, "txtBankNr");
+    m_nationalNumber = addFormField(m_form, this, "txtNatNr");
     // Quotes never reach a name: the library turns them into the acute accent.
     qor::KeyFilterAdapter::attachKeyPress(m_name, &m_lib, QString());
     connect(m_name, &QLineEdit::editingFinished, this, &CustomerBlock::checkName);
@@ -26,17 +27,6 @@ CustomerBlock::CustomerBlock(clsqorGenLib &lib, QWidget *parent)
     connect(
         m_nationalNumber, &QLineEdit::editingFinished, this, &CustomerBlock::checkNationalNumber);
     retranslate();
-}
-
-QLineEdit *CustomerBlock::addField(const char *objectName)
-{
-    auto *field = new QLineEdit(this);
-    field->setObjectName(QLatin1String(objectName));
-    auto *label = new QLabel(this);
-    label->setObjectName(QStringLiteral("lbl") + QLatin1String(objectName + 3));
-    label->setBuddy(field);
-    m_form->addRow(label, field);
-    return field;
 }
 
 void CustomerBlock::retranslate()

@@ -19,7 +19,6 @@ public:
     void retranslate();
 
 private:
-    QLineEdit *addField(const char *objectName);
     void checkName();
     void checkVat();
     void checkAccount();

@@ -1,6 +1,7 @@
 #include "invoiceheader.h"
 
 #include "catalogueword.h"
+#include "formfield.h"
 
 #include <qorgenlib/host/qt/keyfilteradapter.h>
 
@@ -14,15 +15,15 @@ InvoiceHeader::InvoiceHeader(clsqorGenLib &lib, QWidget *parent)
     , m_form(new QFormLayout(this))
 {
     setObjectName(QStringLiteral("fraFactuur"));
-    m_number = addField("txtFactuurNr");
+    m_number = addFormField(m_form, this, "txtFactuurNr");
     m_reference = new QLabel(this);
     m_reference->setObjectName(QStringLiteral("lblOGM"));
     m_reference->setTextInteractionFlags(Qt::TextSelectableByMouse);
     auto *referenceLabel = new QLabel(this);
     referenceLabel->setObjectName(QStringLiteral("lblOGMCaption"));
     m_form->addRow(referenceLabel, m_reference);
-    m_date = addField("txtDatum");
-    m_time = addField("txtUur");
+    m_date = addFormField(m_form, this, "txtDatum");
+    m_time = addFormField(m_form, this, "txtUur");
     qor::KeyFilterAdapter::attachKeyPress(m_number, &m_lib, QStringLiteral("C"));
     qor::KeyFilterAdapter::attachKeyPress(m_date, &m_lib, QStringLiteral("D"));
     qor::KeyFilterAdapter::attachKeySpin(m_date, &m_lib);
@@ -30,17 +31,6 @@ InvoiceHeader::InvoiceHeader(clsqorGenLib &lib, QWidget *parent)
     connect(m_date, &QLineEdit::editingFinished, this, &InvoiceHeader::checkDate);
     connect(m_time, &QLineEdit::editingFinished, this, &InvoiceHeader::checkTime);
     retranslate();
-}
-
-QLineEdit *InvoiceHeader::addField(const char *objectName)
-{
-    auto *field = new QLineEdit(this);
-    field->setObjectName(QLatin1String(objectName));
-    auto *label = new QLabel(this);
-    label->setObjectName(QStringLiteral("lbl") + QLatin1String(objectName + 3));
-    label->setBuddy(field);
-    m_form->addRow(label, field);
-    return field;
 }
 
 void InvoiceHeader::retranslate()

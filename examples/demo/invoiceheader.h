@@ -24,7 +24,6 @@ public:
     QString reference() const;
 
 private:
-    QLineEdit *addField(const char *objectName);
     void makeReference();
     void checkDate();
     void checkTime();
