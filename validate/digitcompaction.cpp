@@ -94,11 +94,11 @@ __attribute__((target("ssse3"))) qsizetype compactDigitsEightAtATime(
         const unsigned notTaken = (0xFFu << (next - start)) & 0xFFu;
         return kept + writeFlagged(eight, digitFlags(eight) & notTaken, out + kept);
     }
+    // Shorter than eight: padded with NULs, which are no digits.
     std::array<char16_t, 8> padded {};
     std::copy(text, text + size, padded.begin());
     const __m128i eight = loadEight(padded.data());
-    const unsigned present = (1u << size) - 1;
-    return kept + writeFlagged(eight, digitFlags(eight) & present, out + kept);
+    return kept + writeFlagged(eight, digitFlags(eight), out + kept);
 }
 
 #else
