@@ -2,6 +2,8 @@
 # program itself driven as a separate process through `qorgen batch` and `qorgen call`.
 qor_add_test(tst_jsoncodec ${dir}/tst_jsoncodec.cpp)
 target_link_libraries(tst_jsoncodec PRIVATE qorgenbridge)
+qor_add_test(tst_jsonwriter ${dir}/tst_jsonwriter.cpp)
+target_link_libraries(tst_jsonwriter PRIVATE qorgenbridge)
 
 
 qor_add_test(tst_hostobjects ${dir}/tst_hostobjects.cpp)
