@@ -44,4 +44,26 @@ std::shared_ptr<Platform> Platform::install(std::shared_ptr<Platform> platform)
     return previous;
 }
 
+QRect ScreenInfo::workArea() const
+{
+    QRect area(origin, QSize(width, height));
+    if (!taskbar)
+        return area;
+    const QRect bar = *taskbar & area;
+    if (bar.isEmpty())
+        return area;
+    if (bar.width() >= area.width()) {
+        if (bar.top() <= area.top())
+            area.setTop(bar.bottom() + 1);
+        else
+            area.setBottom(bar.top() - 1);
+    } else if (bar.height() >= area.height()) {
+        if (bar.left() <= area.left())
+            area.setLeft(bar.right() + 1);
+        else
+            area.setRight(bar.left() - 1);
+    }
+    return area;
+}
+
 } // namespace qor

@@ -8,8 +8,8 @@
 #include <QByteArray>
 #include <QDateTime>
 #include <QIODevice>
-#include <QObject>
 #include <QList>
+#include <QObject>
 #include <QPoint>
 #include <QRect>
 #include <QString>
@@ -80,6 +80,9 @@ struct QORGENLIB_EXPORT ScreenInfo
     std::optional<QRect> taskbar; // in pixels, when the system has one
     QPoint cursor; // pixels
     QPoint origin; // top-left pixel of the desktop
+
+    // The desktop without a taskbar that runs along a whole edge of it.
+    QRect workArea() const;
 };
 
 // The classic attribute bits of a file (docs/linux.md says how a file of this

@@ -1,7 +1,7 @@
 #include "calculator/qt/vatnoteform.h"
 
-#include <QCursor>
-#include <QGuiApplication>
+#include "platform/platform.h"
+
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QScreen>
@@ -15,10 +15,9 @@ namespace {
 constexpr int extraWidthTwips = 40;
 constexpr int gapPixels = 4;
 
-int twipsToPixels(int twips, const QScreen *screen)
+int twipsToPixels(int twips, const ScreenInfo &screen)
 {
-    const double dpi = screen ? screen->logicalDotsPerInchX() : 96.0;
-    return qMax(1, qRound(twips * dpi / 1440.0));
+    return qMax(1, qRound(double(twips) / qMax(1, screen.twipsPerPixelX)));
 }
 
 } // namespace
@@ -40,10 +39,10 @@ VatNoteForm::VatNoteForm(const QString &text, QWidget *field)
     auto *layout = new QHBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(m_label);
-    const QScreen *screen = field ? field->screen() : QGuiApplication::primaryScreen();
+    const ScreenInfo screen = platform().screen();
     setFixedSize(m_label->sizeHint().width() + twipsToPixels(extraWidthTwips, screen),
         m_label->sizeHint().height() + 2);
-    placeBeside(field);
+    placeBeside(field, screen);
 }
 
 VatNoteForm *VatNoteForm::flash(const QString &text, QWidget *field)
@@ -60,14 +59,13 @@ void VatNoteForm::showEvent(QShowEvent *event)
     QTimer::singleShot(lifetimeMs, this, &QWidget::close);
 }
 
-// Right of the field at its height, or left of it when the screen ends there.
-void VatNoteForm::placeBeside(QWidget *field)
+// Right of the field at its height, or left of it when the field's screen ends
+// there; at the mouse pointer, within the work area, without a field.
+void VatNoteForm::placeBeside(QWidget *field, const ScreenInfo &screen)
 {
-    const QScreen *screen = field ? field->screen() : QGuiApplication::screenAt(QCursor::pos());
-    if (!screen)
-        screen = QGuiApplication::primaryScreen();
-    const QRect area = screen ? screen->availableGeometry() : QRect(0, 0, 1024, 768);
-    QRect beside(QCursor::pos(), size());
+    const QRect area
+        = field && field->screen() ? field->screen()->availableGeometry() : screen.workArea();
+    QRect beside(screen.cursor, size());
     if (field) {
         const QRect fieldRect(field->mapToGlobal(QPoint(0, 0)), field->size());
         beside.moveTopLeft(QPoint(fieldRect.right() + gapPixels, fieldRect.top()));

@@ -7,6 +7,8 @@ class QLabel;
 
 namespace qor {
 
+struct ScreenInfo;
+
 // The VAT note: a borderless label beside an amount field that closes itself
 // half a second after it is shown (on the monotonic clock). It never takes
 // the focus and never holds up the caller.
@@ -29,7 +31,7 @@ protected:
     void showEvent(QShowEvent *event) override;
 
 private:
-    void placeBeside(QWidget *field);
+    void placeBeside(QWidget *field, const ScreenInfo &screen);
 
     QLabel *m_label = nullptr;
     QElapsedTimer m_shown;
