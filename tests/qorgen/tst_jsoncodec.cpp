@@ -289,14 +289,6 @@ private slots:
         QCOMPARE(first->parent(), object);
         auto *style = qobject_cast<HostObject *>(object->value("Style").value<QObject *>());
         QCOMPARE(style->value("BackColor").toInt(), 255);
-
-        const QVariant date = decode(
-            R"({"$object": "DateControl", "Calendar": {"Holidays": "1/1,25/12"}})", &owner);
-        auto *calendar
-            = qobject_cast<HostObject *>(qobject_cast<HostObject *>(date.value<QObject *>())
-                                             ->value("Calendar")
-                                             .value<QObject *>());
-        QCOMPARE(calendar->value("Holidays").toString(), QStringLiteral("1/1,25/12"));
     }
 
     void encodingEndsAtACycle()
