@@ -46,7 +46,6 @@ private slots:
         QTest::newRow("Empty") << QVariant() << "" << "";
         QTest::newRow("True") << QVariant(true) << "True" << "True";
         QTest::newRow("Integer") << qor::integerVariant(-32768) << "-32768" << "-32768";
-        QTest::newRow("Long") << QVariant(2147483647) << "2147483647" << "2147483647";
         QTest::newRow("64-bit whole number") << QVariant(qlonglong(-9223372036854775807LL)) << "-9223372036854775807" << "-9223372036854775807";
         QTest::newRow("Double shows 15 digits") << QVariant(0.1 + 0.2) << "0,3" << "0.3";
         QTest::newRow("1E15 in exponent form") << QVariant(1e15) << "1E+15" << "1E+15";
@@ -88,7 +87,6 @@ private slots:
         QTest::newRow("nl: comma decimal") << "nl_BE" << QVariant("12,5") << 12.5;
         QTest::newRow("nl: point groups") << "nl_BE" << QVariant("12.5") << 125.0;
         QTest::newRow("nl: grouped amount") << "nl_BE" << QVariant("-1.234,56") << -1234.56;
-        QTest::newRow("us: point decimal") << "en_US" << QVariant("12.5") << 12.5;
         QTest::newRow("us: comma groups") << "en_US" << QVariant("1,234.5") << 1234.5;
         QTest::newRow("fr: blank groups") << "fr_BE" << QVariant("1 234,5") << 1234.5;
         QTest::newRow("blanks around, plus sign") << "nl_BE" << QVariant("  +7  ") << 7.0;
@@ -118,7 +116,6 @@ private slots:
         // clang-format off
         QTest::newRow("CDbl: Null") << "CDbl" << "nl_BE" << qor::nullVariant() << 94;
         QTest::newRow("CDbl: empty text") << "CDbl" << "nl_BE" << QVariant("") << 13;
-        QTest::newRow("CDbl: letters") << "CDbl" << "nl_BE" << QVariant("abc") << 13;
         QTest::newRow("CDbl: number followed by text") << "CDbl" << "nl_BE" << QVariant("12 EUR") << 13;
         QTest::newRow("CDbl us: Belgian notation") << "CDbl" << "en_US" << QVariant("1.234,5") << 13;
         QTest::newRow("CDbl nl: two decimal separators") << "CDbl" << "nl_BE" << QVariant("1,2,3") << 13;

@@ -30,7 +30,6 @@ private slots:
         QTest::newRow("month 0 is December of the year before") << 2000 << 0 << 1 << QDate(1999, 12, 1);
         QTest::newRow("month 13 is January of the next year") << 2004 << 13 << 1 << QDate(2005, 1, 1);
         QTest::newRow("negative month") << 2004 << -1 << 10 << QDate(2003, 11, 10);
-        QTest::newRow("29 February of a common year") << 2001 << 2 << 29 << QDate(2001, 3, 1);
         QTest::newRow("day 400") << 2005 << 1 << 400 << QDate(2006, 2, 4);
         QTest::newRow("negative day") << 2005 << 3 << -1 << QDate(2005, 2, 27);
         QTest::newRow("year 29 is 2029") << 29 << 6 << 1 << QDate(2029, 6, 1);
@@ -135,13 +134,11 @@ private slots:
         QTest::newRow("us: month first") << "en_US" << "1/2/2003" << at(QDate(2003, 1, 2));
         QTest::newRow("nl: impossible month read the other way") << "nl_BE" << "12/31/2000" << at(QDate(2000, 12, 31));
         QTest::newRow("nl: two-digit year in the window") << "nl_BE" << "31-12-99" << at(QDate(1999, 12, 31));
-        QTest::newRow("nl: 29 is 2029") << "nl_BE" << "1.1.29" << at(QDate(2029, 1, 1));
         QTest::newRow("year first") << "nl_BE" << "2024-03-05" << at(QDate(2024, 3, 5));
         QTest::newRow("nl: Dutch month name") << "nl_BE" << "5 maart 2024" << at(QDate(2024, 3, 5));
         QTest::newRow("us: month name first") << "en_US" << "Mar 5 2024" << at(QDate(2024, 3, 5));
         QTest::newRow("date and time") << "nl_BE" << " 31/12/2000 14:30 " << at(QDate(2000, 12, 31), QTime(14, 30));
         QTest::newRow("time alone lies on the zero date") << "nl_BE" << "8:30" << at(zero, QTime(8, 30));
-        QTest::newRow("time with seconds") << "nl_BE" << "23:59:59" << at(zero, QTime(23, 59, 59));
         QTest::newRow("us: PM") << "en_US" << "2:30 PM" << at(zero, QTime(14, 30));
         QTest::newRow("us: 12 AM is midnight") << "en_US" << "12:00 AM" << at(zero, QTime(0, 0));
         QTest::newRow("29 February of a common year") << "nl_BE" << "29/02/2001" << QDateTime();
