@@ -154,12 +154,35 @@ private slots:
         QVERIFY(JsonWriter::indented(value).contains("\n  \"text\": "));
     }
 
-    // Library values from JSON. Whole numbers take the smallest subtype that holds them; the rest
-    // of the subtypes are checked end to end through the program.
-    void wholeNumberSubtypes()
+    // Library values from JSON and back as they were, with their Variant subtype; whole
+    // numbers take the smallest subtype that holds them.
+    void valuesBothWays_data()
     {
-        QCOMPARE(varTypeName(decode("-32768")), QStringLiteral("Integer"));
-        QCOMPARE(varTypeName(decode("3000000000")), QStringLiteral("Double"));
+        QTest::addColumn<QByteArray>("text");
+        QTest::addColumn<QString>("subtype");
+        QTest::addColumn<QByteArray>("written"); // empty: as read
+        // clang-format off
+        QTest::newRow("Integer") << QByteArray("-32768") << "Integer" << QByteArray();
+        QTest::newRow("Long") << QByteArray("40000") << "Long" << QByteArray();
+        QTest::newRow("beyond a Long") << QByteArray("3000000000") << "Double" << QByteArray("3e+09");
+        QTest::newRow("Double with a whole value") << QByteArray("12.0") << "Double" << QByteArray();
+        QTest::newRow("String") << QByteArray("\"caf\xc3\xa9\\r\\r\"") << "String" << QByteArray();
+        QTest::newRow("Boolean") << QByteArray("true") << "Boolean" << QByteArray();
+        QTest::newRow("Null") << QByteArray("null") << "Null" << QByteArray();
+        QTest::newRow("Empty") << QByteArray(R"({"$empty":true})") << "Empty" << QByteArray();
+        QTest::newRow("Date and time") << QByteArray(R"({"$date":"2004-05-20T08:30:00"})") << "Date" << QByteArray();
+        QTest::newRow("Date") << QByteArray(R"({"$date":"2004-05-20"})") << "Date" << QByteArray();
+        QTest::newRow("Array") << QByteArray(R"([1,"a",null,{"$empty":true},[2.5]])") << "Array" << QByteArray();
+        // clang-format on
+    }
+    void valuesBothWays()
+    {
+        QFETCH(QByteArray, text);
+        const QVariant value = decode(text);
+        QTEST(varTypeName(value), "subtype");
+        QTEST(ValueCodec::typeOf(value).toString(), "subtype");
+        QFETCH(QByteArray, written);
+        QCOMPARE(encoded(value), written.isEmpty() ? text : written);
     }
 
     void decodeRejects_data()
