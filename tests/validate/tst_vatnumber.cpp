@@ -78,14 +78,6 @@ private slots:
         // clang-format on
     }
     void throughTheLibrary() { test::compareMethodCall(QStringLiteral("ControleerVAT")); }
-
-    void directCallIsSilentByDefault()
-    {
-        const auto machine = test::installRecordingPlatform();
-        QString vatNr = QStringLiteral("0123.456.748");
-        QCOMPARE(clsqorGenLib().ControleerVAT(vatNr), QString());
-        QVERIFY(machine->shown().isEmpty());
-    }
 };
 
 QTEST_APPLESS_MAIN(TestVatNumber)
