@@ -77,7 +77,6 @@ private slots:
         QTest::addColumn<QVariant>("result");
         // clang-format off
         QTest::newRow("lower case") << "llgenlib" << QVariantList { 1028 } << QVariant("Ja");
-        QTest::newRow("upper case") << "LLGENLIB" << QVariantList { 21028 } << QVariant("Yes");
         QTest::newRow("number text to Long") << "LLGenLib" << QVariantList { "11028" } << QVariant("Oui");
         QTest::newRow("Double rounded to Long") << "LLGenLib" << QVariantList { 1028.4 } << QVariant("Ja");
         QTest::newRow("amount text in the locale") << "SetEuro" << QVariantList { "1234,5", 1 } << QVariant("1.234,50 EUR");
@@ -107,12 +106,10 @@ private slots:
         QTest::newRow("EUR") << QVariant(1) << " EUR";
         QTest::newRow("euro sign") << QVariant(2) << QStringLiteral(" \u20AC");
         QTest::newRow("beyond the members") << QVariant(7) << "";
-        QTest::newRow("negative") << QVariant(-1) << "";
         QTest::newRow("True is -1") << QVariant(true) << "";
         QTest::newRow("largest Long") << QVariant(2147483647) << "";
         QTest::newRow("smallest Long") << QVariant(-2147483647 - 1) << "";
         QTest::newRow("text of a member") << QVariant(QStringLiteral("1")) << " EUR";
-        QTest::newRow("a date") << QVariant(QDateTime(QDate(2004, 5, 20), QTime(0, 0))) << "";
         // clang-format on
     }
     void enumerationArgumentsTakeAnyLong()
