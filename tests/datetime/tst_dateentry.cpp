@@ -61,6 +61,7 @@ private slots:
         QTest::newRow("all zeros roll back twice") << nl << "000000" << missing << "30/11/1999" << "30/11/1999" << "";
         QTest::newRow("five digits") << nl << "12345" << missing << "" << "12345" << notation;
         QTest::newRow("seven digits") << nl << "1234567" << missing << "" << "1234567" << notation;
+        QTest::newRow("a megabyte of digits") << nl << QString(1 << 20, '1') << missing << "" << QString(1 << 20, '1') << notation;
         QTest::newRow("a letter among six") << nl << "12a456" << missing << "" << "12a456" << notation;
         QTest::newRow("negative number") << nl << "-12345" << missing << "" << "-12345" << notation;
         QTest::newRow("slashes, two-digit year") << nl << "1/2/03" << missing << "1/02/2003" << "1/02/2003" << "";
@@ -169,16 +170,6 @@ private slots:
         QString dt = input;
         QCOMPARE(lib.ControleerDatum(dt), QString());
         QCOMPARE(test::onlyMessage(*machine), test::messageBox(prompt, 48, title));
-    }
-
-    void megabyteIsRefused()
-    {
-        const auto machine = installDateMachine(QStringLiteral("nl_BE"));
-        clsqorGenLib lib;
-        QString dt = QString(1 << 20, QLatin1Char('1'));
-        QCOMPARE(lib.ControleerDatum(dt), QString());
-        QCOMPARE(dt.size(), 1 << 20);
-        QCOMPARE(machine->shown().size(), 1);
     }
 };
 
