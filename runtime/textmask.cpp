@@ -1,4 +1,5 @@
 #include "runtime/textmask.h"
+#include "runtime/textstorage.h"
 
 #include "runtime/patternliteral.h"
 
@@ -68,8 +69,7 @@ void TextMask::applyExact(QStringView text, QString &out) const
             0, std::min(slotCount, text.size() - offset) - std::max<qsizetype>(0, -offset));
         size = size - slotCount + filled;
     }
-    out.resize(size);
-    char16_t *write = reinterpret_cast<char16_t *>(out.data());
+    char16_t *write = sizedForWriting(out, size);
     char16_t *const start = write;
     const char16_t *source = reinterpret_cast<const char16_t *>(text.data());
     qsizetype slot = 0;
@@ -97,8 +97,7 @@ void TextMask::applyExact(QStringView text, QString &out) const
 // the literals as they stand, each placeholder taking the next character.
 void TextMask::fillSlots(QStringView text, QString &out) const
 {
-    out.resize(m_literalsAndSlots.size());
-    char16_t *write = reinterpret_cast<char16_t *>(out.data());
+    char16_t *write = sizedForWriting(out, m_literalsAndSlots.size());
     std::copy_n(reinterpret_cast<const char16_t *>(m_literalsAndSlots.constData()),
         m_literalsAndSlots.size(), write);
     const char16_t *source = reinterpret_cast<const char16_t *>(text.data());

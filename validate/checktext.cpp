@@ -1,5 +1,9 @@
 #include "validate/checktext.h"
 
+#include "validate/digitcompaction.h"
+
+#include <algorithm>
+
 namespace qor {
 
 bool isBlank(QStringView text)
@@ -75,7 +79,10 @@ double digitsValue(QStringView digits)
     return value;
 }
 
-void keepDigits(QString &text)
+namespace {
+
+// FilterNumeric one character at a time.
+void keepDigitsOneByOne(QString &text)
 {
     const char16_t *begin = reinterpret_cast<const char16_t *>(text.constData());
     const qsizetype size = text.size();
@@ -96,14 +103,32 @@ void keepDigits(QString &text)
     text.resize(kept);
 }
 
+} // namespace
+
+void keepDigits(QString &text)
+{
+    // Identifiers are short: eight characters at a time into a buffer on the stack.
+    constexpr qsizetype longestAtOnce = 64;
+    const qsizetype size = text.size();
+    if (size > longestAtOnce || !canCompactDigitsEightAtATime())
+        return keepDigitsOneByOne(text);
+    char16_t digits[longestAtOnce + 8];
+    const qsizetype kept = compactDigitsEightAtATime(
+        reinterpret_cast<const char16_t *>(text.constData()), size, digits);
+    if (kept == size)
+        return; // all digits: left untouched, not even detached
+    std::copy_n(digits, kept, reinterpret_cast<char16_t *>(text.data()));
+    text.resize(kept);
+}
+
 void assignText(QString &storage, QStringView text)
 {
     if (text.isNull()) {
         storage = QString();
         return;
     }
-    storage.resize(text.size());
-    std::copy(text.begin(), text.end(), storage.begin());
+    const char16_t *from = text.utf16();
+    std::copy(from, from + text.size(), sizedForWriting(storage, text.size()));
 }
 
 } // namespace qor

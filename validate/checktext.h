@@ -1,5 +1,6 @@
 #pragma once
 
+#include "runtime/textstorage.h"
 #include "validate/checkresult.h"
 
 #include <QString>
@@ -40,6 +41,18 @@ void keepDigits(QString &text);
 
 // storage = text, reusing the storage's buffer when it is large enough.
 void assignText(QString &storage, QStringView text);
+
+// text is exactly the Latin-1 text expected (a land code, a marker digit).
+inline bool isText(QStringView text, QLatin1StringView expected)
+{
+    if (text.size() != expected.size())
+        return false;
+    for (qsizetype i = 0; i < text.size(); ++i) {
+        if (text[i].unicode() != uchar(expected[i].toLatin1()))
+            return false;
+    }
+    return true;
+}
 
 // The display of a number that is not shown: emptied, keeping its buffer. The
 // checks empty it only on the way out, as an accepted number overwrites it anyway.

@@ -16,6 +16,17 @@ double partValue(QStringView part, const RegionalSettings &rs)
     return cGetalValue(QVariant(part.toString()), rs);
 }
 
+bool checkDigitsMatch(QStringView twelveCharacters, const RegionalSettings &rs)
+{
+    const QStringView firstPart = leftPart(twelveCharacters, 10);
+    const QStringView check = rightPart(twelveCharacters, 2);
+    // Ten digits are exact in double precision, so the whole-number remainder
+    // is the one the double computation gives.
+    if (isAsciiDigits(twelveCharacters))
+        return digitsNumber(check) == digitsNumber(firstPart) % 97;
+    return partValue(check, rs) == remainder97(partValue(firstPart, rs));
+}
+
 } // namespace
 
 Verdict checkIdentityCard(QString &identNr, const RegionalSettings &rs, QString &display)
@@ -26,12 +37,11 @@ Verdict checkIdentityCard(QString &identNr, const RegionalSettings &rs, QString 
     if (identNr.size() != 12)
         return Verdict::Refused;
     // The card number is kept with check digits "00" for a remainder of 0.
-    if (identNr.endsWith(QLatin1String("97"))) {
+    if (isText(rightPart(identNr, 2), QLatin1String("97"))) {
         identNr[10] = QLatin1Char('0');
         identNr[11] = QLatin1Char('0');
     }
-    const double remainder = remainder97(partValue(leftPart(identNr, 10), rs));
-    if (partValue(rightPart(identNr, 2), rs) != remainder)
+    if (!checkDigitsMatch(identNr, rs))
         return Verdict::Refused;
     assignText(display, identNr);
     return Verdict::Accepted;

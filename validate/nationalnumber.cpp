@@ -18,7 +18,7 @@ qint32 checkFrom2000(qint32 checkBefore2000)
 
 Verdict checkNationalNumber(QString &natNr, const QString &landCode, QString &display)
 {
-    if (!landCode.isEmpty() && landCode != QLatin1String("BE")) {
+    if (!landCode.isEmpty() && !isText(landCode, QLatin1String("BE"))) {
         assignText(display, natNr);
         return Verdict::Accepted;
     }

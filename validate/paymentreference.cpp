@@ -1,7 +1,10 @@
 #include "validate/paymentreference.h"
 
-#include "runtime/conversion.h"
+#include "runtime/runtimeerror.h"
 #include "validate/checktext.h"
+
+#include <algorithm>
+#include <limits>
 
 namespace qor {
 
@@ -12,8 +15,7 @@ constexpr qsizetype referenceDigits = 10;
 // Twelve digits in the form 000/0000/00000.
 void writeOgmNotation(const char16_t *twelveDigits, QString &out)
 {
-    out.resize(14);
-    char16_t *write = reinterpret_cast<char16_t *>(out.data());
+    char16_t *write = sizedForWriting(out, 14);
     write = std::copy(twelveDigits, twelveDigits + 3, write);
     *write++ = u'/';
     write = std::copy(twelveDigits + 3, twelveDigits + 7, write);
@@ -46,23 +48,29 @@ void writeNumber(qint64 value, QString &out)
 
 bool checkDigitsMatch(QStringView twelveDigits)
 {
-    const double firstPart = digitsValue(leftPart(twelveDigits, 10));
-    const double check = digitsValue(rightPart(twelveDigits, 2));
-    // Integer division on 32 bits: raises Overflow for a first part beyond it.
-    return check == firstPart - 97.0 * vbIntDiv(firstPart, 97);
+    const qint64 firstPart = digitsNumber(leftPart(twelveDigits, 10));
+    // The remainder is worked out by an integer division on 32 bits, which
+    // raises Overflow for a first part beyond it.
+    if (firstPart > std::numeric_limits<qint32>::max())
+        throw RuntimeError::overflow();
+    return digitsNumber(rightPart(twelveDigits, 2)) == firstPart % 97;
 }
 
-// The digits of text, copied into storage.
+bool isDigit(QChar c)
+{
+    return c >= QLatin1Char('0') && c <= QLatin1Char('9');
+}
+
+// The digits of text, copied into storage: counted first, so that storage
+// holding as many digits as the last number is written without resizing.
 void copyDigits(QStringView text, QString &digits)
 {
-    digits.resize(text.size());
-    char16_t *write = reinterpret_cast<char16_t *>(digits.data());
-    char16_t *const start = write;
+    const qsizetype count = std::count_if(text.begin(), text.end(), isDigit);
+    char16_t *write = sizedForWriting(digits, count);
     for (QChar c : text) {
-        if (c >= QLatin1Char('0') && c <= QLatin1Char('9'))
+        if (isDigit(c))
             *write++ = c.unicode();
     }
-    digits.resize(write - start);
 }
 
 } // namespace

@@ -11,12 +11,12 @@ Verdict checkVatNumber(QString &vatNr, QString &landCode, QString &display)
         return nothingShown(display, Verdict::Skipped);
     if (landCode.isEmpty())
         landCode = QStringLiteral("BE");
-    if (landCode != QLatin1String("BE")) {
+    if (!isText(landCode, QLatin1String("BE"))) {
         assignText(display, vatNr);
         return Verdict::Accepted;
     }
     // A deliberate "0" stands for a number that is known to be absent.
-    if (vatNr == QLatin1String("0")) {
+    if (isText(vatNr, QLatin1String("0"))) {
         assignText(display, u"0000.000.000");
         return Verdict::Accepted;
     }

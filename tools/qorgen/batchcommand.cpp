@@ -42,6 +42,7 @@ int BatchCommand::run(std::FILE *in, std::FILE *out)
     QByteArray line;
     QByteArray pending;
     pending.reserve(outputBlock * 2);
+    JsonWriter response(pending);
     for (;;) {
         const LineReader::Status status = reader.next(line);
         if (status == LineReader::Status::End)
@@ -49,13 +50,11 @@ int BatchCommand::run(std::FILE *in, std::FILE *out)
         if (status == LineReader::Status::Line && isBlank(line))
             continue;
         if (status == LineReader::Status::TooLong) {
-            JsonWriter::appendCompact(pending,
-                Session::unreadable(RequestError::unreadable(
-                                        QStringLiteral("the request line is longer than %1 bytes")
-                                            .arg(reader.maxLength())))
-                    .response);
+            Session::writeUnreadable(response,
+                RequestError::unreadable(QStringLiteral("the request line is longer than %1 bytes")
+                                             .arg(reader.maxLength())));
         } else {
-            JsonWriter::appendCompact(pending, session.handleLine(line).response);
+            session.handleLine(line, response);
         }
         pending.append('\n');
         // A caller that writes one line and waits for its answer gets it at once.

@@ -79,8 +79,8 @@ QString commandHelpText(const QString &command)
         const bool startsCommand = line.startsWith(QLatin1String("  qorgen "));
         if (startsCommand && !part.isEmpty())
             break;
-        if (part.isEmpty() && !(startsCommand
-                                  && (line == heading || line.startsWith(heading + QLatin1Char(' ')))))
+        if (part.isEmpty()
+            && !(startsCommand && (line == heading || line.startsWith(heading + QLatin1Char(' ')))))
             continue;
         part.append(line);
     }

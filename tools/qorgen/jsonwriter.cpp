@@ -1,7 +1,10 @@
 #include "tools/qorgen/jsonwriter.h"
 
+#include "tools/qorgen/jsonvalue.h"
+
 #include <QLocale>
 
+#include <algorithm>
 #include <charconv>
 #include <cmath>
 
@@ -9,153 +12,297 @@ namespace qor {
 
 namespace {
 
+const char hexDigits[] = "0123456789abcdef";
+
 // A whole-valued number written without fraction or exponent gets ".0".
-void markFractional(QByteArray &digits)
+char *markFractional(char *begin, char *end)
 {
-    for (char c : digits) {
-        if (c == '.' || c == 'e' || c == 'E')
-            return;
+    for (const char *c = begin; c != end; ++c) {
+        if (*c == '.' || *c == 'e' || *c == 'E')
+            return end;
     }
-    digits.append(".0");
+    *end++ = '.';
+    *end++ = '0';
+    return end;
 }
 
-const char hexDigits[] = "0123456789abcdef";
+// The UTF-8 of one character (or of a surrogate pair, which moves `i` on) at
+// `write`; a lone surrogate is written as '?'.
+char *writeUtf8(QStringView text, qsizetype &i, char *write)
+{
+    const char16_t c = text[i].unicode();
+    if (c < 0x800) {
+        *write++ = char(0xC0 | (c >> 6));
+        *write++ = char(0x80 | (c & 0x3F));
+        return write;
+    }
+    if (!QChar::isSurrogate(c)) {
+        *write++ = char(0xE0 | (c >> 12));
+        *write++ = char(0x80 | ((c >> 6) & 0x3F));
+        *write++ = char(0x80 | (c & 0x3F));
+        return write;
+    }
+    if (QChar::isHighSurrogate(c) && i + 1 < text.size() && text[i + 1].isLowSurrogate()) {
+        const char32_t u = QChar::surrogateToUcs4(c, text[++i].unicode());
+        *write++ = char(0xF0 | (u >> 18));
+        *write++ = char(0x80 | ((u >> 12) & 0x3F));
+        *write++ = char(0x80 | ((u >> 6) & 0x3F));
+        *write++ = char(0x80 | (u & 0x3F));
+        return write;
+    }
+    *write++ = '?';
+    return write;
+}
+
+// The escape of an ASCII character JSON does not take as it is.
+char *writeEscape(unsigned char c, char *write)
+{
+    *write++ = '\\';
+    switch (c) {
+    case '"': *write++ = '"'; break;
+    case '\\': *write++ = '\\'; break;
+    case '\b': *write++ = 'b'; break;
+    case '\f': *write++ = 'f'; break;
+    case '\n': *write++ = 'n'; break;
+    case '\r': *write++ = 'r'; break;
+    case '\t': *write++ = 't'; break;
+    default:
+        *write++ = 'u';
+        *write++ = '0';
+        *write++ = '0';
+        *write++ = hexDigits[c >> 4];
+        *write++ = hexDigits[c & 0xF];
+    }
+    return write;
+}
 
 } // namespace
 
-JsonWriter::JsonWriter(bool indent)
-    : m_indent(indent)
-{ }
+JsonWriter::JsonWriter(QByteArray &out, bool indent)
+    : m_out(out)
+    , m_indent(indent)
+{
+    m_hasElement.reserve(16);
+}
 
 QByteArray JsonWriter::compact(const JsonValue &value)
 {
-    JsonWriter writer(false);
-    writer.m_out.reserve(1024);
-    writer.write(value, 0);
-    return writer.m_out;
+    QByteArray out;
+    out.reserve(1024);
+    appendCompact(out, value);
+    return out;
 }
 
 void JsonWriter::appendCompact(QByteArray &out, const JsonValue &value)
 {
-    JsonWriter writer(false);
-    writer.m_out.swap(out);
-    writer.write(value, 0);
-    writer.m_out.swap(out);
+    JsonWriter(out).value(value);
 }
 
 QByteArray JsonWriter::indented(const JsonValue &value)
 {
-    JsonWriter writer(true);
-    writer.write(value, 0);
-    writer.m_out.append('\n');
-    return writer.m_out;
+    QByteArray out;
+    JsonWriter(out, true).value(value);
+    out.append('\n');
+    return out;
 }
 
-void JsonWriter::write(const JsonValue &value, int level)
+void JsonWriter::beforeValue()
 {
-    switch (value.kind()) {
-    case JsonValue::Kind::Null: m_out.append("null"); break;
-    case JsonValue::Kind::Boolean: m_out.append(value.toBool() ? "true" : "false"); break;
-    case JsonValue::Kind::Integer: m_out.append(QByteArray::number(value.toInteger())); break;
-    case JsonValue::Kind::Single: writeSingle(value.toSingle()); break;
-    case JsonValue::Kind::Double: writeDouble(value.toDouble()); break;
-    case JsonValue::Kind::String: writeString(value.toString()); break;
-    case JsonValue::Kind::Array: writeArray(value.toArray(), level); break;
-    case JsonValue::Kind::Object: writeObject(value.toObject(), level); break;
+    if (m_afterKey) {
+        m_afterKey = false;
+        return;
     }
+    if (m_hasElement.empty())
+        return claim();
+    if (m_hasElement.back())
+        put(',');
+    m_hasElement.back() = true;
+    newLine(qsizetype(m_hasElement.size()));
 }
 
-void JsonWriter::newLine(int level)
+void JsonWriter::afterValue()
+{
+    if (m_hasElement.empty())
+        settle();
+}
+
+void JsonWriter::claim()
+{
+    const qsizetype size = m_out.size();
+    m_out.resize(std::max(m_out.capacity(), size + 256));
+    m_write = m_out.data() + size;
+    m_limit = m_out.data() + m_out.size();
+}
+
+void JsonWriter::settle()
+{
+    m_out.resize(m_write - m_out.data());
+    m_write = m_limit = nullptr;
+}
+
+void JsonWriter::grow(qsizetype n)
+{
+    const qsizetype size = m_write - m_out.data();
+    m_out.resize(std::max(size + n, 2 * m_out.size()));
+    m_write = m_out.data() + size;
+    m_limit = m_out.data() + m_out.size();
+}
+
+void JsonWriter::put(char c)
+{
+    makeRoom(1);
+    *m_write++ = c;
+}
+
+void JsonWriter::append(const char *text, qsizetype size)
+{
+    makeRoom(size);
+    m_write = std::copy_n(text, size, m_write);
+}
+
+void JsonWriter::open(char bracket)
+{
+    beforeValue();
+    put(bracket);
+    m_hasElement.push_back(false);
+}
+
+void JsonWriter::close(char bracket)
+{
+    const bool any = m_hasElement.back();
+    m_hasElement.pop_back();
+    if (any)
+        newLine(qsizetype(m_hasElement.size()));
+    put(bracket);
+    afterValue();
+}
+
+void JsonWriter::newLine(qsizetype level)
 {
     if (!m_indent)
         return;
-    m_out.append('\n');
-    m_out.append(QByteArray(level * 2, ' '));
+    makeRoom(1 + 2 * level);
+    *m_write++ = '\n';
+    m_write = std::fill_n(m_write, 2 * level, ' ');
 }
 
-void JsonWriter::writeArray(const JsonValue::Array &array, int level)
+void JsonWriter::beginObject()
 {
-    m_out.append('[');
-    for (size_t i = 0; i < array.size(); ++i) {
-        if (i > 0)
-            m_out.append(',');
-        newLine(level + 1);
-        write(array[i], level + 1);
+    open('{');
+}
+
+void JsonWriter::endObject()
+{
+    close('}');
+}
+
+void JsonWriter::beginArray()
+{
+    open('[');
+}
+
+void JsonWriter::endArray()
+{
+    close(']');
+}
+
+void JsonWriter::key(QStringView name)
+{
+    beforeValue();
+    writeString(name);
+    if (m_indent)
+        append(": ", 2);
+    else
+        put(':');
+    m_afterKey = true;
+}
+
+void JsonWriter::null()
+{
+    beforeValue();
+    append("null", 4);
+    afterValue();
+}
+
+void JsonWriter::boolean(bool value)
+{
+    beforeValue();
+    if (value)
+        append("true", 4);
+    else
+        append("false", 5);
+    afterValue();
+}
+
+void JsonWriter::integer(qint64 value)
+{
+    beforeValue();
+    makeRoom(24);
+    m_write = std::to_chars(m_write, m_limit, value).ptr;
+    afterValue();
+}
+
+void JsonWriter::single(float value)
+{
+    beforeValue();
+    if (std::isfinite(value)) {
+        char buffer[40];
+        char *end = std::to_chars(buffer, buffer + 32, value).ptr;
+        end = markFractional(buffer, end);
+        append(buffer, end - buffer);
+    } else {
+        append("null", 4);
     }
-    if (!array.empty())
-        newLine(level);
-    m_out.append(']');
+    afterValue();
 }
 
-void JsonWriter::writeObject(const JsonValue::Object &object, int level)
+void JsonWriter::number(double value)
 {
-    m_out.append('{');
-    for (size_t i = 0; i < object.size(); ++i) {
-        if (i > 0)
-            m_out.append(',');
-        newLine(level + 1);
-        writeString(object[i].first);
-        m_out.append(m_indent ? ": " : ":");
-        write(object[i].second, level + 1);
+    beforeValue();
+    if (std::isfinite(value)) {
+        QByteArray digits = QByteArray::number(value, 'g', QLocale::FloatingPointShortest);
+        digits.resize(digits.size() + 2);
+        char *begin = digits.data();
+        char *end = markFractional(begin, begin + digits.size() - 2);
+        append(begin, end - begin);
+    } else {
+        append("null", 4);
     }
-    if (!object.empty())
-        newLine(level);
-    m_out.append('}');
+    afterValue();
 }
 
-void JsonWriter::writeString(const QString &text)
+void JsonWriter::string(QStringView text)
 {
-    const QByteArray utf8 = text.toUtf8();
-    m_out.append('"');
-    // Runs of characters that need no escape are copied at once.
-    qsizetype runStart = 0;
-    for (qsizetype i = 0; i < utf8.size(); ++i) {
-        const unsigned char byte = static_cast<unsigned char>(utf8[i]);
-        if (byte >= 0x20 && byte != '"' && byte != '\\')
-            continue;
-        m_out.append(utf8.constData() + runStart, i - runStart);
-        runStart = i + 1;
-        switch (byte) {
-        case '"': m_out.append("\\\""); break;
-        case '\\': m_out.append("\\\\"); break;
-        case '\b': m_out.append("\\b"); break;
-        case '\f': m_out.append("\\f"); break;
-        case '\n': m_out.append("\\n"); break;
-        case '\r': m_out.append("\\r"); break;
-        case '\t': m_out.append("\\t"); break;
-        default: {
-            const char escape[]
-                = { '\\', 'u', '0', '0', hexDigits[byte >> 4], hexDigits[byte & 0xF] };
-            m_out.append(escape, sizeof escape);
+    beforeValue();
+    writeString(text);
+    afterValue();
+}
+
+void JsonWriter::writeString(QStringView text)
+{
+    // Room for the worst case, six bytes a character ("\u001f"), a block of
+    // characters at a time: no copy of the text, and no more room than a block
+    // needs however long the text.
+    constexpr qsizetype block = 4096;
+    put('"');
+    for (qsizetype from = 0; from < text.size();) {
+        const qsizetype end = std::min(text.size(), from + block);
+        makeRoom(6 * (end - from) + 6); // a surrogate pair may end past the block
+        char *write = m_write;
+        qsizetype i = from;
+        for (; i < end; ++i) {
+            const char16_t c = text[i].unicode();
+            if (c >= 0x80)
+                write = writeUtf8(text, i, write);
+            else if (c >= 0x20 && c != '"' && c != '\\')
+                *write++ = char(c);
+            else
+                write = writeEscape((unsigned char)c, write);
         }
-        }
+        m_write = write;
+        from = i;
     }
-    m_out.append(utf8.constData() + runStart, utf8.size() - runStart);
-    m_out.append('"');
-}
-
-void JsonWriter::writeDouble(double value)
-{
-    if (!std::isfinite(value)) {
-        m_out.append("null");
-        return;
-    }
-    QByteArray digits = QByteArray::number(value, 'g', QLocale::FloatingPointShortest);
-    markFractional(digits);
-    m_out.append(digits);
-}
-
-void JsonWriter::writeSingle(float value)
-{
-    if (!std::isfinite(value)) {
-        m_out.append("null");
-        return;
-    }
-    char buffer[32];
-    const auto result = std::to_chars(buffer, buffer + sizeof buffer, value);
-    QByteArray digits(buffer, result.ptr - buffer);
-    markFractional(digits);
-    m_out.append(digits);
+    put('"');
 }
 
 } // namespace qor

@@ -23,7 +23,8 @@ void print(std::FILE *stream, const QByteArray &bytes)
 
 int usage()
 {
-    print(stderr, "Usage: qorgen call|batch|methods|records|--help|--version (see qorgen --help)\n");
+    print(
+        stderr, "Usage: qorgen call|batch|methods|records|--help|--version (see qorgen --help)\n");
     return 2;
 }
 

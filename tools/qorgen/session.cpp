@@ -5,6 +5,7 @@
 #include "lib/typelibrary.h"
 #include "platform/recordingplatform.h"
 #include "runtime/variant.h"
+#include "tools/qorgen/jsonbuilder.h"
 #include "tools/qorgen/jsonreader.h"
 #include "tools/qorgen/requesterror.h"
 #include "tools/qorgen/valuecodec.h"
@@ -19,52 +20,71 @@ namespace {
 
 const QString variantType = QStringLiteral("Variant");
 
-JsonValue errorObject(const RuntimeError &error)
+void writeError(JsonSink &out, const RuntimeError &error)
 {
-    return JsonValue::object()
-        .insert(QStringLiteral("number"), error.number())
-        .insert(QStringLiteral("description"), error.description());
+    out.beginObject();
+    out.key(u"number");
+    out.integer(error.number());
+    out.key(u"description");
+    out.string(error.description());
+    out.endObject();
 }
 
 // A plain value of a record of the platform as JSON (texts, numbers, flags, maps).
-JsonValue plainJson(const QVariant &value)
+void writePlain(JsonSink &out, const QVariant &value)
 {
     switch (value.typeId()) {
-    case QMetaType::Bool: return value.toBool();
+    case QMetaType::Bool: return out.boolean(value.toBool());
     case QMetaType::Int:
     case QMetaType::LongLong:
-    case QMetaType::Short: return value.toLongLong();
+    case QMetaType::Short: return out.integer(value.toLongLong());
     case QMetaType::Double:
-    case QMetaType::Float: return value.toDouble();
+    case QMetaType::Float: return out.number(value.toDouble());
     case QMetaType::QVariantMap: {
-        JsonValue object = JsonValue::object();
+        out.beginObject();
         const QVariantMap map = value.toMap();
-        for (auto it = map.begin(); it != map.end(); ++it)
-            object.insert(it.key(), plainJson(it.value()));
-        return object;
+        for (auto it = map.begin(); it != map.end(); ++it) {
+            out.key(it.key());
+            writePlain(out, it.value());
+        }
+        return out.endObject();
     }
-    default: return ValueCodec::encode(value);
+    default: return ValueCodec::write(out, value);
     }
 }
 
 // The fields of a shown record in the order people read them.
-JsonValue shownRecord(const QVariantMap &record)
+void writeShownRecord(JsonSink &out, const QVariantMap &record)
 {
     static const QStringList order { QStringLiteral("kind"), QStringLiteral("prompt"),
         QStringLiteral("text"), QStringLiteral("buttons"), QStringLiteral("title"),
         QStringLiteral("caption"), QStringLiteral("type"), QStringLiteral("default"),
         QStringLiteral("maxLength"), QStringLiteral("start"), QStringLiteral("file"),
         QStringLiteral("continuous"), QStringLiteral("answer") };
-    JsonValue json = JsonValue::object();
+    out.beginObject();
     for (const QString &field : order) {
-        if (record.contains(field))
-            json.insert(field, plainJson(record.value(field)));
+        if (const auto it = record.find(field); it != record.end()) {
+            out.key(field);
+            writePlain(out, it.value());
+        }
     }
     for (auto it = record.begin(); it != record.end(); ++it) {
-        if (!order.contains(it.key()))
-            json.insert(it.key(), plainJson(it.value()));
+        if (!order.contains(it.key())) {
+            out.key(it.key());
+            writePlain(out, it.value());
+        }
     }
-    return json;
+    out.endObject();
+}
+
+// A response of the Reply kind, built by writing into a JsonValue.
+template <typename Write> Session::Reply replyOf(Write write)
+{
+    JsonBuilder json;
+    Session::Reply reply;
+    reply.outcome = write(json);
+    reply.response = json.take();
+    return reply;
 }
 
 bool isWithin(const QObject *object, const QObject *ancestor)
@@ -87,15 +107,15 @@ void collectObjects(const QVariant &value, QList<QObject *> &found, int depth = 
     }
 }
 
-// The published properties with their meta-object index, in type library order.
-const QList<std::pair<const PropertyInfo *, int>> &publishedProperties()
+// The published properties with their meta-object property, in type library order.
+const QList<std::pair<const PropertyInfo *, QMetaProperty>> &publishedProperties()
 {
-    static const QList<std::pair<const PropertyInfo *, int>> properties = [] {
-        QList<std::pair<const PropertyInfo *, int>> list;
+    static const QList<std::pair<const PropertyInfo *, QMetaProperty>> properties = [] {
+        QList<std::pair<const PropertyInfo *, QMetaProperty>> list;
+        const QMetaObject &meta = clsqorGenLib::staticMetaObject;
         for (const PropertyInfo &property : clsqorGenLib::typeLibrary().properties())
             list.append({ &property,
-                clsqorGenLib::staticMetaObject.indexOfProperty(
-                    property.name.toLatin1().constData()) });
+                meta.property(meta.indexOfProperty(property.name.toLatin1().constData())) });
         return list;
     }();
     return properties;
@@ -156,34 +176,61 @@ void Session::setSoundOutput(
 
 Session::Reply Session::handleLine(QByteArrayView utf8)
 {
-    JsonValue json;
-    try {
-        json = JsonReader::parse(utf8);
-    } catch (const RequestError &error) {
-        return unreadable(error);
-    }
-    return handleJson(json);
+    return replyOf([&](JsonSink &out) { return handleLine(utf8, out); });
 }
 
 Session::Reply Session::handleJson(const JsonValue &request)
 {
-    try {
-        return handle(Request::fromJson(request));
-    } catch (const RequestError &error) {
-        return unreadable(error, Request::idOf(request));
-    }
+    return replyOf([&](JsonSink &out) { return handleJson(request, out); });
+}
+
+Session::Reply Session::handle(const Request &request)
+{
+    return replyOf([&](JsonSink &out) { return handle(request, out); });
 }
 
 Session::Reply Session::unreadable(const RequestError &error, const std::optional<JsonValue> &id)
 {
-    JsonValue response = JsonValue::object();
-    if (id)
-        response.insert(QStringLiteral("id"), *id);
-    response.insert(QStringLiteral("error"), errorObject(error));
-    return { std::move(response), Outcome::Unreadable };
+    return replyOf([&](JsonSink &out) { return writeUnreadable(out, error, id); });
 }
 
-Session::Reply Session::handle(const Request &request)
+Session::Outcome Session::handleLine(QByteArrayView utf8, JsonSink &out)
+{
+    JsonValue json;
+    try {
+        json = JsonReader::parse(utf8);
+    } catch (const RequestError &error) {
+        return writeUnreadable(out, error);
+    }
+    return handleJson(json, out);
+}
+
+Session::Outcome Session::handleJson(const JsonValue &request, JsonSink &out)
+{
+    // Nothing is written before the call has run, so a request found wrong on
+    // the way gets the one response that says so.
+    try {
+        return handle(Request::fromJson(request), out);
+    } catch (const RequestError &error) {
+        return writeUnreadable(out, error, Request::idOf(request));
+    }
+}
+
+Session::Outcome Session::writeUnreadable(
+    JsonSink &out, const RequestError &error, const std::optional<JsonValue> &id)
+{
+    out.beginObject();
+    if (id) {
+        out.key(u"id");
+        out.value(*id);
+    }
+    out.key(u"error");
+    writeError(out, error);
+    out.endObject();
+    return Outcome::Unreadable;
+}
+
+Session::Outcome Session::handle(const Request &request, JsonSink &out)
 {
     // The values the request makes (host objects) live as long as the request.
     QObject owner;
@@ -191,18 +238,17 @@ Session::Reply Session::handle(const Request &request)
     try {
         call = prepare(request, &owner);
     } catch (const RequestError &error) {
-        return unreadable(error, request.id);
+        return writeUnreadable(out, error, request.id);
     } catch (const std::bad_alloc &) {
-        return unreadable(
+        return writeUnreadable(out,
             RequestError(7, QStringLiteral("Out of memory: the request is too large")), request.id);
     }
     applyPlatform(request);
     call.id = request.id;
     call.withProperties = request.withProperties;
-    Reply reply;
-    reply.response = run(call, reply.outcome);
+    const Outcome outcome = run(call, out);
     keepHeldObjects(&owner);
-    return reply;
+    return outcome;
 }
 
 Session::Call Session::prepare(const Request &request, QObject *owner) const
@@ -287,89 +333,104 @@ void Session::startFresh()
     m_library = std::make_unique<clsqorGenLib>();
 }
 
-JsonValue Session::run(Call &call, Outcome &outcome)
+Session::Outcome Session::run(Call &call, JsonSink &out)
 {
     QVariant result;
-    JsonValue error;
+    std::optional<RuntimeError> error;
     try {
         for (const auto &[name, value] : call.set)
             m_library->Invoke(name, QVariantList { value });
         if (call.method || call.property)
             result = m_library->Invoke(call.name(), call.args);
     } catch (const RuntimeError &e) {
-        error = errorObject(e);
+        error = e;
     } catch (const std::bad_alloc &) {
-        error = errorObject(RuntimeError::outOfMemory());
+        error = RuntimeError::outOfMemory();
     } catch (const std::exception &e) {
-        error = errorObject(RuntimeError(
-            51, QStringLiteral("Internal error: %1").arg(QString::fromLocal8Bit(e.what()))));
+        error = RuntimeError(
+            51, QStringLiteral("Internal error: %1").arg(QString::fromLocal8Bit(e.what())));
     } catch (...) {
-        error = errorObject(RuntimeError::internalError());
+        error = RuntimeError::internalError();
     }
-    outcome = error.isNull() ? Outcome::Ran : Outcome::RuntimeError;
 
-    JsonValue response = JsonValue::object();
-    if (call.id)
-        response.insert(QStringLiteral("id"), *call.id);
-    if (error.isNull() && call.hasResult()) {
-        response.insert(QStringLiteral("result"), ValueCodec::encode(result));
-        if (call.variantResult())
-            response.insert(QStringLiteral("resultType"), ValueCodec::typeOf(result));
+    out.beginObject();
+    if (call.id) {
+        out.key(u"id");
+        out.value(*call.id);
     }
-    JsonValue args = JsonValue::array();
-    JsonValue argTypes = JsonValue::array();
+    if (!error && call.hasResult()) {
+        out.key(u"result");
+        ValueCodec::write(out, result);
+        if (call.variantResult()) {
+            out.key(u"resultType");
+            ValueCodec::writeType(out, result);
+        }
+    }
+    writeArguments(call, out);
+    if (call.withProperties) {
+        out.key(u"props");
+        writeProperties(out);
+    }
+    out.key(u"shown");
+    out.beginArray();
+    for (const QVariant &record : m_platform->shown())
+        writeShownRecord(out, record.toMap());
+    out.endArray();
+    if (!m_platform->actions().isEmpty()) {
+        out.key(u"actions");
+        out.beginArray();
+        for (const QVariant &record : m_platform->actions())
+            writePlain(out, record);
+        out.endArray();
+    }
+    if (error) {
+        out.key(u"error");
+        writeError(out, *error);
+    }
+    out.endObject();
+    return error ? Outcome::RuntimeError : Outcome::Ran;
+}
+
+// The arguments after the call, and the subtypes of those passed as Variant.
+void Session::writeArguments(const Call &call, JsonSink &out) const
+{
+    out.key(u"args");
+    out.beginArray();
     bool anyVariant = false;
     for (qsizetype i = 0; i < call.args.size(); ++i) {
-        args.append(ValueCodec::encode(call.args[i]));
-        const bool variant = call.variantArgument(i);
-        anyVariant = anyVariant || variant;
-        argTypes.append(variant ? ValueCodec::typeOf(call.args[i]) : JsonValue());
+        ValueCodec::write(out, call.args[i]);
+        anyVariant = anyVariant || call.variantArgument(i);
     }
-    response.insert(QStringLiteral("args"), std::move(args));
-    if (anyVariant)
-        response.insert(QStringLiteral("argTypes"), std::move(argTypes));
-    if (call.withProperties)
-        response.insert(QStringLiteral("props"), properties());
-    response.insert(QStringLiteral("shown"), shown());
-    if (!m_platform->actions().isEmpty())
-        response.insert(QStringLiteral("actions"), actions());
-    if (!error.isNull())
-        response.insert(QStringLiteral("error"), std::move(error));
-    return response;
+    out.endArray();
+    if (!anyVariant)
+        return;
+    out.key(u"argTypes");
+    out.beginArray();
+    for (qsizetype i = 0; i < call.args.size(); ++i) {
+        if (call.variantArgument(i))
+            ValueCodec::writeType(out, call.args[i]);
+        else
+            out.null();
+    }
+    out.endArray();
 }
 
-JsonValue Session::properties() const
+void Session::writeProperties(JsonSink &out) const
 {
-    JsonValue::Object props;
-    props.reserve(size_t(publishedProperties().size()));
-    for (const auto &[property, index] : publishedProperties())
-        props.emplace_back(property->name,
-            ValueCodec::encode(m_library->metaObject()->property(index).read(m_library.get())));
-    return props;
-}
-
-JsonValue Session::shown() const
-{
-    JsonValue list = JsonValue::array();
-    for (const QVariant &record : m_platform->shown())
-        list.append(shownRecord(record.toMap()));
-    return list;
-}
-
-JsonValue Session::actions() const
-{
-    JsonValue list = JsonValue::array();
-    for (const QVariant &record : m_platform->actions())
-        list.append(plainJson(record));
-    return list;
+    out.beginObject();
+    for (const auto &[property, meta] : publishedProperties()) {
+        out.key(property->name);
+        ValueCodec::write(out, meta.read(m_library.get()));
+    }
+    out.endObject();
 }
 
 void Session::keepHeldObjects(QObject *owner)
 {
     QList<QObject *> held;
-    for (const auto &[property, index] : publishedProperties()) {
+    for (const auto &[property, meta] : publishedProperties()) {
         if (property->type == variantType)
-            collectObjects(m_library->metaObject()->property(index).read(m_library.get()), held);
+            collectObjects(meta.read(m_library.get()), held);
     }
     if (QObject *application = modGenLib().application)
         held.append(application);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "tools/qorgen/jsonsink.h"
 #include "tools/qorgen/jsonvalue.h"
 #include "tools/qorgen/request.h"
 
@@ -43,10 +44,17 @@ public:
     Reply handleLine(QByteArrayView utf8);
     Reply handleJson(const JsonValue &request);
     Reply handle(const Request &request);
+    // The same with the response written into a sink (the batch writes it
+    // straight into its output).
+    Outcome handleLine(QByteArrayView utf8, JsonSink &out);
+    Outcome handleJson(const JsonValue &request, JsonSink &out);
+    Outcome handle(const Request &request, JsonSink &out);
     // The response to a request that could not be read: its id (when it has
     // one) and the error.
     static Reply unreadable(
         const RequestError &error, const std::optional<JsonValue> &id = std::nullopt);
+    static Outcome writeUnreadable(JsonSink &out, const RequestError &error,
+        const std::optional<JsonValue> &id = std::nullopt);
 
     // Where sounds go when a request asks for them ("sound": true); by default nowhere.
     void setSoundOutput(
@@ -62,11 +70,12 @@ private:
     void prepareArguments(Call &call, const Request &request, QObject *owner) const;
     void applyPlatform(const Request &request);
     void startFresh();
-    JsonValue run(Call &call, Outcome &outcome);
-    JsonValue properties() const;
-    JsonValue shown() const;
-    // What the call asked the machine to do: program starts, shut-down, topmost forms.
-    JsonValue actions() const;
+    // Runs the call and writes its response: the result, the arguments after
+    // the call, the properties, what was shown, what the call asked the machine
+    // to do (program starts, shut-down, topmost forms) and the error.
+    Outcome run(Call &call, JsonSink &out);
+    void writeArguments(const Call &call, JsonSink &out) const;
+    void writeProperties(JsonSink &out) const;
     void keepHeldObjects(QObject *owner);
 
     std::shared_ptr<RecordingPlatform> m_platform;

@@ -5,6 +5,7 @@
 #include "runtime/dates.h"
 #include "runtime/runtimeerror.h"
 #include "runtime/variant.h"
+#include "tools/qorgen/jsonbuilder.h"
 #include "tools/qorgen/requesterror.h"
 
 #include <QHash>
@@ -215,94 +216,122 @@ void Decoder::property(
     }
 }
 
-// Encoding, with the objects on the way down so that a cycle ends.
+// Encoding into a sink, with the objects on the way down so that a cycle ends.
 class Encoder
 {
 public:
-    JsonValue value(const QVariant &v, int depth);
+    explicit Encoder(JsonSink &out)
+        : m_out(out)
+    { }
+
+    void value(const QVariant &v, int depth);
 
 private:
-    JsonValue object(QObject *object, int depth);
-    JsonValue record(const QVariant &v, int depth);
-    JsonValue calls(const HostObject *object, int depth);
+    void marker(QStringView name, bool flag);
+    void object(QObject *object, int depth);
+    void record(const QVariant &v, int depth);
+    void calls(const HostObject *object, int depth);
 
+    JsonSink &m_out;
     QList<const QObject *> m_path;
 };
 
-JsonValue Encoder::value(const QVariant &v, int depth)
+void Encoder::marker(QStringView name, bool flag)
+{
+    m_out.beginObject();
+    m_out.key(name);
+    m_out.boolean(flag);
+    m_out.endObject();
+}
+
+void Encoder::value(const QVariant &v, int depth)
 {
     if (isMissing(v))
-        return JsonValue::object().insert(QStringLiteral("$missing"), true);
+        return marker(u"$missing", true);
     if (v.metaType().flags() & QMetaType::IsGadget)
         return record(v, depth);
     switch (varType(v)) {
-    case VarType::Empty: return JsonValue::object().insert(QStringLiteral("$empty"), true);
-    case VarType::Null: return nullptr;
+    case VarType::Empty: return marker(u"$empty", true);
+    case VarType::Null: return m_out.null();
     case VarType::Integer:
     case VarType::Long:
     case VarType::Currency:
-    case VarType::Byte: return v.toLongLong();
-    case VarType::Single: return JsonValue::single(v.toFloat());
-    case VarType::Double: return v.toDouble();
-    case VarType::Boolean: return v.toBool();
-    case VarType::String: return v.toString();
+    case VarType::Byte: return m_out.integer(v.toLongLong());
+    case VarType::Single: return m_out.single(v.toFloat());
+    case VarType::Double: return m_out.number(v.toDouble());
+    case VarType::Boolean: return m_out.boolean(v.toBool());
+    case VarType::String:
+        if (v.typeId() == QMetaType::QString)
+            return m_out.string(*static_cast<const QString *>(v.constData()));
+        return m_out.string(v.toString());
     case VarType::Date:
-        return JsonValue::object().insert(QStringLiteral("$date"), ValueCodec::dateText(v));
+        m_out.beginObject();
+        m_out.key(u"$date");
+        m_out.string(ValueCodec::dateText(v));
+        return m_out.endObject();
     case VarType::Array: break;
     case VarType::Object: return object(v.value<QObject *>(), depth);
     }
-    JsonValue array = JsonValue::array();
-    if (depth >= ValueCodec::maxDepth)
-        return array;
-    for (const QVariant &element : v.toList())
-        array.append(value(element, depth + 1));
-    return array;
+    m_out.beginArray();
+    if (depth < ValueCodec::maxDepth) {
+        for (const QVariant &element : v.toList())
+            value(element, depth + 1);
+    }
+    m_out.endArray();
 }
 
-JsonValue Encoder::object(QObject *object, int depth)
+void Encoder::object(QObject *object, int depth)
 {
     if (!object)
-        return nullptr; // Nothing
+        return m_out.null(); // Nothing
     auto *host = qobject_cast<HostObject *>(object);
     QString className
         = host ? host->className() : QString::fromLatin1(object->metaObject()->className());
     className = className.mid(className.lastIndexOf(QLatin1Char(':')) + 1);
-    JsonValue json = JsonValue::object().insert(QStringLiteral("$object"), className);
-    if (!host || m_path.contains(object) || depth >= ValueCodec::maxDepth)
-        return json;
-    m_path.append(object);
-    for (const QString &name : host->propertyNames())
-        json.insert(name, value(host->value(name), depth + 1));
-    json.insert(QStringLiteral("$calls"), calls(host, depth));
-    m_path.removeLast();
-    return json;
+    m_out.beginObject();
+    m_out.key(u"$object");
+    m_out.string(className);
+    if (host && !m_path.contains(object) && depth < ValueCodec::maxDepth) {
+        m_path.append(object);
+        for (const QString &name : host->propertyNames()) {
+            m_out.key(name);
+            value(host->value(name), depth + 1);
+        }
+        m_out.key(u"$calls");
+        calls(host, depth);
+        m_path.removeLast();
+    }
+    m_out.endObject();
 }
 
 // A record (such as WindowSize) is an object of its fields in their order.
-JsonValue Encoder::record(const QVariant &v, int depth)
+void Encoder::record(const QVariant &v, int depth)
 {
-    JsonValue json = JsonValue::object();
+    m_out.beginObject();
     const QMetaObject *meta = v.metaType().metaObject();
-    for (int i = meta ? meta->propertyOffset() : 0; meta && i < meta->propertyCount(); ++i)
-        json.insert(QString::fromLatin1(meta->property(i).name()),
-            value(meta->property(i).readOnGadget(v.constData()), depth + 1));
-    return json;
+    for (int i = meta ? meta->propertyOffset() : 0; meta && i < meta->propertyCount(); ++i) {
+        m_out.key(QString::fromLatin1(meta->property(i).name()));
+        value(meta->property(i).readOnGadget(v.constData()), depth + 1);
+    }
+    m_out.endObject();
 }
 
-JsonValue Encoder::calls(const HostObject *object, int depth)
+void Encoder::calls(const HostObject *object, int depth)
 {
-    JsonValue list = JsonValue::array();
+    m_out.beginArray();
     for (const QVariant &call : object->calls()) {
         const QVariantMap map = call.toMap();
-        JsonValue args = JsonValue::array();
+        m_out.beginObject();
+        m_out.key(u"name");
+        m_out.string(map.value(QStringLiteral("name")).toString());
+        m_out.key(u"args");
+        m_out.beginArray();
         for (const QVariant &arg : map.value(QStringLiteral("args")).toList())
-            args.append(value(arg, depth + 2));
-        list.append(
-            JsonValue::object()
-                .insert(QStringLiteral("name"), map.value(QStringLiteral("name")).toString())
-                .insert(QStringLiteral("args"), std::move(args)));
+            value(arg, depth + 2);
+        m_out.endArray();
+        m_out.endObject();
     }
-    return list;
+    m_out.endArray();
 }
 
 } // namespace
@@ -324,7 +353,14 @@ void ValueCodec::populate(HostObject *object, const JsonValue &members, const QS
 
 JsonValue ValueCodec::encode(const QVariant &value)
 {
-    return Encoder().value(value, 0);
+    JsonBuilder json;
+    write(json, value);
+    return json.take();
+}
+
+void ValueCodec::write(JsonSink &out, const QVariant &value)
+{
+    Encoder(out).value(value, 0);
 }
 
 JsonValue ValueCodec::typeOf(const QVariant &value)
@@ -332,6 +368,13 @@ JsonValue ValueCodec::typeOf(const QVariant &value)
     if (isMissing(value))
         return nullptr;
     return varTypeName(value);
+}
+
+void ValueCodec::writeType(JsonSink &out, const QVariant &value)
+{
+    if (isMissing(value))
+        return out.null();
+    out.string(varTypeName(value));
 }
 
 std::optional<QDateTime> ValueCodec::readDate(const QString &text)

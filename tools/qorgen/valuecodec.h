@@ -1,5 +1,6 @@
 #pragma once
 
+#include "tools/qorgen/jsonsink.h"
 #include "tools/qorgen/jsonvalue.h"
 
 #include <QDateTime>
@@ -33,8 +34,11 @@ public:
     static void populate(HostObject *object, const JsonValue &members, const QString &where);
 
     static JsonValue encode(const QVariant &value);
+    // The same written straight into a sink.
+    static void write(JsonSink &out, const QVariant &value);
     // The Variant subtype name of a value ("Integer", "String", ...); null for a left-out argument.
     static JsonValue typeOf(const QVariant &value);
+    static void writeType(JsonSink &out, const QVariant &value);
 
     // "2004-05-20", "2004-05-20T08:30[:00]" or a time "08:30[:00]" (on the zero date).
     static std::optional<QDateTime> readDate(const QString &text);
