@@ -163,47 +163,44 @@ private slots:
         QCOMPARE(list.calls().at(1).toMap().value("args").toList().size(), 2);
     }
 
-    // The edit control's caret and selection.
-    void selectionFollowsTheClassicControl_data()
+    // The edit control's caret and selection through the steps "text abc", "start 1" and
+    // "length 2", "; "-separated, as the classic control keeps them.
+    void selection_data()
     {
-        QTest::addColumn<QString>("text");
-        QTest::addColumn<int>("start");
-        QTest::addColumn<int>("length");
+        QTest::addColumn<QString>("steps");
+        QTest::addColumn<int>("error"); // of the last step
         QTest::addColumn<int>("selStart");
         QTest::addColumn<int>("selLength");
         // clang-format off
-        QTest::newRow("inside") << "abcdef" << 1 << 2 << 1 << 2;
-        QTest::newRow("caret past the end stops at the end") << "abc" << 9 << 0 << 3 << 0;
-        QTest::newRow("selection past the end is cut") << "abc" << 1 << 9 << 1 << 2;
-        QTest::newRow("empty text") << "" << 0 << 5 << 0 << 0;
+        QTest::newRow("inside") << "text abcdef; start 1; length 2" << 0 << 1 << 2;
+        QTest::newRow("caret past the end stops at the end") << "text abc; start 9; length 0" << 0 << 3 << 0;
+        QTest::newRow("selection past the end is cut") << "text abc; start 1; length 9" << 0 << 1 << 2;
+        QTest::newRow("empty text") << "text ; start 0; length 5" << 0 << 0 << 0;
+        QTest::newRow("a new caret drops the selection") << "text abcdef; start 2; length 3; start 1" << 0 << 1 << 0;
+        QTest::newRow("a new text drops the selection") << "text abcdef; start 2; length 3; text xy" << 0 << 0 << 0;
+        QTest::newRow("a caret before the text is refused") << "text abc; start -1" << 380 << 0 << 0;
         // clang-format on
     }
-    void selectionFollowsTheClassicControl()
+    void selection()
     {
-        QFETCH(QString, text);
-        QFETCH(int, start);
-        QFETCH(int, length);
+        QFETCH(QString, steps);
         TextBox box;
-        box.setText(text);
-        box.setSelStart(start);
-        box.setSelLength(length);
+        int error = 0;
+        for (const QString &step : steps.split(QStringLiteral("; "))) {
+            const QString word = step.section(QLatin1Char(' '), 0, 0);
+            const QString rest = step.section(QLatin1Char(' '), 1);
+            error = test::errorNumber([&] {
+                if (word == QLatin1String("text"))
+                    box.setText(rest);
+                else if (word == QLatin1String("start"))
+                    box.setSelStart(rest.toInt());
+                else
+                    box.setSelLength(rest.toInt());
+            });
+        }
+        QTEST(error, "error");
         QTEST(box.selStart(), "selStart");
         QTEST(box.selLength(), "selLength");
-    }
-
-    void newTextOrCaretDropsTheSelection()
-    {
-        TextBox box;
-        box.setText(QStringLiteral("abcdef"));
-        box.setSelStart(2);
-        box.setSelLength(3);
-        box.setSelStart(1);
-        QCOMPARE(box.selLength(), 0);
-        box.setSelLength(3);
-        box.setText(QStringLiteral("xy"));
-        QCOMPARE(box.selStart(), 0);
-        QCOMPARE(box.selLength(), 0);
-        QCOMPARE(test::errorNumber([&] { box.setSelStart(-1); }), 380);
     }
 
     void setFocusIsRecordedAndNeedsAnEnabledControl()
