@@ -71,7 +71,6 @@ private slots:
         QTest::newRow("whole scan with letters") << "%[AB##]" << false << true << "" << 0 << "%[ab12]" << zeros(7) << "AB12" << none << "";
         QTest::newRow("lower-case format") << "%[ab##]" << false << true << "" << 0 << "%[AB12]" << zeros(7) << "AB12" << none << "";
         QTest::newRow("variable, no digits") << "%[A_]" << false << true << "" << 0 << "%[A]" << zeros(4) << "A" << none << "";
-        QTest::newRow("variable, one digit") << "%[A_]" << false << true << "" << 0 << "%[A7]" << zeros(5) << "A7" << none << "";
         QTest::newRow("variable, five digits") << "%[A_]" << false << true << "" << 0 << "%[A12345]" << zeros(9) << "A12345" << none << "";
         QTest::newRow("variable, field only") << "%[A_]" << true << true << "" << 0 << "%[A123]" << zeros(7) << "123" << none << "";
         QTest::newRow("variable, letter in digits") << "%[A_]" << false << true << "" << 0 << "%[A1X]" << zeros(6) << "" << mismatch << "";
