@@ -299,19 +299,6 @@ private slots:
         QCOMPARE(grid.value("Tag").toString(), gridTag);
     }
 
-    void headingPicturesAreTenBySixteenBitmaps()
-    {
-        for (auto id : { GridPicture::SortAscending, GridPicture::SortDescending }) {
-            const QByteArray bmp = GridPicture::of(id).bytes();
-            QVERIFY(bmp.startsWith("BM"));
-            QCOMPARE(qFromLittleEndian<qint32>(bmp.constData() + 18), 10);
-            QCOMPARE(qFromLittleEndian<qint32>(bmp.constData() + 22), 16);
-            QCOMPARE(qFromLittleEndian<quint16>(bmp.constData() + 28), quint16(4));
-        }
-        QVERIFY(GridPicture::of(GridPicture::SortAscending).bytes()
-            != GridPicture::of(GridPicture::SortDescending).bytes());
-    }
-
     void wrongObjectsRaiseTheHostError()
     {
         clsqorGenLib lib;
