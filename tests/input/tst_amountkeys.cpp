@@ -102,7 +102,6 @@ private slots:
         QTest::newRow("all selected lets a digit in") << "KeyGetal" << "nl_BE" << "12,34" << 0 << 5 << 0 << two << false << 0.0 << noAnswers << "5" << "5" << 1 << "53" << 0 << "" << 0 << 0 << "" << false;
         QTest::newRow("part selected does not") << "KeyGetal" << "nl_BE" << "12,34" << 3 << 2 << 0 << two << false << 0.0 << noAnswers << "5" << "12,34" << 3 << "0" << 1 << "" << 0 << 0 << "" << false;
         QTest::newRow("separator first writes 0 and the separator") << "KeyGetal" << "nl_BE" << "" << 0 << 0 << 0 << two << false << 0.0 << noAnswers << ".5" << "0,5" << 3 << "0 53" << 0 << "" << 0 << 0 << "" << false;
-        QTest::newRow("separator over a selection of all") << "KeyGetal" << "en_US" << "12" << 0 << 2 << 0 << two << false << 0.0 << noAnswers << "," << "12" << 0 << "0" << 1 << "" << 0 << 0 << "" << false;
         QTest::newRow("point over a selection of all") << "KeyGetal" << "en_US" << "12" << 0 << 2 << 0 << two << false << 0.0 << noAnswers << "." << "0." << 2 << "0" << 0 << "" << 0 << 0 << "" << false;
         QTest::newRow("second separator refused") << "KeyGetal" << "nl_BE" << "1,2" << 3 << 0 << 0 << two << false << 0.0 << noAnswers << ",." << "1,2" << 3 << "0 0" << 2 << "" << 0 << 0 << "" << false;
         QTest::newRow("no decimals refuse enter and take backspace") << "KeyGetal" << "nl_BE" << "12" << 2 << 0 << 0 << none << false << 0.0 << noAnswers << "{Enter}{BS}" << "1" << 1 << "0 8" << 1 << "" << 0 << 0 << "" << false;
@@ -122,14 +121,12 @@ private slots:
         QTest::newRow("rounding takes halves away from zero") << "KeyGetal" << "nl_BE" << "" << 0 << 0 << 0 << two << true << 0.0 << QVariantList { -0.125 } << "*" << "-0,13" << 5 << "0" << 0 << "" << 0 << 0 << "" << false;
         QTest::newRow("whole result without decimals") << "KeyGetal" << "en_US" << "100" << 0 << 0 << 0 << two << false << 0.0 << QVariantList { 121.0 } << "*" << "121" << 3 << "0" << 0 << "" << 0 << 0 << "" << false;
         QTest::newRow("no decimals round to whole") << "KeyGetal" << "nl_BE" << "" << 0 << 0 << 0 << none << false << 0.0 << QVariantList { 2.5 } << "*" << "3" << 1 << "0" << 0 << "" << 0 << 0 << "" << false;
-        QTest::newRow("calculator typed through") << "KeyGetal" << "nl_BE" << "100" << 3 << 0 << 0 << two << false << 0.0 << QVariantList { QVariantMap { { "keys", "+5{Enter}{Enter}" } } } << "*" << "105" << 3 << "0" << 0 << "" << 0 << 0 << "" << false;
         QTest::newRow("calculator left with escape inserts the start") << "KeyGetal" << "nl_BE" << "12,345" << 6 << 0 << 0 << two << false << 0.0 << QVariantList { QVariantMap { { "keys", "99{Esc}" } } } << "*" << "12,35" << 5 << "0" << 0 << "" << 0 << 0 << "" << false;
         QTest::newRow("percent inserts the register as it is") << "KeyGetal" << "nl_BE" << "1" << 1 << 0 << 0 << two << false << 7.5 << noAnswers << "%" << "7,5" << 3 << "0" << 0 << "" << 0 << 0 << "" << false;
         QTest::newRow("negative result refused") << "KeyGetal" << "nl_BE" << "1" << 1 << 0 << 0 << two << false << -5.0 << noAnswers << "%" << "1" << 1 << "0" << 0 << negativeRefused << 0 << 0 << "" << false;
         QTest::newRow("negative result taken") << "KeyGetal" << "nl_BE" << "1" << 1 << 0 << 0 << two << true << -5.0 << noAnswers << "%" << "-5" << 2 << "0" << 0 << "" << 0 << 0 << "" << false;
         QTest::newRow("result longer than the field refused") << "KeyGetal" << "nl_BE" << "1" << 1 << 0 << 6 << two << false << 1234.56 << noAnswers << "%" << "1" << 1 << "0" << 0 << tooLong(6) << 0 << 0 << "" << false;
         QTest::newRow("result as long as the field taken") << "KeyGetal" << "nl_BE" << "1" << 1 << 0 << 7 << two << false << 1234.56 << noAnswers << "%" << "1234,56" << 7 << "0" << 0 << "" << 0 << 0 << "" << false;
-        QTest::newRow("one character field") << "KeyGetal" << "nl_BE" << "" << 0 << 0 << 1 << two << false << 12.0 << noAnswers << "%" << "" << 0 << "0" << 0 << tooLong(1) << 0 << 0 << "" << false;
         QTest::newRow("huge result in the plain number form") << "KeyGetal" << "nl_BE" << "" << 0 << 0 << 0 << two << false << 1e20 << noAnswers << "%" << "1E+20" << 5 << "0" << 0 << "" << 0 << 0 << "" << false;
         QTest::newRow("huge decimals do not blow up") << "KeyGetal" << "nl_BE" << "" << 0 << 0 << 0 << QVariant(2147483647) << false << 0.5 << noAnswers << "%1" << "0,51" << 4 << "0 49" << 0 << "" << 0 << 0 << "" << false;
         QTest::newRow("grid cell editor") << "KeyGetal" << "nl_BE" << "" << 0 << 0 << 0 << two << false << 0.0 << noAnswers << "1.234" << "1,23" << 4 << "49 44 50 51 0" << 1 << "" << 0 << 0 << "" << true;
@@ -141,7 +138,6 @@ private slots:
         QTest::newRow("no decimals") << "KeyEuro" << "nl_BE" << "" << 0 << 0 << 0 << QVariant(0) << false << 0.0 << noAnswers << "1,2" << "12" << 2 << "49 0 50" << 1 << "" << 0 << 0 << "" << false;
         QTest::newRow("one rate applied at once") << "KeyEuro" << "nl_BE" << "" << 0 << 0 << 0 << missing << false << 0.0 << noAnswers << "100%" << "121" << 3 << "49 48 48 0" << 0 << "" << 2100 << 0 << " + 21 % BTW toevoegen " << false;
         QTest::newRow("second percent only beeps") << "KeyEuro" << "nl_BE" << "" << 0 << 0 << 0 << missing << false << 0.0 << noAnswers << "100%%" << "121" << 3 << "49 48 48 0 0" << 1 << "" << 2100 << 0 << " + 21 % BTW toevoegen " << false;
-        QTest::newRow("percent before any digit beeps") << "KeyEuro" << "nl_BE" << "100" << 3 << 0 << 0 << missing << false << 0.0 << noAnswers << "%" << "100" << 3 << "0" << 1 << "" << 2100 << 0 << "" << false;
         QTest::newRow("rate rounded with grouping read back") << "KeyEuro" << "nl_BE" << "" << 0 << 0 << 0 << missing << false << 0.0 << noAnswers << "1234,5%" << "1493,75" << 7 << "49 50 51 52 44 53 0" << 0 << "" << 2100 << 0 << " + 21 % BTW toevoegen " << false;
         QTest::newRow("rate with decimals in the note") << "KeyEuro" << "nl_BE" << "" << 0 << 0 << 0 << missing << false << 0.0 << noAnswers << "10%" << "11,25" << 5 << "49 48 0" << 0 << "" << 1250 << 0 << " + 12,5 % BTW toevoegen " << false;
         QTest::newRow("only the second rate") << "KeyEuro" << "nl_BE" << "" << 0 << 0 << 0 << missing << false << 0.0 << noAnswers << "100%" << "106" << 3 << "49 48 48 0" << 0 << "" << 0 << 600 << " + 6 % BTW toevoegen " << false;
@@ -150,8 +146,6 @@ private slots:
         QTest::newRow("huge rate") << "KeyEuro" << "nl_BE" << "" << 0 << 0 << 0 << missing << false << 0.0 << noAnswers << "1%" << "214749,36" << 9 << "49 0" << 0 << "" << 2147483647 << 0 << " + 21474836,47 % BTW toevoegen " << false;
         QTest::newRow("both rates open the calculator") << "KeyEuro" << "nl_BE" << "" << 0 << 0 << 0 << missing << false << 0.0 << QVariantList { QVariantMap { { "keys", "{VAT2}{Insert}" } } } << "100%" << "106" << 3 << "49 48 48 0" << 0 << "" << 2100 << 600 << "" << false;
         QTest::newRow("star opens the calculator") << "KeyEuro" << "nl_BE" << "2" << 1 << 0 << 0 << missing << false << 0.0 << QVariantList { QVariantMap { { "keys", "x3,3333={Enter}" } } } << "*" << "6,67" << 4 << "0" << 0 << "" << 0 << 0 << "" << false;
-        QTest::newRow("negative refused") << "KeyEuro" << "nl_BE" << "5" << 1 << 0 << 0 << missing << false << 0.0 << QVariantList { -5.0 } << "*" << "5" << 1 << "0" << 0 << negativeRefused << 0 << 0 << "" << false;
-        QTest::newRow("too long refused") << "KeyEuro" << "nl_BE" << "5" << 1 << 0 << 4 << missing << false << 0.0 << QVariantList { 1234.5 } << "*" << "5" << 1 << "0" << 0 << tooLong(4) << 0 << 0 << "" << false;
         QTest::newRow("whole numbers keep no decimals") << "KeyEuro" << "en_US" << "5" << 1 << 0 << 0 << missing << false << 0.0 << QVariantList { 7.0 } << "*" << "7" << 1 << "0" << 0 << "" << 0 << 0 << "" << false;
         // clang-format on
     }
