@@ -35,14 +35,9 @@ private slots:
         QCOMPARE(card.vatLine, *Catalogue::text(1220));
     }
 
-    void catalogueTexts_data()
+    void frenchTextsFromTheCatalogue()
     {
-        QTest::addColumn<qint32>("offset");
-        QTest::newRow("French") << 10000;
-    }
-    void catalogueTexts()
-    {
-        QFETCH(qint32, offset);
+        const qint32 offset = 10000;
         const CalculatorHelpCard card = calculatorHelpCard(offset);
         QCOMPARE(card.title, *Catalogue::text(1205 + offset));
         QCOMPARE(card.callLine, *Catalogue::text(1214 + offset));

@@ -52,34 +52,26 @@ private slots:
         QTest::newRow("29 allowed in the future") << nl << "010129" << QVariant(true) << "1/01/2029" << "1/01/2029" << "";
         QTest::newRow("future refused when False is passed") << us << "010129" << QVariant(false) << "" << "1/1/2029" << future;
         QTest::newRow("2000 is a leap year") << nl << "290200" << missing << "29/02/2000" << "29/02/2000" << "";
-        QTest::newRow("month 29 month first") << us << "290100" << missing << "" << "290100" << notation;
-        QTest::newRow("2004 is a leap year") << nl << "290204" << missing << "29/02/2004" << "29/02/2004" << "";
         QTest::newRow("2003 is not a leap year") << nl << "290203" << missing << "" << "290203" << notation;
-        QTest::newRow("February 30") << nl << "300204" << missing << "" << "300204" << notation;
         QTest::newRow("April has 30 days") << nl << "310400" << missing << "" << "310400" << notation;
         QTest::newRow("December has 31 days") << nl << "321200" << missing << "" << "321200" << notation;
         QTest::newRow("month 13") << nl << "011300" << missing << "" << "011300" << notation;
         QTest::newRow("day 0 rolls back a day") << nl << "001200" << missing << "30/11/2000" << "30/11/2000" << "";
         QTest::newRow("month 0 rolls back a month") << nl << "010000" << missing << "1/12/1999" << "1/12/1999" << "";
-        QTest::newRow("day 0 month first") << us << "120000" << missing << "11/30/2000" << "11/30/2000" << "";
         QTest::newRow("all zeros roll back twice") << nl << "000000" << missing << "30/11/1999" << "30/11/1999" << "";
         QTest::newRow("five digits") << nl << "12345" << missing << "" << "12345" << notation;
         QTest::newRow("seven digits") << nl << "1234567" << missing << "" << "1234567" << notation;
-        QTest::newRow("twelve digits") << nl << "123456789012" << missing << "" << "123456789012" << notation;
+        QTest::newRow("a megabyte of digits") << nl << QString(1 << 20, '1') << missing << "" << QString(1 << 20, '1') << notation;
         QTest::newRow("a letter among six") << nl << "12a456" << missing << "" << "12a456" << notation;
         QTest::newRow("negative number") << nl << "-12345" << missing << "" << "-12345" << notation;
         QTest::newRow("slashes, two-digit year") << nl << "1/2/03" << missing << "1/02/2003" << "1/02/2003" << "";
         QTest::newRow("slashes month first") << us << "1/2/03" << missing << "1/2/2003" << "1/2/2003" << "";
         QTest::newRow("German points") << "de_DE" << "1.2.03" << missing << "01.02.2003" << "01.02.2003" << "";
         QTest::newRow("German slashes") << "de_DE" << "1/2/2003" << missing << "01.02.2003" << "01.02.2003" << "";
-        QTest::newRow("French blanks") << "fr_BE" << "29 2 2004" << missing << "29/02/2004" << "29/02/2004" << "";
         QTest::newRow("day and month are this year") << nl << "1/2" << missing << "1/02/2024" << "1/02/2024" << "";
-        QTest::newRow("month and day are this year") << us << "2/1" << missing << "2/1/2024" << "2/1/2024" << "";
         QTest::newRow("a month name, this year") << nl << "15 maart" << missing << "15/03/2024" << "15/03/2024" << "";
         QTest::newRow("later this year is the future") << nl << "1/12" << missing << "" << "1/12/2024" << future;
         QTest::newRow("31/02 is no day this year") << nl << "31/02" << missing << "" << "31/02" << notation;
-        QTest::newRow("dashes") << nl << "1-2-2003" << missing << "1/02/2003" << "1/02/2003" << "";
-        QTest::newRow("points") << nl << "1.2.2003" << missing << "1/02/2003" << "1/02/2003" << "";
         QTest::newRow("blanks between") << nl << "1 2 2003" << missing << "1/02/2003" << "1/02/2003" << "";
         QTest::newRow("trimmed before reading") << nl << "  14/3/2024  " << missing << "14/03/2024" << "14/03/2024" << "";
         QTest::newRow("today is not the future") << nl << "15/03/2024" << missing << "15/03/2024" << "15/03/2024" << "";
@@ -90,7 +82,6 @@ private slots:
         QTest::newRow("year 0 is 2000") << nl << "1/1/0" << missing << "1/01/2000" << "1/01/2000" << "";
         QTest::newRow("year 9999 allowed") << nl << "31/12/9999" << QVariant(true) << "31/12/9999" << "31/12/9999" << "";
         QTest::newRow("a time alone is the zero date, shown as a time") << nl << "8:30" << missing << "00:00:00" << "00:00:00" << "";
-        QTest::newRow("time out of range") << nl << "99:99" << missing << "" << "99:99" << notation;
         // clang-format on
     }
     void controleerDatum()
@@ -179,16 +170,6 @@ private slots:
         QString dt = input;
         QCOMPARE(lib.ControleerDatum(dt), QString());
         QCOMPARE(test::onlyMessage(*machine), test::messageBox(prompt, 48, title));
-    }
-
-    void megabyteIsRefused()
-    {
-        const auto machine = installDateMachine(QStringLiteral("nl_BE"));
-        clsqorGenLib lib;
-        QString dt = QString(1 << 20, QLatin1Char('1'));
-        QCOMPARE(lib.ControleerDatum(dt), QString());
-        QCOMPARE(dt.size(), 1 << 20);
-        QCOMPARE(machine->shown().size(), 1);
     }
 };
 

@@ -38,8 +38,6 @@ private slots:
         QTest::newRow("point") << "8.30" << false << "08:30" << "8:30" << "08:30";
         QTest::newRow("letter h") << "8h30" << false << "08:30" << "8:30" << "08:30";
         QTest::newRow("colon") << "08:30" << false << "08:30" << "8:30" << "08:30";
-        QTest::newRow("comma") << "8,30" << false << "08:30" << "8:30" << "08:30";
-        QTest::newRow("hyphen") << "8-30" << false << "08:30" << "8:30" << "08:30";
         QTest::newRow("blank inside, trimmed outside") << "  8 30  " << false << "08:30" << "8:30" << "08:30";
         QTest::newRow("one digit is minutes") << "8" << false << "00:08" << "0:08" << "00:08";
         QTest::newRow("two digits are minutes") << "45" << false << "00:45" << "0:45" << "00:45";
@@ -57,7 +55,6 @@ private slots:
         QTest::newRow("separator at the end") << "8:3:" << false << "" << "" << "08:3:";
         QTest::newRow("separator alone") << ":" << false << "" << "" << ":";
         QTest::newRow("letters pass the place test, not the count") << "abc" << false << "" << "" << "00:::";
-        QTest::newRow("99:99") << "99:99" << false << "" << "" << "99:99";
         QTest::newRow("99:99 with more hours") << "99:99" << true << "" << "" << "99:99";
         QTest::newRow("negative is no sign") << "-830" << false << "" << "" << ":830";
         QTest::newRow("twelve digits allowed") << "123456789012" << true << "1234567890:12" << "1234567890:12" << "1234567890:12";
@@ -178,7 +175,6 @@ private slots:
         QTest::newRow("a literal stays") << "nl_BE" << "#08:30#" << "#08:30#";
         QTest::newRow("a lone hash is its own literal") << "nl_BE" << "#" << "#";
         QTest::newRow("99:99") << "nl_BE" << "99:99" << "";
-        QTest::newRow("letters") << "nl_BE" << "acht uur" << "";
         QTest::newRow("empty") << "nl_BE" << "" << "";
         QTest::newRow("blanks") << "nl_BE" << "   " << "";
         // clang-format on

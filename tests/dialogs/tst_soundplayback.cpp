@@ -3,13 +3,13 @@
 #include "lib/frame/modgenlib.h"
 #include "platform/qt/qtplatform.h"
 
+#include <QDataStream>
 #include <QDir>
 #include <QFile>
 #include <QProcess>
 #include <QSoundEffect>
 #include <QTemporaryDir>
 #include <QTest>
-#include <QtEndian>
 
 #include <cmath>
 
@@ -22,21 +22,18 @@ QByteArray waveOf(double seconds)
 {
     constexpr quint32 rate = 22050;
     const quint32 samples = quint32(seconds * rate);
-    QByteArray data;
-    for (quint32 i = 0; i < samples; ++i) {
-        const qint16 value = qint16(8000 * std::sin(2 * M_PI * 440 * i / rate));
-        data.append(reinterpret_cast<const char *>(&value), 2);
-    }
-    auto le32 = [](quint32 v) {
-        const quint32 le = qToLittleEndian(v);
-        return QByteArray(reinterpret_cast<const char *>(&le), 4);
-    };
-    auto le16 = [](quint16 v) {
-        const quint16 le = qToLittleEndian(v);
-        return QByteArray(reinterpret_cast<const char *>(&le), 2);
-    };
-    return "RIFF" + le32(36 + data.size()) + "WAVEfmt " + le32(16) + le16(1) + le16(1) + le32(rate)
-        + le32(rate * 2) + le16(2) + le16(16) + "data" + le32(data.size()) + data;
+    QByteArray wave;
+    QDataStream out(&wave, QIODevice::WriteOnly);
+    out.setByteOrder(QDataStream::LittleEndian);
+    out.writeRawData("RIFF", 4);
+    out << quint32(36 + samples * 2);
+    out.writeRawData("WAVEfmt ", 8);
+    out << quint32(16) << quint16(1) << quint16(1) << rate << rate * 2 << quint16(2) << quint16(16);
+    out.writeRawData("data", 4);
+    out << quint32(samples * 2);
+    for (quint32 i = 0; i < samples; ++i)
+        out << qint16(8000 * std::sin(2 * M_PI * 440 * i / rate));
+    return wave;
 }
 
 } // namespace

@@ -51,7 +51,6 @@ private slots:
         QTest::addColumn<QString>("monday");
         // clang-format off
         QTest::newRow("BE Dutch 2004") << "nl_BE" << 0 << QDate(2004, 5, 25) << "dd/MM/yyyy" << QList<QDate> { QDate(2004, 5, 20), QDate(2004, 7, 11), QDate(2004, 12, 25), QDate(2003, 11, 11) } << QList<QDate> { QDate(2004, 5, 21), QDate(2004, 9, 27) } << "ma";
-        QTest::newRow("BE French 2004") << "fr_BE" << 10000 << QDate(2004, 5, 25) << "dd/MM/yyyy" << QList<QDate> { QDate(2004, 9, 27), QDate(2004, 4, 11) } << QList<QDate> { QDate(2004, 7, 11) } << "lu";
         QTest::newRow("LU 2004 with points") << "de_DE" << 0 << QDate(2004, 6, 1) << "dd.MM.yyyy" << QList<QDate> { QDate(2004, 6, 23), QDate(2004, 5, 30) } << QList<QDate> { QDate(2004, 7, 21) } << "ma";
         // clang-format on
     }

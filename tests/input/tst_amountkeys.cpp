@@ -62,9 +62,12 @@ class TestAmountKeys : public QObject
 {
     Q_OBJECT
 
-    // The columns both handlers share.
-    static void addFieldColumns()
+private slots:
+    // One table for both handlers: KeyGetal rounds to its decimals and opens
+    // the calculator on "*"; KeyEuro adds the VAT rates on "%".
+    void amountKeys_data()
     {
+        QTest::addColumn<QString>("handler");
         QTest::addColumn<QString>("locale");
         QTest::addColumn<QString>("text");
         QTest::addColumn<int>("selStart");
@@ -80,109 +83,134 @@ class TestAmountKeys : public QObject
         QTest::addColumn<QString>("results");
         QTest::addColumn<int>("beeps");
         QTest::addColumn<QString>("prompt");
-    }
-
-private slots:
-    void keyGetal_data()
-    {
-        addFieldColumns();
+        QTest::addColumn<int>("rate1");
+        QTest::addColumn<int>("rate2");
+        QTest::addColumn<QString>("note");
         QTest::addColumn<bool>("grid");
         const QVariant two = 2;
         const QVariant none = 0;
         const QVariant missing = missingVariant();
         const QVariantList noAnswers;
         // clang-format off
-        QTest::newRow("digits and a comma") << "nl_BE" << "" << 0 << 0 << 0 << two << false << 0.0 << noAnswers << "12,34" << "12,34" << 5 << "49 50 44 51 52" << 0 << "" << false;
-        QTest::newRow("point becomes the comma") << "nl_BE" << "" << 0 << 0 << 0 << two << false << 0.0 << noAnswers << "12.3" << "12,3" << 4 << "49 50 44 51" << 0 << "" << false;
-        QTest::newRow("point on a point system") << "en_US" << "" << 0 << 0 << 0 << two << false << 0.0 << noAnswers << "12.3" << "12.3" << 4 << "49 50 46 51" << 0 << "" << false;
-        QTest::newRow("comma refused on a point system") << "en_US" << "" << 0 << 0 << 0 << two << false << 0.0 << noAnswers << "12,3" << "123" << 3 << "49 50 0 51" << 1 << "" << false;
-        QTest::newRow("third decimal refused") << "nl_BE" << "" << 0 << 0 << 0 << two << false << 0.0 << noAnswers << "1,234" << "1,23" << 4 << "49 44 50 51 0" << 1 << "" << false;
-        QTest::newRow("full decimals refuse the integer part too") << "nl_BE" << "12,34" << 0 << 0 << 0 << two << false << 0.0 << noAnswers << "5" << "12,34" << 0 << "0" << 1 << "" << false;
-        QTest::newRow("full decimals take backspace") << "nl_BE" << "12,34" << 5 << 0 << 0 << two << false << 0.0 << noAnswers << "{BS}5" << "12,35" << 5 << "8 53" << 0 << "" << false;
-        QTest::newRow("all selected lets a digit in") << "nl_BE" << "12,34" << 0 << 5 << 0 << two << false << 0.0 << noAnswers << "5" << "5" << 1 << "53" << 0 << "" << false;
-        QTest::newRow("part selected does not") << "nl_BE" << "12,34" << 3 << 2 << 0 << two << false << 0.0 << noAnswers << "5" << "12,34" << 3 << "0" << 1 << "" << false;
-        QTest::newRow("separator first writes 0 and the separator") << "nl_BE" << "" << 0 << 0 << 0 << two << false << 0.0 << noAnswers << ".5" << "0,5" << 3 << "0 53" << 0 << "" << false;
-        QTest::newRow("separator over a selection of all") << "en_US" << "12" << 0 << 2 << 0 << two << false << 0.0 << noAnswers << "," << "12" << 0 << "0" << 1 << "" << false;
-        QTest::newRow("point over a selection of all") << "en_US" << "12" << 0 << 2 << 0 << two << false << 0.0 << noAnswers << "." << "0." << 2 << "0" << 0 << "" << false;
-        QTest::newRow("second separator refused") << "nl_BE" << "1,2" << 3 << 0 << 0 << two << false << 0.0 << noAnswers << ",." << "1,2" << 3 << "0 0" << 2 << "" << false;
-        QTest::newRow("no decimals refuse enter and take backspace") << "nl_BE" << "12" << 2 << 0 << 0 << none << false << 0.0 << noAnswers << "{Enter}{BS}" << "1" << 1 << "0 8" << 1 << "" << false;
-        QTest::newRow("no decimals refuse both separators") << "nl_BE" << "12" << 2 << 0 << 0 << none << false << 0.0 << noAnswers << ",." << "12" << 2 << "0 0" << 2 << "" << false;
-        QTest::newRow("letters and quotes refused") << "nl_BE" << "" << 0 << 0 << 0 << two << false << 0.0 << noAnswers << "a'" << "" << 0 << "0 0" << 2 << "" << false;
-        QTest::newRow("codes outside the code page refused") << "nl_BE" << "" << 0 << 0 << 0 << two << false << 0.0 << noAnswers << "{-1}{0}{256}{32767}{-32768}" << "" << 0 << "0 0 0 0 0" << 5 << "" << false;
-        QTest::newRow("missing decimals take NbrDec 1") << "nl_BE" << "" << 0 << 0 << 0 << missing << false << 0.0 << noAnswers << "1,23" << "1,2" << 3 << "49 44 50 0" << 1 << "" << false;
-        QTest::newRow("decimals as numeric text") << "nl_BE" << "" << 0 << 0 << 0 << QVariant("1") << false << 0.0 << noAnswers << "1,23" << "1,2" << 3 << "49 44 50 0" << 1 << "" << false;
-        QTest::newRow("minus toggles the sign wherever the caret") << "nl_BE" << "12,50" << 1 << 0 << 0 << two << true << 0.0 << noAnswers << "-" << "-12,5" << 5 << "0" << 0 << "" << false;
-        QTest::newRow("minus twice gives the value back") << "nl_BE" << "12,50" << 1 << 0 << 0 << two << true << 0.0 << noAnswers << "--" << "12,5" << 4 << "0 0" << 0 << "" << false;
-        QTest::newRow("minus refused without negatives") << "nl_BE" << "12,50" << 5 << 0 << 0 << two << false << 0.0 << noAnswers << "-" << "12,50" << 5 << "0" << 1 << "" << false;
-        QTest::newRow("minus on an empty field") << "nl_BE" << "" << 0 << 0 << 0 << two << true << 0.0 << noAnswers << "-5" << "-5" << 2 << "0 53" << 0 << "" << false;
-        QTest::newRow("minus on blanks") << "nl_BE" << "  " << 2 << 0 << 0 << two << true << 0.0 << noAnswers << "-" << "-" << 1 << "0" << 0 << "" << false;
-        QTest::newRow("minus over a selection of all") << "nl_BE" << "12" << 0 << 2 << 0 << two << true << 0.0 << noAnswers << "-" << "-" << 1 << "0" << 0 << "" << false;
-        QTest::newRow("minus on a word gives 0") << "nl_BE" << "abc" << 3 << 0 << 0 << two << true << 0.0 << noAnswers << "-" << "0" << 1 << "0" << 0 << "" << false;
-        QTest::newRow("minus drops grouping") << "nl_BE" << "1.234,50" << 0 << 0 << 0 << two << true << 0.0 << noAnswers << "-" << "-1234,5" << 7 << "0" << 0 << "" << false;
-        QTest::newRow("calculator result rounded to the decimals") << "nl_BE" << "12" << 2 << 0 << 0 << two << false << 0.0 << QVariantList { 12.3456 } << "*" << "12,35" << 5 << "0" << 0 << "" << false;
-        QTest::newRow("rounding takes halves away from zero") << "nl_BE" << "" << 0 << 0 << 0 << two << true << 0.0 << QVariantList { -0.125 } << "*" << "-0,13" << 5 << "0" << 0 << "" << false;
-        QTest::newRow("whole result without decimals") << "en_US" << "100" << 0 << 0 << 0 << two << false << 0.0 << QVariantList { 121.0 } << "*" << "121" << 3 << "0" << 0 << "" << false;
-        QTest::newRow("no decimals round to whole") << "nl_BE" << "" << 0 << 0 << 0 << none << false << 0.0 << QVariantList { 2.5 } << "*" << "3" << 1 << "0" << 0 << "" << false;
-        QTest::newRow("calculator typed through") << "nl_BE" << "100" << 3 << 0 << 0 << two << false << 0.0 << QVariantList { QVariantMap { { "keys", "+5{Enter}{Enter}" } } } << "*" << "105" << 3 << "0" << 0 << "" << false;
-        QTest::newRow("calculator left with escape inserts the start") << "nl_BE" << "12,345" << 6 << 0 << 0 << two << false << 0.0 << QVariantList { QVariantMap { { "keys", "99{Esc}" } } } << "*" << "12,35" << 5 << "0" << 0 << "" << false;
-        QTest::newRow("percent inserts the register as it is") << "nl_BE" << "1" << 1 << 0 << 0 << two << false << 7.5 << noAnswers << "%" << "7,5" << 3 << "0" << 0 << "" << false;
-        QTest::newRow("negative result refused") << "nl_BE" << "1" << 1 << 0 << 0 << two << false << -5.0 << noAnswers << "%" << "1" << 1 << "0" << 0 << negativeRefused << false;
-        QTest::newRow("negative result taken") << "nl_BE" << "1" << 1 << 0 << 0 << two << true << -5.0 << noAnswers << "%" << "-5" << 2 << "0" << 0 << "" << false;
-        QTest::newRow("result longer than the field refused") << "nl_BE" << "1" << 1 << 0 << 6 << two << false << 1234.56 << noAnswers << "%" << "1" << 1 << "0" << 0 << tooLong(6) << false;
-        QTest::newRow("result as long as the field taken") << "nl_BE" << "1" << 1 << 0 << 7 << two << false << 1234.56 << noAnswers << "%" << "1234,56" << 7 << "0" << 0 << "" << false;
-        QTest::newRow("one character field") << "nl_BE" << "" << 0 << 0 << 1 << two << false << 12.0 << noAnswers << "%" << "" << 0 << "0" << 0 << tooLong(1) << false;
-        QTest::newRow("huge result in the plain number form") << "nl_BE" << "" << 0 << 0 << 0 << two << false << 1e20 << noAnswers << "%" << "1E+20" << 5 << "0" << 0 << "" << false;
-        QTest::newRow("huge decimals do not blow up") << "nl_BE" << "" << 0 << 0 << 0 << QVariant(2147483647) << false << 0.5 << noAnswers << "%1" << "0,51" << 4 << "0 49" << 0 << "" << false;
-        QTest::newRow("grid cell editor") << "nl_BE" << "" << 0 << 0 << 0 << two << false << 0.0 << noAnswers << "1.234" << "1,23" << 4 << "49 44 50 51 0" << 1 << "" << true;
-        QTest::newRow("grid caret follows the cell text") << "nl_BE" << "1" << 1 << 0 << 0 << two << false << 42.0 << noAnswers << "%" << "42" << 0 << "0" << 0 << "" << true;
-        QTest::newRow("grid maximum length") << "nl_BE" << "1" << 1 << 0 << 1 << two << false << 42.0 << noAnswers << "%" << "1" << 1 << "0" << 0 << tooLong(1) << true;
+        QTest::newRow("digits and a comma") << "KeyGetal" << "nl_BE" << "" << 0 << 0 << 0 << two << false << 0.0 << noAnswers << "12,34" << "12,34" << 5 << "49 50 44 51 52" << 0 << "" << 0 << 0 << "" << false;
+        QTest::newRow("point becomes the comma") << "KeyGetal" << "nl_BE" << "" << 0 << 0 << 0 << two << false << 0.0 << noAnswers << "12.3" << "12,3" << 4 << "49 50 44 51" << 0 << "" << 0 << 0 << "" << false;
+        QTest::newRow("point on a point system") << "KeyGetal" << "en_US" << "" << 0 << 0 << 0 << two << false << 0.0 << noAnswers << "12.3" << "12.3" << 4 << "49 50 46 51" << 0 << "" << 0 << 0 << "" << false;
+        QTest::newRow("comma refused on a point system") << "KeyGetal" << "en_US" << "" << 0 << 0 << 0 << two << false << 0.0 << noAnswers << "12,3" << "123" << 3 << "49 50 0 51" << 1 << "" << 0 << 0 << "" << false;
+        QTest::newRow("third decimal refused") << "KeyGetal" << "nl_BE" << "" << 0 << 0 << 0 << two << false << 0.0 << noAnswers << "1,234" << "1,23" << 4 << "49 44 50 51 0" << 1 << "" << 0 << 0 << "" << false;
+        QTest::newRow("full decimals refuse the integer part too") << "KeyGetal" << "nl_BE" << "12,34" << 0 << 0 << 0 << two << false << 0.0 << noAnswers << "5" << "12,34" << 0 << "0" << 1 << "" << 0 << 0 << "" << false;
+        QTest::newRow("full decimals take backspace") << "KeyGetal" << "nl_BE" << "12,34" << 5 << 0 << 0 << two << false << 0.0 << noAnswers << "{BS}5" << "12,35" << 5 << "8 53" << 0 << "" << 0 << 0 << "" << false;
+        QTest::newRow("all selected lets a digit in") << "KeyGetal" << "nl_BE" << "12,34" << 0 << 5 << 0 << two << false << 0.0 << noAnswers << "5" << "5" << 1 << "53" << 0 << "" << 0 << 0 << "" << false;
+        QTest::newRow("part selected does not") << "KeyGetal" << "nl_BE" << "12,34" << 3 << 2 << 0 << two << false << 0.0 << noAnswers << "5" << "12,34" << 3 << "0" << 1 << "" << 0 << 0 << "" << false;
+        QTest::newRow("separator first writes 0 and the separator") << "KeyGetal" << "nl_BE" << "" << 0 << 0 << 0 << two << false << 0.0 << noAnswers << ".5" << "0,5" << 3 << "0 53" << 0 << "" << 0 << 0 << "" << false;
+        QTest::newRow("point over a selection of all") << "KeyGetal" << "en_US" << "12" << 0 << 2 << 0 << two << false << 0.0 << noAnswers << "." << "0." << 2 << "0" << 0 << "" << 0 << 0 << "" << false;
+        QTest::newRow("second separator refused") << "KeyGetal" << "nl_BE" << "1,2" << 3 << 0 << 0 << two << false << 0.0 << noAnswers << ",." << "1,2" << 3 << "0 0" << 2 << "" << 0 << 0 << "" << false;
+        QTest::newRow("no decimals refuse enter and take backspace") << "KeyGetal" << "nl_BE" << "12" << 2 << 0 << 0 << none << false << 0.0 << noAnswers << "{Enter}{BS}" << "1" << 1 << "0 8" << 1 << "" << 0 << 0 << "" << false;
+        QTest::newRow("no decimals refuse both separators") << "KeyGetal" << "nl_BE" << "12" << 2 << 0 << 0 << none << false << 0.0 << noAnswers << ",." << "12" << 2 << "0 0" << 2 << "" << 0 << 0 << "" << false;
+        QTest::newRow("letters and quotes refused") << "KeyGetal" << "nl_BE" << "" << 0 << 0 << 0 << two << false << 0.0 << noAnswers << "a'" << "" << 0 << "0 0" << 2 << "" << 0 << 0 << "" << false;
+        QTest::newRow("codes outside the code page refused") << "KeyGetal" << "nl_BE" << "" << 0 << 0 << 0 << two << false << 0.0 << noAnswers << "{-1}{0}{256}{32767}{-32768}" << "" << 0 << "0 0 0 0 0" << 5 << "" << 0 << 0 << "" << false;
+        QTest::newRow("missing decimals take NbrDec 1") << "KeyGetal" << "nl_BE" << "" << 0 << 0 << 0 << missing << false << 0.0 << noAnswers << "1,23" << "1,2" << 3 << "49 44 50 0" << 1 << "" << 0 << 0 << "" << false;
+        QTest::newRow("decimals as numeric text") << "KeyGetal" << "nl_BE" << "" << 0 << 0 << 0 << QVariant("1") << false << 0.0 << noAnswers << "1,23" << "1,2" << 3 << "49 44 50 0" << 1 << "" << 0 << 0 << "" << false;
+        QTest::newRow("minus toggles the sign wherever the caret") << "KeyGetal" << "nl_BE" << "12,50" << 1 << 0 << 0 << two << true << 0.0 << noAnswers << "-" << "-12,5" << 5 << "0" << 0 << "" << 0 << 0 << "" << false;
+        QTest::newRow("minus twice gives the value back") << "KeyGetal" << "nl_BE" << "12,50" << 1 << 0 << 0 << two << true << 0.0 << noAnswers << "--" << "12,5" << 4 << "0 0" << 0 << "" << 0 << 0 << "" << false;
+        QTest::newRow("minus refused without negatives") << "KeyGetal" << "nl_BE" << "12,50" << 5 << 0 << 0 << two << false << 0.0 << noAnswers << "-" << "12,50" << 5 << "0" << 1 << "" << 0 << 0 << "" << false;
+        QTest::newRow("minus on blanks") << "KeyGetal" << "nl_BE" << "  " << 2 << 0 << 0 << two << true << 0.0 << noAnswers << "-" << "-" << 1 << "0" << 0 << "" << 0 << 0 << "" << false;
+        QTest::newRow("minus over a selection of all") << "KeyGetal" << "nl_BE" << "12" << 0 << 2 << 0 << two << true << 0.0 << noAnswers << "-" << "-" << 1 << "0" << 0 << "" << 0 << 0 << "" << false;
+        QTest::newRow("minus on a word gives 0") << "KeyGetal" << "nl_BE" << "abc" << 3 << 0 << 0 << two << true << 0.0 << noAnswers << "-" << "0" << 1 << "0" << 0 << "" << 0 << 0 << "" << false;
+        QTest::newRow("minus drops grouping") << "KeyGetal" << "nl_BE" << "1.234,50" << 0 << 0 << 0 << two << true << 0.0 << noAnswers << "-" << "-1234,5" << 7 << "0" << 0 << "" << 0 << 0 << "" << false;
+        QTest::newRow("calculator result rounded to the decimals") << "KeyGetal" << "nl_BE" << "12" << 2 << 0 << 0 << two << false << 0.0 << QVariantList { 12.3456 } << "*" << "12,35" << 5 << "0" << 0 << "" << 0 << 0 << "" << false;
+        QTest::newRow("rounding takes halves away from zero") << "KeyGetal" << "nl_BE" << "" << 0 << 0 << 0 << two << true << 0.0 << QVariantList { -0.125 } << "*" << "-0,13" << 5 << "0" << 0 << "" << 0 << 0 << "" << false;
+        QTest::newRow("whole result without decimals") << "KeyGetal" << "en_US" << "100" << 0 << 0 << 0 << two << false << 0.0 << QVariantList { 121.0 } << "*" << "121" << 3 << "0" << 0 << "" << 0 << 0 << "" << false;
+        QTest::newRow("no decimals round to whole") << "KeyGetal" << "nl_BE" << "" << 0 << 0 << 0 << none << false << 0.0 << QVariantList { 2.5 } << "*" << "3" << 1 << "0" << 0 << "" << 0 << 0 << "" << false;
+        QTest::newRow("calculator left with escape inserts the start") << "KeyGetal" << "nl_BE" << "12,345" << 6 << 0 << 0 << two << false << 0.0 << QVariantList { QVariantMap { { "keys", "99{Esc}" } } } << "*" << "12,35" << 5 << "0" << 0 << "" << 0 << 0 << "" << false;
+        QTest::newRow("percent inserts the register as it is") << "KeyGetal" << "nl_BE" << "1" << 1 << 0 << 0 << two << false << 7.5 << noAnswers << "%" << "7,5" << 3 << "0" << 0 << "" << 0 << 0 << "" << false;
+        QTest::newRow("negative result refused") << "KeyGetal" << "nl_BE" << "1" << 1 << 0 << 0 << two << false << -5.0 << noAnswers << "%" << "1" << 1 << "0" << 0 << negativeRefused << 0 << 0 << "" << false;
+        QTest::newRow("negative result taken") << "KeyGetal" << "nl_BE" << "1" << 1 << 0 << 0 << two << true << -5.0 << noAnswers << "%" << "-5" << 2 << "0" << 0 << "" << 0 << 0 << "" << false;
+        QTest::newRow("result longer than the field refused") << "KeyGetal" << "nl_BE" << "1" << 1 << 0 << 6 << two << false << 1234.56 << noAnswers << "%" << "1" << 1 << "0" << 0 << tooLong(6) << 0 << 0 << "" << false;
+        QTest::newRow("result as long as the field taken") << "KeyGetal" << "nl_BE" << "1" << 1 << 0 << 7 << two << false << 1234.56 << noAnswers << "%" << "1234,56" << 7 << "0" << 0 << "" << 0 << 0 << "" << false;
+        QTest::newRow("huge result in the plain number form") << "KeyGetal" << "nl_BE" << "" << 0 << 0 << 0 << two << false << 1e20 << noAnswers << "%" << "1E+20" << 5 << "0" << 0 << "" << 0 << 0 << "" << false;
+        QTest::newRow("huge decimals do not blow up") << "KeyGetal" << "nl_BE" << "" << 0 << 0 << 0 << QVariant(2147483647) << false << 0.5 << noAnswers << "%1" << "0,51" << 4 << "0 49" << 0 << "" << 0 << 0 << "" << false;
+        QTest::newRow("grid cell editor") << "KeyGetal" << "nl_BE" << "" << 0 << 0 << 0 << two << false << 0.0 << noAnswers << "1.234" << "1,23" << 4 << "49 44 50 51 0" << 1 << "" << 0 << 0 << "" << true;
+        QTest::newRow("grid caret follows the cell text") << "KeyGetal" << "nl_BE" << "1" << 1 << 0 << 0 << two << false << 42.0 << noAnswers << "%" << "42" << 0 << "0" << 0 << "" << 0 << 0 << "" << true;
+        QTest::newRow("grid maximum length") << "KeyGetal" << "nl_BE" << "1" << 1 << 0 << 1 << two << false << 42.0 << noAnswers << "%" << "1" << 1 << "0" << 0 << tooLong(1) << 0 << 0 << "" << true;
+        QTest::newRow("two decimals by default") << "KeyEuro" << "nl_BE" << "" << 0 << 0 << 0 << missing << false << 0.0 << noAnswers << "12.345" << "12,34" << 5 << "49 50 44 51 52 0" << 1 << "" << 0 << 0 << "" << false;
+        QTest::newRow("decimals as text count as two") << "KeyEuro" << "nl_BE" << "" << 0 << 0 << 0 << QVariant("abc") << false << 0.0 << noAnswers << "1,234" << "1,23" << 4 << "49 44 50 51 0" << 1 << "" << 0 << 0 << "" << false;
+        QTest::newRow("empty decimals count as two") << "KeyEuro" << "en_US" << "" << 0 << 0 << 0 << QVariant() << false << 0.0 << noAnswers << "1.234" << "1.23" << 4 << "49 46 50 51 0" << 1 << "" << 0 << 0 << "" << false;
+        QTest::newRow("no decimals") << "KeyEuro" << "nl_BE" << "" << 0 << 0 << 0 << QVariant(0) << false << 0.0 << noAnswers << "1,2" << "12" << 2 << "49 0 50" << 1 << "" << 0 << 0 << "" << false;
+        QTest::newRow("one rate applied at once") << "KeyEuro" << "nl_BE" << "" << 0 << 0 << 0 << missing << false << 0.0 << noAnswers << "100%" << "121" << 3 << "49 48 48 0" << 0 << "" << 2100 << 0 << " + 21 % BTW toevoegen " << false;
+        QTest::newRow("second percent only beeps") << "KeyEuro" << "nl_BE" << "" << 0 << 0 << 0 << missing << false << 0.0 << noAnswers << "100%%" << "121" << 3 << "49 48 48 0 0" << 1 << "" << 2100 << 0 << " + 21 % BTW toevoegen " << false;
+        QTest::newRow("rate rounded with grouping read back") << "KeyEuro" << "nl_BE" << "" << 0 << 0 << 0 << missing << false << 0.0 << noAnswers << "1234,5%" << "1493,75" << 7 << "49 50 51 52 44 53 0" << 0 << "" << 2100 << 0 << " + 21 % BTW toevoegen " << false;
+        QTest::newRow("rate with decimals in the note") << "KeyEuro" << "nl_BE" << "" << 0 << 0 << 0 << missing << false << 0.0 << noAnswers << "10%" << "11,25" << 5 << "49 48 0" << 0 << "" << 1250 << 0 << " + 12,5 % BTW toevoegen " << false;
+        QTest::newRow("only the second rate") << "KeyEuro" << "nl_BE" << "" << 0 << 0 << 0 << missing << false << 0.0 << noAnswers << "100%" << "106" << 3 << "49 48 48 0" << 0 << "" << 0 << 600 << " + 6 % BTW toevoegen " << false;
+        QTest::newRow("no rate adds nothing") << "KeyEuro" << "nl_BE" << "" << 0 << 0 << 0 << missing << false << 0.0 << noAnswers << "100%" << "100" << 3 << "49 48 48 0" << 0 << "" << 0 << 0 << " + 0 % BTW toevoegen " << false;
+        QTest::newRow("negative rate lowers") << "KeyEuro" << "nl_BE" << "" << 0 << 0 << 0 << missing << false << 0.0 << noAnswers << "100%" << "99" << 2 << "49 48 48 0" << 0 << "" << -100 << 0 << " + -1 % BTW toevoegen " << false;
+        QTest::newRow("huge rate") << "KeyEuro" << "nl_BE" << "" << 0 << 0 << 0 << missing << false << 0.0 << noAnswers << "1%" << "214749,36" << 9 << "49 0" << 0 << "" << 2147483647 << 0 << " + 21474836,47 % BTW toevoegen " << false;
+        QTest::newRow("both rates open the calculator") << "KeyEuro" << "nl_BE" << "" << 0 << 0 << 0 << missing << false << 0.0 << QVariantList { QVariantMap { { "keys", "{VAT2}{Insert}" } } } << "100%" << "106" << 3 << "49 48 48 0" << 0 << "" << 2100 << 600 << "" << false;
+        QTest::newRow("star opens the calculator") << "KeyEuro" << "nl_BE" << "2" << 1 << 0 << 0 << missing << false << 0.0 << QVariantList { QVariantMap { { "keys", "x3,3333={Enter}" } } } << "*" << "6,67" << 4 << "0" << 0 << "" << 0 << 0 << "" << false;
+        QTest::newRow("whole numbers keep no decimals") << "KeyEuro" << "en_US" << "5" << 1 << 0 << 0 << missing << false << 0.0 << QVariantList { 7.0 } << "*" << "7" << 1 << "0" << 0 << "" << 0 << 0 << "" << false;
         // clang-format on
     }
-    void keyGetal()
+    void amountKeys()
     {
+        QFETCH(QString, handler);
         QFETCH(QString, locale);
         QFETCH(QString, text);
-        QFETCH(int, selStart);
-        QFETCH(int, selLength);
-        QFETCH(int, maxLength);
         QFETCH(QVariant, decimals);
         QFETCH(bool, negNumber);
-        QFETCH(double, startRegister);
         QFETCH(QVariantList, answers);
         QFETCH(QString, keys);
+        QFETCH(QString, note);
         QFETCH(bool, grid);
         auto machine = test::installRecordingPlatform(locale);
         machine->setAnswers(answers);
         clsqorGenLib lib;
         lib.setProperty("NbrDec", 1);
+        QFETCH(int, rate1);
+        QFETCH(int, rate2);
+        lib.setProperty("BtwTar1", rate1);
+        lib.setProperty("BtwTar2", rate2);
+        QFETCH(double, startRegister);
         modGenLib().calculatorRegister = startRegister;
         TextBox textBox;
         GridEditor editor;
         QObject *field = grid ? static_cast<QObject *>(&editor) : &textBox;
         const char *textName = grid ? "EditText" : "Text";
         const char *startName = grid ? "EditSelStart" : "SelStart";
+        const char *lengthName = grid ? "EditSelLength" : "SelLength";
         const RegionalSettings rs;
         qor::setProperty(field, textName, text, rs);
+        QFETCH(int, selStart);
+        QFETCH(int, selLength);
+        QFETCH(int, maxLength);
         qor::setProperty(field, startName, selStart, rs);
-        qor::setProperty(field, grid ? "EditSelLength" : "SelLength", selLength, rs);
+        qor::setProperty(field, lengthName, selLength, rs);
         qor::setProperty(field, grid ? "editMaxLength" : "MaxLength", maxLength, rs);
+        const bool euro = handler == QLatin1String("KeyEuro");
         QList<int> results;
         for (int code : test::keyCodes(keys)) {
             short ka = short(code);
-            QVariant nbrDecimals = decimals;
+            QVariant given = decimals;
             bool flexgrid = grid;
-            const int result = lib.KeyGetal(field, ka, nbrDecimals, negNumber, flexgrid).toInt();
+            const int result = euro ? lib.KeyEuro(field, ka, given, negNumber).toInt()
+                                    : lib.KeyGetal(field, ka, given, negNumber, flexgrid).toInt();
             results.append(result);
-            if (isMissing(decimals))
-                QCOMPARE(nbrDecimals, QVariant(1));
+            // A decimals argument the handler cannot use is written back.
+            if (euro && (!isNumeric(decimals, rs) || isEmpty(decimals)))
+                QCOMPARE(given, QVariant::fromValue<short>(2));
+            if (!euro && isMissing(decimals))
+                QCOMPARE(given, QVariant(1));
             test::typeIntoModel(field, result, grid);
         }
         const Outcome outcome = outcomeOf(*machine, results);
         QTEST(getProperty(field, textName).toString(), "expectedText");
         QTEST(getProperty(field, startName).toInt(), "expectedCaret");
+        if (euro)
+            QCOMPARE(getProperty(field, lengthName).toInt(), 0);
         QTEST(test::codesText(outcome.results), "results");
         QTEST(outcome.beeps, "beeps");
         QTEST(outcome.prompts.join(QLatin1Char('|')), "prompt");
+        QCOMPARE(outcome.notes.join(QLatin1Char('|')), note);
+        if (!note.isEmpty())
+            QVERIFY(!modGenLib().calculatorFlag);
     }
 
     void keyGetalWritesKeyCodes_data()
@@ -228,82 +256,6 @@ private slots:
         ka = '7';
         lib.KeyGetal(&box, ka);
         QVERIFY(modGenLib().calculatorFlag);
-    }
-
-    void keyEuro_data()
-    {
-        addFieldColumns();
-        QTest::addColumn<int>("rate1");
-        QTest::addColumn<int>("rate2");
-        QTest::addColumn<QString>("note");
-        const QVariant missing = missingVariant();
-        const QVariantList noAnswers;
-        // clang-format off
-        QTest::newRow("two decimals by default") << "nl_BE" << "" << 0 << 0 << 0 << missing << false << 0.0 << noAnswers << "12.345" << "12,34" << 5 << "49 50 44 51 52 0" << 1 << "" << 0 << 0 << "";
-        QTest::newRow("decimals as text count as two") << "nl_BE" << "" << 0 << 0 << 0 << QVariant("abc") << false << 0.0 << noAnswers << "1,234" << "1,23" << 4 << "49 44 50 51 0" << 1 << "" << 0 << 0 << "";
-        QTest::newRow("empty decimals count as two") << "en_US" << "" << 0 << 0 << 0 << QVariant() << false << 0.0 << noAnswers << "1.234" << "1.23" << 4 << "49 46 50 51 0" << 1 << "" << 0 << 0 << "";
-        QTest::newRow("null decimals count as two") << "nl_BE" << "" << 0 << 0 << 0 << nullVariant() << false << 0.0 << noAnswers << "1,234" << "1,23" << 4 << "49 44 50 51 0" << 1 << "" << 0 << 0 << "";
-        QTest::newRow("no decimals") << "nl_BE" << "" << 0 << 0 << 0 << QVariant(0) << false << 0.0 << noAnswers << "1,2" << "12" << 2 << "49 0 50" << 1 << "" << 0 << 0 << "";
-        QTest::newRow("one rate applied at once") << "nl_BE" << "" << 0 << 0 << 0 << missing << false << 0.0 << noAnswers << "100%" << "121" << 3 << "49 48 48 0" << 0 << "" << 2100 << 0 << " + 21 % BTW toevoegen ";
-        QTest::newRow("second percent only beeps") << "nl_BE" << "" << 0 << 0 << 0 << missing << false << 0.0 << noAnswers << "100%%" << "121" << 3 << "49 48 48 0 0" << 1 << "" << 2100 << 0 << " + 21 % BTW toevoegen ";
-        QTest::newRow("percent before any digit beeps") << "nl_BE" << "100" << 3 << 0 << 0 << missing << false << 0.0 << noAnswers << "%" << "100" << 3 << "0" << 1 << "" << 2100 << 0 << "";
-        QTest::newRow("rate rounded with grouping read back") << "nl_BE" << "" << 0 << 0 << 0 << missing << false << 0.0 << noAnswers << "1234,5%" << "1493,75" << 7 << "49 50 51 52 44 53 0" << 0 << "" << 2100 << 0 << " + 21 % BTW toevoegen ";
-        QTest::newRow("rate with decimals in the note") << "nl_BE" << "" << 0 << 0 << 0 << missing << false << 0.0 << noAnswers << "10%" << "11,25" << 5 << "49 48 0" << 0 << "" << 1250 << 0 << " + 12,5 % BTW toevoegen ";
-        QTest::newRow("only the second rate") << "nl_BE" << "" << 0 << 0 << 0 << missing << false << 0.0 << noAnswers << "100%" << "106" << 3 << "49 48 48 0" << 0 << "" << 0 << 600 << " + 6 % BTW toevoegen ";
-        QTest::newRow("no rate adds nothing") << "nl_BE" << "" << 0 << 0 << 0 << missing << false << 0.0 << noAnswers << "100%" << "100" << 3 << "49 48 48 0" << 0 << "" << 0 << 0 << " + 0 % BTW toevoegen ";
-        QTest::newRow("negative rate lowers") << "nl_BE" << "" << 0 << 0 << 0 << missing << false << 0.0 << noAnswers << "100%" << "99" << 2 << "49 48 48 0" << 0 << "" << -100 << 0 << " + -1 % BTW toevoegen ";
-        QTest::newRow("huge rate") << "nl_BE" << "" << 0 << 0 << 0 << missing << false << 0.0 << noAnswers << "1%" << "214749,36" << 9 << "49 0" << 0 << "" << 2147483647 << 0 << " + 21474836,47 % BTW toevoegen ";
-        QTest::newRow("both rates open the calculator") << "nl_BE" << "" << 0 << 0 << 0 << missing << false << 0.0 << QVariantList { QVariantMap { { "keys", "{VAT2}{Insert}" } } } << "100%" << "106" << 3 << "49 48 48 0" << 0 << "" << 2100 << 600 << "";
-        QTest::newRow("star opens the calculator") << "nl_BE" << "2" << 1 << 0 << 0 << missing << false << 0.0 << QVariantList { QVariantMap { { "keys", "x3,3333={Enter}" } } } << "*" << "6,67" << 4 << "0" << 0 << "" << 0 << 0 << "";
-        QTest::newRow("negative refused") << "nl_BE" << "5" << 1 << 0 << 0 << missing << false << 0.0 << QVariantList { -5.0 } << "*" << "5" << 1 << "0" << 0 << negativeRefused << 0 << 0 << "";
-        QTest::newRow("too long refused") << "nl_BE" << "5" << 1 << 0 << 4 << missing << false << 0.0 << QVariantList { 1234.5 } << "*" << "5" << 1 << "0" << 0 << tooLong(4) << 0 << 0 << "";
-        QTest::newRow("whole numbers keep no decimals") << "en_US" << "5" << 1 << 0 << 0 << missing << false << 0.0 << QVariantList { 7.0 } << "*" << "7" << 1 << "0" << 0 << "" << 0 << 0 << "";
-        // clang-format on
-    }
-    void keyEuro()
-    {
-        QFETCH(QString, locale);
-        QFETCH(QString, text);
-        QFETCH(int, selStart);
-        QFETCH(int, selLength);
-        QFETCH(int, maxLength);
-        QFETCH(QVariant, decimals);
-        QFETCH(bool, negNumber);
-        QFETCH(QVariantList, answers);
-        QFETCH(QString, keys);
-        QFETCH(int, rate1);
-        QFETCH(int, rate2);
-        QFETCH(QString, note);
-        auto machine = test::installRecordingPlatform(locale);
-        machine->setAnswers(answers);
-        clsqorGenLib lib;
-        lib.setProperty("BtwTar1", rate1);
-        lib.setProperty("BtwTar2", rate2);
-        TextBox box;
-        box.setText(text);
-        box.setSelStart(selStart);
-        box.setSelLength(selLength);
-        box.setMaxLength(maxLength);
-        QList<int> results;
-        for (int code : test::keyCodes(keys)) {
-            short ka = short(code);
-            QVariant eurDecimals = decimals;
-            const int result = lib.KeyEuro(&box, ka, eurDecimals, negNumber).toInt();
-            results.append(result);
-            if (!isNumeric(decimals, RegionalSettings()) || isEmpty(decimals))
-                QCOMPARE(eurDecimals, QVariant::fromValue<short>(2));
-            test::typeIntoModel(&box, result);
-        }
-        const Outcome outcome = outcomeOf(*machine, results);
-        QTEST(box.text(), "expectedText");
-        QTEST(box.selStart(), "expectedCaret");
-        QCOMPARE(box.selLength(), 0);
-        QTEST(test::codesText(outcome.results), "results");
-        QTEST(outcome.beeps, "beeps");
-        QTEST(outcome.prompts.join(QLatin1Char('|')), "prompt");
-        QCOMPARE(outcome.notes.join(QLatin1Char('|')), note);
-        if (!note.isEmpty())
-            QVERIFY(!modGenLib().calculatorFlag);
     }
 
     void overflowingVatIsAnError()

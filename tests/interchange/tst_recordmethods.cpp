@@ -70,7 +70,6 @@ private slots:
         QTest::newRow("number cut on the left, point decimals") << "en_US" << 12 << ab7 << w43 << f00 << true << blank << QVariant("000012 AB   .00 B4") << QVariantMap();
         QTest::newRow("number cut on the left, comma decimals") << "nl_BE" << 12 << ab7 << w43 << f00 << true << blank << QVariant("000012 AB   ,00 B2") << QVariantMap();
         QTest::newRow("line number 0: no prefix") << "en_US" << 0 << ab7 << w43 << f00 << true << blank << QVariant("AB   .00 71") << QVariantMap();
-        QTest::newRow("negative line number: no prefix") << "en_US" << -5 << ab7 << w43 << f00 << false << blank << QVariant("AB   .00") << QVariantMap();
         QTest::newRow("no checksum: ends with the last field") << "en_US" << 12 << ab7 << w43 << f00 << false << blank << QVariant("000012 AB   .00") << QVariantMap();
         QTest::newRow("other separator also in front of the checksum") << "en_US" << 12 << ab7 << w43 << f00 << true << QVariant(";") << QVariant("000012 AB  ;.00;CF") << QVariantMap();
         QTest::newRow("longer separator") << "en_US" << 1 << ab7 << w43 << none << false << QVariant(" | ") << QVariant("000001 AB   | 7  ") << QVariantMap();
@@ -79,7 +78,6 @@ private slots:
         QTest::newRow("line number of seven digits") << "en_US" << 1234567 << ab7 << w43 << f00 << false << blank << QVariant("1234567 AB   .00") << QVariantMap();
         QTest::newRow("line number 999999") << "en_US" << 999999 << ab7 << w43 << none << false << blank << QVariant("999999 AB   7  ") << QVariantMap();
         QTest::newRow("no formats: numbers aligned left") << "en_US" << 1 << QStringList { "7", "12345" } << w43 << none << false << blank << QVariant("000001 7    123") << QVariantMap();
-        QTest::newRow("empty mask: text") << "en_US" << 1 << QStringList { "7", "7" } << w43 << list({ "", "" }) << false << blank << QVariant("000001 7    7  ") << QVariantMap();
         QTest::newRow("Empty and Null masks: text") << "en_US" << 1 << QStringList { "7", "7" } << w43 << list({ QVariant(), nullVariant() }) << false << blank << QVariant("000001 7    7  ") << QVariantMap();
         QTest::newRow("mask on text that is no number") << "en_US" << 1 << QStringList { "x7", "abcd" } << w43 << list({ "0.00", "0.00" }) << false << blank << QVariant("000001 x7   abc") << QVariantMap();
         QTest::newRow("formatted number padded in front") << "en_US" << 1 << QStringList { "1", "2.5" } << list({ 6, 5 }) << list({ "0.00", "#,##0" }) << false << blank << QVariant("000001   1.00     3") << QVariantMap();
@@ -92,7 +90,6 @@ private slots:
         QTest::newRow("euro sign counts 128, omega counts as ?") << "en_US" << 0 << QStringList { QString::fromUtf8("\u20ac\u03a9") } << list({ 2 }) << none << true << blank << QVariant(QString::fromUtf8("\u20ac\u03a9 BF")) << QVariantMap();
 
         QTest::newRow("widths no array") << "en_US" << 12 << ab7 << QVariant(4) << f00 << true << blank << QVariant() << exportBox("arrFieldLength is geen geldige array !");
-        QTest::newRow("widths Empty") << "en_US" << 12 << ab7 << QVariant() << f00 << true << blank << QVariant() << exportBox("arrFieldLength is geen geldige array !");
         QTest::newRow("more widths than data") << "en_US" << 12 << ab7 << list({ 4, 3, 2 }) << f00 << true << blank << QVariant() << exportBox("Het aantal elementen in arrFieldLength stemt niet overeen met het aantal elementen in Data !\r\rarrFieldLength = 2\rData = 1");
         QTest::newRow("widths but no data") << "en_US" << 12 << QStringList() << list({ 4 }) << none << true << blank << QVariant() << exportBox("Het aantal elementen in arrFieldLength stemt niet overeen met het aantal elementen in Data !\r\rarrFieldLength = 0\rData = -1");
         QTest::newRow("formats no array") << "en_US" << 12 << ab7 << w43 << QVariant("0.00") << true << blank << QVariant() << exportBox("De variable arrFormat is geen geldige Array !");
@@ -153,20 +150,15 @@ private slots:
         QTest::newRow("wrong checksum") << "000012 AB   .00 B5" << w43 << true << true << checksumFault << importBox("Ongeldige CheckSum  in Regel 000012  !");
         QTest::newRow("wrong checksum, no line number") << "AB   .00 72" << w43 << false << true << checksumFault << importBox("Ongeldige CheckSum  in InputRecord ''AB   .00 72''  !");
         QTest::newRow("checksum not hexadecimal") << "000012 AB   .00 G4" << w43 << true << true << checksumFault << importBox("Ongeldige CheckSum  in Regel 000012  !");
-        QTest::newRow("checksum of blanks") << "AB   .00   " << w43 << false << true << checksumFault << importBox("Ongeldige CheckSum  in InputRecord ''AB   .00   ''  !");
         QTest::newRow("no blank in front of the checksum") << "000012 AB   .0;B4" << w43 << true << true << checksumFault << importBox("Ongeldige CheckSum  in Regel 000012  !");
         QTest::newRow("checksum missing") << "000012 AB   .00" << w43 << true << true << checksumFault << importBox("Ongeldige CheckSum  in Regel 000012  !");
         QTest::newRow("record of two characters") << "B4" << w43 << true << true << checksumFault << importBox("Ongeldige CheckSum  in Regel B4  !");
         QTest::newRow("empty record") << "" << w43 << false << true << checksumFault << importBox("Ongeldige CheckSum  in InputRecord ''''  !");
-        QTest::newRow("written with another separator") << "000012 AB  ;.00;CF" << w43 << true << true << checksumFault << importBox("Ongeldige CheckSum  in Regel 000012  !");
         QTest::newRow("line number not numeric") << "00001A AB   .00" << w43 << true << false << checksumFault << importBox("Ongeldige LineNumber/Spatie in Regel 00001A  !");
         QTest::newRow("line number of seven digits") << "1234567 AB   .00" << w43 << true << false << checksumFault << importBox("Ongeldige LineNumber/Spatie in Regel 123456  !");
         QTest::newRow("record shorter than the line number") << "000012" << w43 << true << false << checksumFault << importBox("Ongeldige LineNumber/Spatie in Regel 000012  !");
-        QTest::newRow("empty record with line numbers") << "" << w43 << true << false << checksumFault << importBox("Ongeldige LineNumber/Spatie in Regel   !");
-        QTest::newRow("written without line number") << "AB   .00 71" << w43 << true << true << checksumFault << importBox("Ongeldige LineNumber/Spatie in Regel AB   .  !");
         QTest::newRow("no blank between fields") << "000012 ABCDE.00" << w43 << true << false << delimiterFault << importBox("Ongeldige Delimiter Space(1) op Positie 12 in Line 12  !");
         QTest::newRow("no blank, no line number") << "ABCDE.00" << w43 << false << false << delimiterFault << importBox("Ongeldige Delimiter Space(1) op Positie 5 in InputRecord ''ABCDE.00''  !");
-        QTest::newRow("written with another separator, no checksum") << "000012 AB  ;.00" << w43 << true << false << delimiterFault << importBox("Ongeldige Delimiter Space(1) op Positie 12 in Line 12  !");
         QTest::newRow("record shorter than its fields") << "000012 AB" << w43 << true << false << delimiterFault << importBox("Ongeldige Delimiter Space(1) op Positie 12 in Line 12  !");
         QTest::newRow("third delimiter") << "AB C D" << list({ 2, 1, 1, 1 }) << false << false << delimiterFault << importBox("Ongeldige Delimiter Space(1) op Positie 7 in InputRecord ''AB C D''  !");
         QTest::newRow("widths no array") << "000012 AB   .00 B4" << QVariant(4) << true << true << delimiterFault << importBox("arrFieldLength is geen geldige array !");
@@ -204,7 +196,6 @@ private slots:
         QTest::newRow("export: negative width") << "GetExportData" << list({ -1, 3 }) << int(RuntimeError::InvalidProcedureCall);
         QTest::newRow("export: width beyond 32 bits") << "GetExportData" << list({ 3e9, 3 }) << int(RuntimeError::Overflow);
         QTest::newRow("export: record beyond memory") << "GetExportData" << list({ 2000000000, 3 }) << int(RuntimeError::OutOfMemory);
-        QTest::newRow("export: array as width") << "GetExportData" << list({ list({ 1 }), 3 }) << int(RuntimeError::TypeMismatch);
         QTest::newRow("import: text width") << "GetImportData" << list({ 4, "x" }) << int(RuntimeError::TypeMismatch);
         QTest::newRow("import: negative width") << "GetImportData" << list({ -1, 3 }) << int(RuntimeError::InvalidProcedureCall);
         QTest::newRow("import: width beyond 32 bits") << "GetImportData" << list({ 4, 1e10 }) << int(RuntimeError::Overflow);

@@ -61,8 +61,6 @@ private slots:
         // clang-format off
         QTest::newRow("none") << QRect(0, 0, 1024, 768) << QRect();
         QTest::newRow("bottom") << QRect(0, 0, 1024, 738) << QRect(0, 738, 1024, 30);
-        QTest::newRow("top") << QRect(0, 30, 1024, 738) << QRect(0, 0, 1024, 30);
-        QTest::newRow("left") << QRect(60, 0, 964, 768) << QRect(0, 0, 60, 768);
         QTest::newRow("right") << QRect(0, 0, 964, 768) << QRect(964, 0, 60, 768);
         QTest::newRow("panel on top, larger dock at the left") << QRect(80, 24, 944, 744) << QRect(0, 0, 80, 768);
         QTest::newRow("panel on top, small dock at the bottom") << QRect(0, 40, 1024, 718) << QRect(0, 0, 1024, 40);

