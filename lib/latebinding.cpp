@@ -46,13 +46,14 @@ QVariant storageFor(const QVariant &value, QMetaType type, LazySettings &setting
     return converted;
 }
 
-QVariant unwrap(const QVariant &storage)
+// The value a slot holds as the caller sees it; the slot is used up.
+QVariant unwrap(QVariant &&storage)
 {
     if (storage.metaType().id() == QMetaType::QVariant)
-        return *static_cast<const QVariant *>(storage.constData());
+        return std::move(*static_cast<QVariant *>(storage.data()));
     if (storage.metaType().flags() & QMetaType::IsEnumeration)
         return QVariant::fromValue<int>(*static_cast<const int *>(storage.constData()));
-    return storage;
+    return std::move(storage);
 }
 
 } // namespace
@@ -77,11 +78,12 @@ QVariant LateBinding::callMethod(const MethodInfo &method, QVariantList &args) c
         throw RuntimeError::wrongArgumentCount();
     LazySettings settings;
     QVarLengthArray<QVariant, usualArgumentCount> storage;
+    QVarLengthArray<bool, usualArgumentCount> supplied;
     storage.reserve(method.parameters.size());
     for (int i = 0; i < method.parameters.size(); ++i) {
         const ParameterInfo &param = method.parameters[i];
-        const bool supplied = i < args.size() && !isMissing(args[i]);
-        if (supplied)
+        supplied.append(i < args.size() && !isMissing(args[i]));
+        if (supplied.back())
             storage.append(storageFor(args[i], param.metaType, settings));
         else if (!param.optional)
             throw RuntimeError::argumentNotOptional();
@@ -92,20 +94,19 @@ QVariant LateBinding::callMethod(const MethodInfo &method, QVariantList &args) c
         else // an optional Variant without default: IsMissing
             storage.append(storageFor(missingVariant(), param.metaType, settings));
     }
-    const QMetaMethod meta = m_object->metaObject()->method(method.methodIndex);
     QVariant result;
-    if (meta.returnMetaType().id() != QMetaType::Void)
-        result = QVariant(meta.returnMetaType(), nullptr);
+    if (method.returnMetaType.id() != QMetaType::Void)
+        result = QVariant(method.returnMetaType, nullptr);
     QVarLengthArray<void *, usualArgumentCount + 1> argv;
     argv.append(result.isValid() ? result.data() : nullptr);
     for (QVariant &slot : storage)
         argv.append(slot.data());
     m_object->qt_metacall(QMetaObject::InvokeMetaMethod, method.methodIndex, argv.data());
     for (int i = 0; i < args.size(); ++i) {
-        if (method.parameters[i].byRef && !isMissing(args[i]))
-            args[i] = unwrap(storage[i]);
+        if (method.parameters[i].byRef && supplied[i])
+            args[i] = unwrap(std::move(storage[i]));
     }
-    return result.isValid() ? unwrap(result) : QVariant();
+    return result.isValid() ? unwrap(std::move(result)) : QVariant();
 }
 
 QVariant LateBinding::accessProperty(const PropertyInfo &property, QVariantList &args) const

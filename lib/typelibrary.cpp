@@ -104,6 +104,7 @@ void TypeLibrary::readMethods(const QMetaObject *cls)
         MethodInfo info;
         info.name = QString::fromLatin1(method.name());
         info.returnType = typeName(method.returnMetaType());
+        info.returnMetaType = method.returnMetaType();
         info.methodIndex = i;
         const QJsonObject optional = optionalArguments(cls, method.name());
         const QList<QByteArray> names = method.parameterNames();

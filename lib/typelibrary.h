@@ -31,6 +31,7 @@ struct QORGENLIB_EXPORT MethodInfo
     QString returnType; // empty for a method without result
     QList<ParameterInfo> parameters;
     int methodIndex = -1;
+    QMetaType returnMetaType; // Void for a method without result
 };
 
 struct QORGENLIB_EXPORT PropertyInfo
