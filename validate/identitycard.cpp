@@ -31,18 +31,17 @@ bool checkDigitsMatch(QStringView twelveCharacters, const RegionalSettings &rs)
 
 Verdict checkIdentityCard(QString &identNr, const RegionalSettings &rs, QString &display)
 {
-    display.resize(0);
     if (isBlank(identNr))
-        return Verdict::Skipped;
+        return nothingShown(display, Verdict::Skipped);
     if (identNr.size() != 12)
-        return Verdict::Refused;
+        return nothingShown(display, Verdict::Refused);
     // The card number is kept with check digits "00" for a remainder of 0.
     if (isText(rightPart(identNr, 2), QLatin1String("97"))) {
         identNr[10] = QLatin1Char('0');
         identNr[11] = QLatin1Char('0');
     }
     if (!checkDigitsMatch(identNr, rs))
-        return Verdict::Refused;
+        return nothingShown(display, Verdict::Refused);
     assignText(display, identNr);
     return Verdict::Accepted;
 }

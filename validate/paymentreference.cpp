@@ -99,14 +99,13 @@ PaymentReference makePaymentReference(QString &referentieNummer)
 
 Verdict checkPaymentReference(QString &ogm, QString &display)
 {
-    display.resize(0);
     if (isBlank(ogm))
-        return Verdict::Skipped;
+        return nothingShown(display, Verdict::Skipped);
     keepDigits(ogm);
     if (ogm.size() != 12 || !checkDigitsMatch(ogm))
         ogm.clear();
     if (ogm.isEmpty())
-        return Verdict::Refused;
+        return nothingShown(display, Verdict::Refused);
     writeOgmNotation(reinterpret_cast<const char16_t *>(ogm.constData()), display);
     return Verdict::Accepted;
 }
