@@ -144,7 +144,6 @@ private slots:
         QTest::addColumn<QString>("shown");
         // clang-format off
         QTest::newRow("name in proper case") << "txtNaam" << "bakkerij janssens-de smet" << "Bakkerij Janssens-De Smet";
-        QTest::newRow("quote in a name") << "txtNaam" << "o'neil" << "O´Neil";
         QTest::newRow("VAT number") << "txtBtwNr" << "BE 0123 456 749" << "0123.456.749";
         QTest::newRow("bank account") << "txtBankNr" << "539007510153" << "539-0075101-53";
         QTest::newRow("national number") << "txtNatNr" << "85031512369" << "850315.123.69";
@@ -187,7 +186,6 @@ private slots:
         // clang-format off
         QTest::newRow("date as six digits") << "txtDatum" << "201126" << 0 << "20/11/2026";
         QTest::newRow("date a day up") << "txtDatum" << "201126" << int(Qt::Key_Up) << "21/11/2026";
-        QTest::newRow("date a day down") << "txtDatum" << "201126" << int(Qt::Key_Down) << "19/11/2026";
         QTest::newRow("no step beyond today") << "txtDatum" << "231126" << int(Qt::Key_Up) << "23/11/2026";
         QTest::newRow("letters never reach the date") << "txtDatum" << "2x01y126" << 0 << "20/11/2026";
         QTest::newRow("time 8h30") << "txtUur" << "8h30" << 0 << "08:30";

@@ -33,21 +33,26 @@ private slots:
         QTest::addColumn<QString>("type");
         QTest::addColumn<QStringList>("captions");
         QTest::addColumn<QString>("caption");
+        QTest::addColumn<int>("offset"); // the language
         // clang-format off
-        QTest::newRow("plain") << 0 << "Message" << QStringList { "OK" } << "Bericht :";
-        QTest::newRow("question yes no") << 36 << "Question" << QStringList { "Ja", "Nee" } << "Vraag ?";
-        QTest::newRow("critical ok cancel") << 17 << "Critical" << QStringList { "OK", "Annuleren" } << "Fout !";
-        QTest::newRow("exclamation") << 48 << "Exclamation" << QStringList { "OK" } << "Opgelet !";
-        QTest::newRow("information") << 64 << "Information" << QStringList { "OK" } << "Ter Info :";
-        QTest::newRow("critical wins over information") << 80 << "Critical" << QStringList { "OK" } << "Fout !";
-        QTest::newRow("yes no cancel shows ok cancel") << 3 << "Message" << QStringList { "OK", "Annuleren" } << "Bericht :";
-        QTest::newRow("retry cancel shows yes no") << 5 << "Message" << QStringList { "Ja", "Nee" } << "Bericht :";
-        QTest::newRow("abort retry ignore shows ok") << 2 << "Message" << QStringList { "OK" } << "Bericht :";
+        QTest::newRow("plain") << 0 << "Message" << QStringList { "OK" } << "Bericht :" << 0;
+        QTest::newRow("question yes no") << 36 << "Question" << QStringList { "Ja", "Nee" } << "Vraag ?" << 0;
+        QTest::newRow("critical ok cancel") << 17 << "Critical" << QStringList { "OK", "Annuleren" } << "Fout !" << 0;
+        QTest::newRow("exclamation") << 48 << "Exclamation" << QStringList { "OK" } << "Opgelet !" << 0;
+        QTest::newRow("information") << 64 << "Information" << QStringList { "OK" } << "Ter Info :" << 0;
+        QTest::newRow("critical wins over information") << 80 << "Critical" << QStringList { "OK" } << "Fout !" << 0;
+        QTest::newRow("yes no cancel shows ok cancel") << 3 << "Message" << QStringList { "OK", "Annuleren" } << "Bericht :" << 0;
+        QTest::newRow("retry cancel shows yes no") << 5 << "Message" << QStringList { "Ja", "Nee" } << "Bericht :" << 0;
+        QTest::newRow("abort retry ignore shows ok") << 2 << "Message" << QStringList { "OK" } << "Bericht :" << 0;
+        QTest::newRow("French") << 20 << "Critical" << QStringList { "Oui", "Non" } << "Erreur !" << 10000;
+        QTest::newRow("German title missing: its marker") << 48 << "Exclamation" << QStringList { "OK" } << " [LL 31032 ?] " << 30000;
         // clang-format on
     }
     void styleChoosesTypeAndButtons()
     {
         QFETCH(int, style);
+        QFETCH(int, offset);
+        modGenLib().languageOffset = offset;
         const MessageBoxERequest request
             = MessageBoxLogic::prepare(QStringLiteral("p"), style, QStringLiteral("   "));
         QTEST(request.typeName, "type");
@@ -112,23 +117,6 @@ private slots:
             QStringLiteral("Ongeldig Ident-Nr :  591234567890\r\rU heeft een typefout gemaakt "
                            "of het betreft een vreemde nationaliteit."));
         QCOMPARE(request.prompt, QStringLiteral("591234567890"));
-    }
-
-    void frenchCaptions()
-    {
-        modGenLib().languageOffset = 10000;
-        const MessageBoxERequest request
-            = MessageBoxLogic::prepare(QStringLiteral("p"), 4 + 16, QString());
-        QCOMPARE(captionsOf(request.buttons), (QStringList { "Oui", "Non" }));
-        QCOMPARE(request.caption, QStringLiteral("Erreur !"));
-    }
-
-    void missingTitleTextShowsItsMarker()
-    {
-        modGenLib().languageOffset = 30000;
-        const MessageBoxERequest request
-            = MessageBoxLogic::prepare(QStringLiteral("p"), 48, QString());
-        QCOMPARE(request.caption, QStringLiteral(" [LL 31032 ?] "));
     }
 
     void shownThroughThePlatformAndKept()

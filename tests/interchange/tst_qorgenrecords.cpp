@@ -10,82 +10,63 @@ class tst_QorgenRecords : public QObject
 {
     Q_OBJECT
 
-    QTemporaryDir m_dir;
-
-    QString path(const char *name) const { return m_dir.filePath(QLatin1String(name)); }
-
 private slots:
-    void roundTrip()
-    {
-        const QString file = path("round.txt");
-        const QorgenRun written = runQorgen({ "records", "write", "--widths", "4,8", "--formats",
-                                                "[\"\",\"#,##0.00\"]", "--locale", "nl_BE", file },
-            "[\"AB\",\"7\"]\n[\"Caf\xC3\xA9\",1234.5]\n");
-        QCOMPARE(written.exitCode, 0);
-        QCOMPARE(written.err, QByteArray());
-        QFile bytes(file);
-        QVERIFY(bytes.open(QIODevice::ReadOnly));
-        QCOMPARE(bytes.readAll(),
-            QByteArray("000001 AB       7,00 67\r\n000002 Caf\xE9 1.234,50 DE\r\n"));
-
-        const QorgenRun read = runQorgen({ "records", "read", "--widths", "4,8", file });
-        QCOMPARE(read.exitCode, 0);
-        QCOMPARE(read.lines(),
-            (QList<QByteArray> { "[\"AB\",\"7,00\"]", "[\"Caf\xC3\xA9\",\"1.234,50\"]" }));
-    }
-
-    void faultyLines()
-    {
-        const QString file = path("faulty.txt");
-        QFile bytes(file);
-        QVERIFY(bytes.open(QIODevice::WriteOnly));
-        bytes.write("000001 AB   7   9B\r\n000002 AB   7   9B\r\n\n000004 CD   8   A3");
-        bytes.close();
-        const QorgenRun read = runQorgen({ "records", "read", "--widths=4,3", file });
-        QCOMPARE(read.exitCode, 1);
-        QCOMPARE(read.lines(), (QList<QByteArray> { "[\"AB\",\"7\"]", "[\"CD\",\"8\"]" }));
-        QList<QByteArray> faults = read.err.split('\n');
-        faults.removeAll(QByteArray());
-        QCOMPARE(faults.size(), 2);
-        QCOMPARE(QJsonDocument::fromJson(faults[0]).object().value("line").toInt(), 2);
-        QCOMPARE(QJsonDocument::fromJson(faults[1]).object().value("line").toInt(), 3);
-        QCOMPARE(QJsonDocument::fromJson(faults[1]).object().value("fault").toString(),
-            QStringLiteral("checksum"));
-    }
-
-    void badInputLines()
-    {
-        const QorgenRun written = runQorgen(
-            { "records", "write", "--widths", "2", "--no-checksum", "--no-line-numbers", "-" },
-            "[\"a\"]\nnot json\n[\"a\",\"b\"]\n[true]\n[\"b\"]\n");
-        QCOMPARE(written.exitCode, 1);
-        QCOMPARE(written.out, QByteArray("a \r\nb \r\n"));
-        QCOMPARE(written.err.count('\n'), 3);
-    }
-
-    void usageErrors_data()
+    // One run each: the arguments (FILE is a data file, holding "before" when that is
+    // not empty), standard input, the exit status, standard output, the start of
+    // standard error and the data file afterwards (when "after" is not empty).
+    void records_data()
     {
         QTest::addColumn<QStringList>("arguments");
-        QTest::newRow("no direction") << QStringList { "records" };
-        QTest::newRow("no widths") << QStringList { "records", "read", "x.txt" };
+        QTest::addColumn<QByteArray>("before");
+        QTest::addColumn<QByteArray>("input");
+        QTest::addColumn<int>("status");
+        QTest::addColumn<QByteArray>("out");
+        QTest::addColumn<QByteArray>("err");
+        QTest::addColumn<QByteArray>("after");
+        const QByteArray none;
+        const QByteArray written("000001 AB       7,00 67\r\n000002 Caf\xE9 1.234,50 DE\r\n");
+        const QByteArray faulty("000001 AB   7   9B\r\n000002 AB   7   9B\r\n\n000004 CD   8   A3");
+        const QByteArray usage("qorgen records: ");
         // clang-format off
-        QTest::newRow("negative width") << QStringList { "records", "read", "--widths", "4,-1", "x" };
-        QTest::newRow("width no number") << QStringList { "records", "read", "--widths", "4,a", "x" };
-        QTest::newRow("huge width") << QStringList { "records", "read", "--widths", "99999999999", "x" };
-        QTest::newRow("formats no array") << QStringList { "records", "write", "--widths", "4", "--formats", "0.00", "x" };
-        QTest::newRow("formats count") << QStringList { "records", "write", "--widths", "4,3", "--formats", "[\"\"]", "x" };
-        QTest::newRow("no file") << QStringList { "records", "read", "--widths", "4" };
-        QTest::newRow("missing file") << QStringList { "records", "read", "--widths", "4", "/nonexistent/x" };
-        QTest::newRow("unknown option") << QStringList { "records", "read", "--widths", "4", "--fast", "x" };
+        QTest::newRow("write with formats and a locale") << QStringList { "records", "write", "--widths", "4,8", "--formats", "[\"\",\"#,##0.00\"]", "--locale", "nl_BE", "FILE" } << none << QByteArray("[\"AB\",\"7\"]\n[\"Caf\xC3\xA9\",1234.5]\n") << 0 << none << none << written;
+        QTest::newRow("read what was written") << QStringList { "records", "read", "--widths", "4,8", "FILE" } << written << none << 0 << QByteArray("[\"AB\",\"7,00\"]\n[\"Caf\xC3\xA9\",\"1.234,50\"]\n") << none << none;
+        QTest::newRow("faulty lines reported, the rest read") << QStringList { "records", "read", "--widths=4,3", "FILE" } << faulty << none << 1 << QByteArray("[\"AB\",\"7\"]\n[\"CD\",\"8\"]\n") << QByteArray("{\"fault\":\"checksum\",\"line\":2,\"reason\":\"missing or wrong checksum\"}\n{\"fault\":\"checksum\",\"line\":3,") << none;
+        QTest::newRow("bad input lines reported, the rest written") << QStringList { "records", "write", "--widths", "2", "--no-checksum", "--no-line-numbers", "-" } << none << QByteArray("[\"a\"]\nnot json\n[\"a\",\"b\"]\n[true]\n[\"b\"]\n") << 1 << QByteArray("a \r\nb \r\n") << QByteArray("{\"fault\":\"input\",\"line\":2,\"reason\":\"illegal value\"}\n{\"fault\":\"input\",\"line\":3,\"reason\":\"2 fields where the layout has 1\"}\n{\"fault\":\"input\",\"line\":4,") << none;
+        QTest::newRow("no direction") << QStringList { "records" } << none << none << 2 << none << usage << none;
+        QTest::newRow("no widths") << QStringList { "records", "read", "x.txt" } << none << none << 2 << none << usage << none;
+        // A file that can be read, so that only the widths are wrong.
+        QTest::newRow("negative width") << QStringList { "records", "read", "--widths", "4,-1", "FILE" } << faulty << none << 2 << none << usage << none;
+        QTest::newRow("width no number") << QStringList { "records", "read", "--widths", "4,a", "FILE" } << faulty << none << 2 << none << usage << none;
+        QTest::newRow("huge width") << QStringList { "records", "read", "--widths", "99999999999", "FILE" } << faulty << none << 2 << none << usage << none;
+        QTest::newRow("formats no array") << QStringList { "records", "write", "--widths", "4", "--formats", "0.00", "x" } << none << none << 2 << none << usage << none;
+        QTest::newRow("formats count") << QStringList { "records", "write", "--widths", "4,3", "--formats", "[\"\"]", "x" } << none << none << 2 << none << usage << none;
+        QTest::newRow("no file") << QStringList { "records", "read", "--widths", "4" } << none << none << 2 << none << usage << none;
+        QTest::newRow("missing file") << QStringList { "records", "read", "--widths", "4", "/nonexistent/x" } << none << none << 2 << none << usage << none;
+        QTest::newRow("unknown option") << QStringList { "records", "read", "--widths", "4", "--fast", "x" } << none << none << 2 << none << usage << none;
         // clang-format on
     }
-
-    void usageErrors()
+    void records()
     {
         QFETCH(QStringList, arguments);
-        const QorgenRun run = runQorgen(arguments);
-        QCOMPARE(run.exitCode, 2);
-        QVERIFY(run.err.startsWith("qorgen records: "));
+        QFETCH(QByteArray, before);
+        QFETCH(QByteArray, input);
+        QFETCH(QByteArray, err);
+        QFETCH(QByteArray, after);
+        QTemporaryDir dir;
+        QFile file(dir.filePath(QStringLiteral("records.txt")));
+        if (!before.isEmpty()) {
+            QVERIFY(file.open(QIODevice::WriteOnly));
+            file.write(before);
+            file.close();
+        }
+        const QorgenRun run = runQorgen(arguments.replaceInStrings("FILE", file.fileName()), input);
+        QTEST(run.exitCode, "status");
+        QTEST(run.out, "out");
+        QVERIFY2(err.isEmpty() ? run.err.isEmpty() : run.err.startsWith(err), run.err.constData());
+        if (!after.isEmpty()) {
+            QVERIFY(file.open(QIODevice::ReadOnly));
+            QCOMPARE(file.readAll(), after);
+        }
     }
 };
 

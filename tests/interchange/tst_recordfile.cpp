@@ -130,14 +130,16 @@ private slots:
         QTest::addColumn<bool>("lineNumbers");
         QTest::addColumn<bool>("checksum");
         QTest::addColumn<QStringList>("seen");
+        QTest::addColumn<qsizetype>("limit");
+        const qsizetype usual = RecordFileReader::defaultMaxLineLength;
         const QByteArray good1 = "000001 AB   7   9B";
         const QByteArray good2 = "000002 CD   8   A1";
         // clang-format off
-        QTest::newRow("CRLF") << good1 + "\r\n" + good2 + "\r\n" << true << true << QStringList { "1 AB|7", "2 CD|8" };
-        QTest::newRow("LF") << good1 + "\n" + good2 + "\n" << true << true << QStringList { "1 AB|7", "2 CD|8" };
-        QTest::newRow("last line without line end") << good1 + "\r\n" + good2 << true << true << QStringList { "1 AB|7", "2 CD|8" };
-        QTest::newRow("empty file") << QByteArray() << true << true << QStringList();
-        QTest::newRow("one empty line") << QByteArray("\n") << true << true << QStringList { "1 checksum" };
+        QTest::newRow("CRLF") << good1 + "\r\n" + good2 + "\r\n" << true << true << QStringList { "1 AB|7", "2 CD|8" } << usual;
+        QTest::newRow("LF") << good1 + "\n" + good2 + "\n" << true << true << QStringList { "1 AB|7", "2 CD|8" } << usual;
+        QTest::newRow("last line without line end") << good1 + "\r\n" + good2 << true << true << QStringList { "1 AB|7", "2 CD|8" } << usual;
+        QTest::newRow("empty file") << QByteArray() << true << true << QStringList() << usual;
+        QTest::newRow("one empty line") << QByteArray("\n") << true << true << QStringList { "1 checksum" } << usual;
         // clang-format on
         QTest::newRow("every fault once") << good1 + "\r\n" + "000002 CD   8   A2\r\n" // wrong sum
                 + "\r\n" // empty
@@ -148,10 +150,19 @@ private slots:
                 + good2 + "\n" << true << true
                                           << QStringList { "1 AB|7", "2 checksum", "3 checksum",
                                                  "4 line number", "5 delimiter at 12",
-                                                 "6 NUL byte at 9", "7 checksum", "8 CD|8" };
+                                                 "6 NUL byte at 9", "7 checksum", "8 CD|8" }
+                                          << usual;
         // clang-format off
-        QTest::newRow("delimiter without line numbers") << QByteArray( "ABCDE   \nAB   7  ") << false << false << QStringList { "1 delimiter at 5", "2 AB|7" };
-        QTest::newRow("code page decoded") << QByteArray("Caf\xE9 \x80\x9C ") << false << false << QStringList { QString::fromUtf8("1 Café|€œ") };
+        QTest::newRow("delimiter without line numbers") << QByteArray( "ABCDE   \nAB   7  ") << false << false << QStringList { "1 delimiter at 5", "2 AB|7" } << usual;
+        QTest::newRow("code page decoded") << QByteArray("Caf\xE9 \x80\x9C ") << false << false << QStringList { QString::fromUtf8("1 Café|€œ") } << usual;
+        // A line beyond the limit is skipped to its end, wherever the end falls.
+        const auto longLines = [](qsizetype length) {
+            return "AB   7  \n" + QByteArray(length, 'x') + "\r\nAB   7  \n" + QByteArray(length, 'y');
+        };
+        const QStringList tooLong { "1 AB|7", "2 too long", "3 AB|7", "4 too long" };
+        QTest::newRow("one over a small limit") << longLines(21) << false << false << tooLong << qsizetype(20);
+        QTest::newRow("exactly the limit") << longLines(20) << false << false << QStringList { "1 AB|7", "2 delimiter at 5", "3 AB|7", "4 delimiter at 5" } << qsizetype(20);
+        QTest::newRow("10 MB line, default limit") << longLines(10 << 20) << false << false << tooLong << usual;
         // clang-format on
     }
 
@@ -160,33 +171,8 @@ private slots:
         QFETCH(QByteArray, bytes);
         QFETCH(bool, lineNumbers);
         QFETCH(bool, checksum);
-        QFETCH(QStringList, seen);
-        QCOMPARE(readAll(bytes, layout43(lineNumbers, checksum)), seen);
-    }
-
-    // A line beyond the limit is skipped to its end, wherever the end falls.
-    void longLines_data()
-    {
-        QTest::addColumn<qsizetype>("limit");
-        QTest::addColumn<qsizetype>("length");
-        QTest::newRow("one over a small limit") << qsizetype(20) << qsizetype(21);
-        QTest::newRow("exactly the limit") << qsizetype(20) << qsizetype(20);
-        // clang-format off
-        QTest::newRow("10 MB line, default limit") << RecordFileReader::defaultMaxLineLength << qsizetype(10 << 20);
-        // clang-format on
-    }
-
-    void longLines()
-    {
         QFETCH(qsizetype, limit);
-        QFETCH(qsizetype, length);
-        const QByteArray good = "AB   7  ";
-        const QByteArray bytes = good + "\n" + QByteArray(length, 'x') + "\r\n" + good + "\n"
-            + QByteArray(length, 'y');
-        const QString verdict
-            = length > limit ? QStringLiteral("too long") : QStringLiteral("delimiter at 5");
-        QCOMPARE(readAll(bytes, layout43(false, false), limit),
-            (QStringList { "1 AB|7", "2 " + verdict, "3 AB|7", "4 " + verdict }));
+        QTEST(readAll(bytes, layout43(lineNumbers, checksum), limit), "seen");
     }
 
     void readError()

@@ -33,6 +33,12 @@ QVariantMap importBox(const QString &prompt)
     return messageBox(prompt, critical, importTitle);
 }
 
+// The run-time error a call raises, in place of the message it shows.
+QVariantMap raises(RuntimeError::Number number)
+{
+    return { { QStringLiteral("error"), int(number) } };
+}
+
 QVariant fields(const QStringList &values)
 {
     return QStringList(values) << QString();
@@ -59,7 +65,7 @@ private slots:
         QTest::addColumn<bool>("addChecksum");
         QTest::addColumn<QVariant>("separator");
         QTest::addColumn<QVariant>("record");
-        QTest::addColumn<QVariantMap>("message");
+        QTest::addColumn<QVariantMap>("message"); // or the run-time error raised
 
         const QStringList ab7 { "AB", "7" };
         const QVariant w43 = list({ 4, 3 });
@@ -89,6 +95,11 @@ private slots:
         QTest::newRow("no fields at all") << "en_US" << 12 << QStringList() << list({}) << none << true << blank << QVariant("000012  43") << QVariantMap();
         QTest::newRow("euro sign counts 128, omega counts as ?") << "en_US" << 0 << QStringList { QString::fromUtf8("\u20ac\u03a9") } << list({ 2 }) << none << true << blank << QVariant(QString::fromUtf8("\u20ac\u03a9 BF")) << QVariantMap();
 
+        QTest::newRow("text width: the conversion error") << "en_US" << 12 << ab7 << list({ 4, "x" }) << none << true << blank << none << raises(RuntimeError::TypeMismatch);
+        QTest::newRow("Null width") << "en_US" << 12 << ab7 << list({ nullVariant(), 3 }) << none << true << blank << none << raises(RuntimeError::InvalidUseOfNull);
+        QTest::newRow("negative width") << "en_US" << 12 << ab7 << list({ -1, 3 }) << none << true << blank << none << raises(RuntimeError::InvalidProcedureCall);
+        QTest::newRow("width beyond 32 bits") << "en_US" << 12 << ab7 << list({ 3e9, 3 }) << none << true << blank << none << raises(RuntimeError::Overflow);
+        QTest::newRow("record beyond memory") << "en_US" << 12 << ab7 << list({ 2000000000, 3 }) << none << true << blank << none << raises(RuntimeError::OutOfMemory);
         QTest::newRow("widths no array") << "en_US" << 12 << ab7 << QVariant(4) << f00 << true << blank << QVariant() << exportBox("arrFieldLength is geen geldige array !");
         QTest::newRow("more widths than data") << "en_US" << 12 << ab7 << list({ 4, 3, 2 }) << f00 << true << blank << QVariant() << exportBox("Het aantal elementen in arrFieldLength stemt niet overeen met het aantal elementen in Data !\r\rarrFieldLength = 2\rData = 1");
         QTest::newRow("widths but no data") << "en_US" << 12 << QStringList() << list({ 4 }) << none << true << blank << QVariant() << exportBox("Het aantal elementen in arrFieldLength stemt niet overeen met het aantal elementen in Data !\r\rarrFieldLength = 0\rData = -1");
@@ -113,11 +124,14 @@ private slots:
         m_machine->setLocale(locale);
         clsqorGenLib lib;
         qint32 number = lineNumber;
-        const QVariant result
-            = lib.GetExportData(number, data, widths, formats, addChecksum, separator);
+        QVariant result;
+        const int error = errorNumber([&] {
+            result = lib.GetExportData(number, data, widths, formats, addChecksum, separator);
+        });
         QCOMPARE(varTypeName(result), varTypeName(record));
         QCOMPARE(result, record);
-        QCOMPARE(onlyMessage(*m_machine), message);
+        QCOMPARE(error ? raises(RuntimeError::Number(error)) : onlyMessage(*m_machine), message);
+        QVERIFY(!error || m_machine->shown().isEmpty());
         QCOMPARE(number, lineNumber);
     }
 
@@ -128,7 +142,7 @@ private slots:
         QTest::addColumn<bool>("lineNumberIncluded");
         QTest::addColumn<bool>("checkSumIncluded");
         QTest::addColumn<QVariant>("result");
-        QTest::addColumn<QVariantMap>("message");
+        QTest::addColumn<QVariantMap>("message"); // or the run-time error raised
 
         const QVariant w43 = list({ 4, 3 });
         const QVariant checksumFault = integerVariant(-4);
@@ -145,8 +159,12 @@ private slots:
         QTest::newRow("no fields") << "000012  43" << list({}) << true << true << fields({}) << QVariantMap();
         QTest::newRow("width 0") << " B" << list({ 0, 1 }) << false << false << fields({ "", "B" }) << QVariantMap();
         QTest::newRow("line number read with blanks") << "  12   AB   .00" << w43 << true << false << fields({ "AB", ".00" }) << QVariantMap();
+        QTest::newRow("a huge width: the record runs out") << "AB" << list({ 2147483647 }) << false << false << fields({ "AB" }) << QVariantMap();
         QTest::newRow("euro sign counts 128, omega counts as ?") << QString::fromUtf8("\u20ac\u03a9 BF") << list({ 2 }) << false << true << fields({ QString::fromUtf8("\u20ac\u03a9") }) << QVariantMap();
 
+        QTest::newRow("text width: the conversion error") << "AB   7  " << list({ 4, "x" }) << false << false << QVariant() << raises(RuntimeError::TypeMismatch);
+        QTest::newRow("negative width") << "AB   7  " << list({ -1, 3 }) << false << false << QVariant() << raises(RuntimeError::InvalidProcedureCall);
+        QTest::newRow("width beyond 32 bits") << "AB   7  " << list({ 4, 1e10 }) << false << false << QVariant() << raises(RuntimeError::Overflow);
         QTest::newRow("wrong checksum") << "000012 AB   .00 B5" << w43 << true << true << checksumFault << importBox("Ongeldige CheckSum  in Regel 000012  !");
         QTest::newRow("wrong checksum, no line number") << "AB   .00 72" << w43 << false << true << checksumFault << importBox("Ongeldige CheckSum  in InputRecord ''AB   .00 72''  !");
         QTest::newRow("checksum not hexadecimal") << "000012 AB   .00 G4" << w43 << true << true << checksumFault << importBox("Ongeldige CheckSum  in Regel 000012  !");
@@ -161,6 +179,7 @@ private slots:
         QTest::newRow("no blank, no line number") << "ABCDE.00" << w43 << false << false << delimiterFault << importBox("Ongeldige Delimiter Space(1) op Positie 5 in InputRecord ''ABCDE.00''  !");
         QTest::newRow("record shorter than its fields") << "000012 AB" << w43 << true << false << delimiterFault << importBox("Ongeldige Delimiter Space(1) op Positie 12 in Line 12  !");
         QTest::newRow("third delimiter") << "AB C D" << list({ 2, 1, 1, 1 }) << false << false << delimiterFault << importBox("Ongeldige Delimiter Space(1) op Positie 7 in InputRecord ''AB C D''  !");
+        QTest::newRow("two huge widths: the delimiter beyond the Long range") << "AB" << list({ 2147483647, 2147483647 }) << false << false << delimiterFault << importBox("Ongeldige Delimiter Space(1) op Positie 2147483648 in InputRecord ''AB''  !");
         QTest::newRow("widths no array") << "000012 AB   .00 B4" << QVariant(4) << true << true << delimiterFault << importBox("arrFieldLength is geen geldige array !");
         QTest::newRow("delimiter found before a bad width") << "ABCD" << list({ 2, "x" }) << false << false << delimiterFault << importBox("Ongeldige Delimiter Space(1) op Positie 3 in InputRecord ''ABCD''  !");
         QTest::newRow("checksum found before a bad width") << "AB 00" << list({ "x" }) << false << true << checksumFault << importBox("Ongeldige CheckSum  in InputRecord ''AB 00''  !");
@@ -177,62 +196,14 @@ private slots:
         QFETCH(QVariantMap, message);
 
         clsqorGenLib lib;
-        const QVariant read
-            = lib.GetImportData(record, widths, lineNumberIncluded, checkSumIncluded);
+        QVariant read;
+        const int error = errorNumber([&] {
+            read = lib.GetImportData(record, widths, lineNumberIncluded, checkSumIncluded);
+        });
         QCOMPARE(varTypeName(read), varTypeName(result));
         QCOMPARE(read, result);
-        QCOMPARE(onlyMessage(*m_machine), message);
-    }
-
-    // Widths that are no numbers raise the conversion error when they are used.
-    void runtimeErrors_data()
-    {
-        QTest::addColumn<QString>("method");
-        QTest::addColumn<QVariant>("widths");
-        QTest::addColumn<int>("error");
-        // clang-format off
-        QTest::newRow("export: text width") << "GetExportData" << list({ 4, "x" }) << int(RuntimeError::TypeMismatch);
-        QTest::newRow("export: Null width") << "GetExportData" << list({ nullVariant(), 3 }) << int(RuntimeError::InvalidUseOfNull);
-        QTest::newRow("export: negative width") << "GetExportData" << list({ -1, 3 }) << int(RuntimeError::InvalidProcedureCall);
-        QTest::newRow("export: width beyond 32 bits") << "GetExportData" << list({ 3e9, 3 }) << int(RuntimeError::Overflow);
-        QTest::newRow("export: record beyond memory") << "GetExportData" << list({ 2000000000, 3 }) << int(RuntimeError::OutOfMemory);
-        QTest::newRow("import: text width") << "GetImportData" << list({ 4, "x" }) << int(RuntimeError::TypeMismatch);
-        QTest::newRow("import: negative width") << "GetImportData" << list({ -1, 3 }) << int(RuntimeError::InvalidProcedureCall);
-        QTest::newRow("import: width beyond 32 bits") << "GetImportData" << list({ 4, 1e10 }) << int(RuntimeError::Overflow);
-        // clang-format on
-    }
-
-    void runtimeErrors()
-    {
-        QFETCH(QString, method);
-        QFETCH(QVariant, widths);
-        QFETCH(int, error);
-
-        clsqorGenLib lib;
-        qint32 lineNumber = 12;
-        QStringList data { "AB", "7" };
-        QVariant formats;
-        QCOMPARE(errorNumber([&] {
-            if (method == QLatin1String("GetExportData"))
-                lib.GetExportData(lineNumber, data, widths, formats);
-            else
-                lib.GetImportData(QStringLiteral("AB   7  "), widths, false, false);
-        }),
-            error);
-        QVERIFY(m_machine->shown().isEmpty());
-    }
-
-    // Huge widths cost nothing to the reader: the record simply runs out.
-    void importHugeWidths()
-    {
-        clsqorGenLib lib;
-        QVariant widths = list({ 2147483647 });
-        QCOMPARE(lib.GetImportData(QStringLiteral("AB"), widths, false, false), fields({ "AB" }));
-        widths = list({ 2147483647, 2147483647 });
-        QCOMPARE(lib.GetImportData(QStringLiteral("AB"), widths, false, false), integerVariant(-6));
-        QCOMPARE(onlyMessage(*m_machine).value("prompt").toString(),
-            QStringLiteral(
-                "Ongeldige Delimiter Space(1) op Positie 2147483648 in InputRecord ''AB''  !"));
+        QCOMPARE(error ? raises(RuntimeError::Number(error)) : onlyMessage(*m_machine), message);
+        QVERIFY(!error || m_machine->shown().isEmpty());
     }
 
     // By name, with the optional arguments left out: the published defaults.

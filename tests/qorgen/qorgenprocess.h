@@ -62,10 +62,3 @@ inline BatchResult runBatch(const QList<QByteArray> &requests)
     }
     return result;
 }
-
-// One request, one response.
-inline QJsonObject respond(const QByteArray &request)
-{
-    const BatchResult result = runBatch({ request });
-    return result.responses.value(0);
-}

@@ -172,6 +172,8 @@ private slots:
         QTest::newRow("Empty") << QByteArray(R"({"$empty":true})") << "Empty" << QByteArray();
         QTest::newRow("Date and time") << QByteArray(R"({"$date":"2004-05-20T08:30:00"})") << "Date" << QByteArray();
         QTest::newRow("Date") << QByteArray(R"({"$date":"2004-05-20"})") << "Date" << QByteArray();
+        QTest::newRow("date and time to the minute") << QByteArray(R"({"$date":"2004-05-20T08:30"})") << "Date" << QByteArray(R"({"$date":"2004-05-20T08:30:00"})");
+        QTest::newRow("time alone, on the zero date") << QByteArray(R"({"$date":"08:30"})") << "Date" << QByteArray(R"({"$date":"1899-12-30T08:30:00"})");
         QTest::newRow("Array") << QByteArray(R"([1,"a",null,{"$empty":true},[2.5]])") << "Array" << QByteArray();
         QTest::newRow("host object: declared properties set in order, calls not taken") << QByteArray(R"({"$object": "textbox", "selLength": 2, "SelStart": 1, "text": "abcd", "Tag": "mine", "$calls": [{"name": "SetFocus", "args": []}]})") << "Object" << QByteArray(R"({"$object":"TextBox","Text":"abcd","SelStart":1,"SelLength":2,"MaxLength":0,"Enabled":true,"Left":0.0,"Top":0.0,"Width":0.0,"Height":0.0,"Tag":"mine","$calls":[]})");
         QTest::newRow("host object: a list reads back") << QByteArray(R"({"$object":"ListBox","List":["a","b"],"ItemData":[5,6],"ListIndex":1,"ListCount":2,"NewIndex":-1,"$calls":[]})") << "Object" << QByteArray();
@@ -200,6 +202,8 @@ private slots:
         QTest::newRow("empty that is false") << QByteArray(R"({"$empty": false})") << "value";
         QTest::newRow("date in the wrong order") << QByteArray(R"({"$date": "20-05-2004"})") << "value";
         QTest::newRow("date that does not exist") << QByteArray(R"({"$date": "2004-02-30"})") << "value";
+        QTest::newRow("date at hour 24") << QByteArray(R"({"$date": "2004-05-20T24:00"})") << "value";
+        QTest::newRow("date with a space for the T") << QByteArray(R"({"$date": "2004-05-20 08:30"})") << "value";
         QTest::newRow("date before the year 100") << QByteArray(R"({"$date": "0099-01-01"})") << "value";
         QTest::newRow("date with company") << QByteArray(R"({"$date": "2004-05-20", "x": 1})") << "value";
         QTest::newRow("missing outside an argument") << QByteArray(R"({"$missing": true})") << "value";
@@ -237,27 +241,6 @@ private slots:
         QCOMPARE(ValueCodec::typeOf(nothing).toString(), QStringLiteral("Object"));
         QCOMPARE(encoded(QVariant::fromValue(qorGenLib::WindowSize { 1, 2, 3, 4, 5, 6 })),
             QByteArray(R"({"Left":1,"Top":2,"Right":3,"Bottom":4,"Width":5,"Height":6})"));
-    }
-
-    void readDate_data()
-    {
-        QTest::addColumn<QString>("text");
-        QTest::addColumn<QDateTime>("expected");
-        // clang-format off
-        QTest::newRow("minutes") << "2004-05-20T08:30" << QDateTime(QDate(2004, 5, 20), QTime(8, 30), Qt::UTC);
-        QTest::newRow("time alone") << "08:30" << QDateTime(QDate(1899, 12, 30), QTime(8, 30), Qt::UTC);
-        QTest::newRow("hour 24") << "2004-05-20T24:00" << QDateTime();
-        QTest::newRow("space instead of T") << "2004-05-20 08:30" << QDateTime();
-        // clang-format on
-    }
-    void readDate()
-    {
-        QFETCH(QString, text);
-        QFETCH(QDateTime, expected);
-        const auto date = ValueCodec::readDate(text);
-        QCOMPARE(date.has_value(), expected.isValid());
-        if (date)
-            QCOMPARE(*date, expected);
     }
 
     // Host objects.

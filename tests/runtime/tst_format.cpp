@@ -47,9 +47,11 @@ class TestFormat : public QObject
     Q_OBJECT
 
 private slots:
-    void textMasks_data()
+    // Format under nl_BE and en_US.
+    void format_data()
     {
         addColumns();
+        // Text masks.
         // clang-format off
         QTest::newRow("bank account") << QVariant("123456789012") << bankMask << "123-4567890-12" << "123-4567890-12";
         QTest::newRow("bank account from a number") << QVariant(123456789012.0) << bankMask << "123-4567890-12" << "123-4567890-12";
@@ -64,12 +66,7 @@ private slots:
         QTest::newRow("second section for empty text") << QVariant("") << "&&;\\-" << "-" << "-";
         QTest::newRow("quoted literal") << QVariant("12") << "\"nr \"&&" << "nr 12" << "nr 12";
         // clang-format on
-    }
-    void textMasks() { compareBoth(); }
-
-    void numberPatterns_data()
-    {
-        addColumns();
+        // Number patterns.
         // clang-format off
         QTest::newRow("structured reference") << QVariant(12345) << referenceMask << "000/0012/345" << "000/0012/345";
         QTest::newRow("structured reference, surplus in front") << QVariant(123456789012.0) << referenceMask << "12345/6789/012" << "12345/6789/012";
@@ -95,14 +92,8 @@ private slots:
         QTest::newRow("zero section") << QVariant(0) << "0;-0;\"nihil\"" << "nihil" << "nihil";
         QTest::newRow("single section puts a minus in front") << QVariant(-5) << "\\[0\\]" << "-[5]" << "-[5]";
         // clang-format on
-    }
-    void numberPatterns() { compareBoth(); }
-
-    // Format rounds the digits a Double shows (15 significant), half away from
-    // zero: 2.675 is 2.67499999... in binary but displays and rounds as 2.675.
-    void rounding_data()
-    {
-        addColumns();
+        // Format rounds the digits a Double shows (15 significant), half away from
+        // zero: 2.675 is 2.67499999... in binary but displays and rounds as 2.675.
         // clang-format off
         QTest::newRow("2.675 to 2.68") << QVariant(2.675) << "0.00" << "2,68" << "2.68";
         QTest::newRow("1.005 to 1.01") << QVariant(1.005) << "0.00" << "1,01" << "1.01";
@@ -122,12 +113,7 @@ private slots:
         QTest::newRow("a Single rounds on its 7 digits") << QVariant(2.675f) << "0.00" << "2,68" << "2.68";
         QTest::newRow("64-bit whole numbers stay exact") << QVariant(qlonglong(9007199254740993LL)) << "#,##0" << "9.007.199.254.740.993" << "9,007,199,254,740,993";
         // clang-format on
-    }
-    void rounding() { compareBoth(); }
-
-    void otherValueKinds_data()
-    {
-        addColumns();
+        // Values of other kinds.
         // clang-format off
         QTest::newRow("date and time serial") << QVariant(QDateTime(QDate(2000, 1, 1), QTime(18, 0))) << "0.00" << "36526,75" << "36526.75";
         QTest::newRow("numeric text is read with the regional separators") << QVariant("1.234,5") << "0.00" << "1234,50" << "1.234,5";
@@ -138,12 +124,7 @@ private slots:
         QTest::newRow("no pattern: the plain text form") << QVariant(1234.5) << "" << "1234,5" << "1234.5";
         QTest::newRow("a number through a text mask") << QVariant(1234.5) << "&&&&&&" << "1234,5" << "1234.5";
         // clang-format on
-    }
-    void otherValueKinds() { compareBoth(); }
-
-    void datePatterns_data()
-    {
-        addColumns();
+        // Date and time patterns.
         const QDateTime afternoon(QDate(2024, 3, 5), QTime(14, 7, 9));
         // clang-format off
         QTest::newRow("hh:mm is 24-hour too") << QVariant(afternoon) << "hh:mm" << "14:07" << "14:07";
@@ -167,23 +148,7 @@ private slots:
         QTest::newRow("a time literal with hashes stays as it is") << QVariant("#08:30#") << "HH:mm" << "#08:30#" << "#08:30#";
         QTest::newRow("Boolean True is 29 December 1899") << QVariant(true) << "dd/mm/yyyy" << "29/12/1899" << "29/12/1899";
         // clang-format on
-    }
-    void datePatterns() { compareBoth(); }
-
-    void dateSeparatorsOfOtherSettings()
-    {
-        const QDate date(2024, 3, 5);
-        QCOMPARE(qor::format(date, QStringLiteral("dd/mm/yyyy"), settings("de_DE")),
-            QStringLiteral("05.03.2024"));
-        RegionalSettings dotted = settings("nl_BE");
-        dotted.timeSeparator = QLatin1Char('.');
-        QCOMPARE(
-            qor::format(QTime(8, 30), QStringLiteral("HH:mm"), dotted), QStringLiteral("08.30"));
-    }
-
-    void nonFiniteAndHugeNumbers_data()
-    {
-        addColumns();
+        // Numbers beyond the usual.
         const double inf = std::numeric_limits<double>::infinity();
         const QString hugeWhole = QStringLiteral("1") + QString(300, QLatin1Char('0'));
         // clang-format off
@@ -195,7 +160,18 @@ private slots:
         QTest::newRow("smallest Double rounds to zero") << QVariant(std::numeric_limits<double>::denorm_min()) << "0.00" << "0,00" << "0.00";
         // clang-format on
     }
-    void nonFiniteAndHugeNumbers() { compareBoth(); }
+    void format() { compareBoth(); }
+
+    void dateSeparatorsOfOtherSettings()
+    {
+        const QDate date(2024, 3, 5);
+        QCOMPARE(qor::format(date, QStringLiteral("dd/mm/yyyy"), settings("de_DE")),
+            QStringLiteral("05.03.2024"));
+        RegionalSettings dotted = settings("nl_BE");
+        dotted.timeSeparator = QLatin1Char('.');
+        QCOMPARE(
+            qor::format(QTime(8, 30), QStringLiteral("HH:mm"), dotted), QStringLiteral("08.30"));
+    }
 
     void errors_data()
     {
