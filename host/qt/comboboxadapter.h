@@ -1,49 +1,40 @@
 #pragma once
 
-#include "qorgenlib_export.h"
+#include "host/qt/listadapter.h"
 
 #include <QComboBox>
-#include <QObject>
 #include <QPointer>
-#include <QVariantList>
 
 namespace qor {
 
-// Gives a QComboBox the names of a combo box: List and ItemData (the item's
-// user data) as arrays, ListCount, ListIndex (the current index, -1 for none;
-// anything beyond raises 380), Text, NewIndex, Clear and AddItem.
-class QORGENLIB_WIDGETS_EXPORT ComboBoxAdapter : public QObject
+// Gives a QComboBox the names of a combo box: those of every list (ListAdapter)
+// and Text, the current text (typed into an editable combo, else the item of
+// that text selected).
+class QORGENLIB_WIDGETS_EXPORT ComboBoxAdapter : public ListAdapter
 {
     Q_OBJECT
-    Q_PROPERTY(QVariantList List READ list)
-    Q_PROPERTY(QVariantList ItemData READ itemData WRITE setItemData)
-    Q_PROPERTY(qint32 ListIndex READ listIndex WRITE setListIndex)
-    Q_PROPERTY(qint32 ListCount READ listCount)
-    Q_PROPERTY(qint32 NewIndex READ newIndex)
     Q_PROPERTY(QString Text READ text WRITE setText)
 
 public:
     explicit ComboBoxAdapter(QComboBox *combo, QObject *parent = nullptr);
 
-    QVariantList list() const;
-    QVariantList itemData() const;
-    void setItemData(const QVariantList &numbers);
-    qint32 listIndex() const;
-    void setListIndex(qint32 index);
-    qint32 listCount() const;
-    qint32 newIndex() const { return m_newIndex; }
     QString text() const;
     void setText(const QString &text);
 
-    Q_INVOKABLE void Clear();
-    Q_INVOKABLE void AddItem(const QString &item);
-    Q_INVOKABLE void AddItem(const QString &item, qint32 index);
+protected:
+    int itemCount() const override;
+    QString itemText(int row) const override;
+    QVariant itemNumber(int row) const override;
+    void setItemNumber(int row, qint32 number) override;
+    int currentRow() const override;
+    void setCurrentRow(int row) override;
+    void clearItems() override;
+    void insertItem(int row, const QString &text) override;
 
 private:
     QComboBox *widget() const;
 
     QPointer<QComboBox> m_combo;
-    qint32 m_newIndex = -1;
 };
 
 } // namespace qor
