@@ -6,7 +6,6 @@
 #include <QMetaEnum>
 #include <QMetaMethod>
 #include <QMetaProperty>
-#include <QVarLengthArray>
 
 namespace qor {
 
@@ -166,52 +165,97 @@ void TypeLibrary::readRecord(const QMetaObject *record)
 
 namespace {
 
-// A name folded to one case, in a buffer on the stack for the usual short names.
-class FoldedName
+// Names are found regardless of case: A-Z fold at once, other characters
+// through Unicode case folding.
+char16_t folded(char16_t c)
 {
-public:
-    explicit FoldedName(const QString &name)
-    {
-        m_text.resize(name.size());
-        for (qsizetype i = 0; i < name.size(); ++i) {
-            const char16_t c = name[i].unicode();
-            m_text[i] = c < 0x80 ? (c >= u'A' && c <= u'Z' ? char16_t(c + 32) : c)
-                                 : QChar(c).toCaseFolded().unicode();
-        }
-    }
-    std::u16string_view view() const { return { m_text.constData(), size_t(m_text.size()) }; }
+    if (c < 0x80)
+        return c >= u'A' && c <= u'Z' ? char16_t(c + 32) : c;
+    return QChar(c).toCaseFolded().unicode();
+}
 
-private:
-    QVarLengthArray<char16_t, 64> m_text;
-};
+// FNV-1a over the folded characters.
+quint32 foldedHash(QStringView name)
+{
+    quint32 hash = 2166136261u;
+    for (QChar c : name)
+        hash = (hash ^ folded(c.unicode())) * 16777619u;
+    return hash;
+}
+
+bool equalsFolded(const std::u16string &folded, QStringView name)
+{
+    if (folded.size() != size_t(name.size()))
+        return false;
+    for (qsizetype i = 0; i < name.size(); ++i) {
+        if (folded[size_t(i)] != qor::folded(name[i].unicode()))
+            return false;
+    }
+    return true;
+}
 
 } // namespace
 
-void TypeLibrary::indexNames()
+void TypeLibrary::NameIndex::build(const QStringList &names)
 {
-    // The first of two names that differ only in case wins, as a scan would find it.
-    for (qsizetype i = 0; i < m_methods.size(); ++i)
-        m_methodIndex.emplace(std::u16string(FoldedName(m_methods[i].name).view()), i);
-    for (qsizetype i = 0; i < m_properties.size(); ++i)
-        m_propertyIndex.emplace(std::u16string(FoldedName(m_properties[i].name).view()), i);
+    size_t size = 16;
+    while (size < 2 * size_t(names.size()))
+        size *= 2;
+    m_slots.assign(size, Slot());
+    for (qsizetype place = 0; place < names.size(); ++place) {
+        const QString &name = names[place];
+        const quint32 hash = foldedHash(name);
+        for (size_t i = hash & (size - 1);; i = (i + 1) & (size - 1)) {
+            Slot &slot = m_slots[i];
+            if (slot.place >= 0 && slot.hash == hash && equalsFolded(slot.folded, name))
+                break; // the first of two names that differ only in case wins
+            if (slot.place < 0) {
+                slot.hash = hash;
+                slot.place = place;
+                for (QChar c : name)
+                    slot.folded.push_back(folded(c.unicode()));
+                break;
+            }
+        }
+    }
 }
 
-qsizetype TypeLibrary::lookUp(const NameIndex &index, const QString &name)
+qsizetype TypeLibrary::NameIndex::find(const QString &name) const
 {
-    const FoldedName folded(name);
-    const auto it = index.find(folded.view());
-    return it == index.end() ? -1 : it->second;
+    if (m_slots.empty())
+        return -1;
+    const size_t mask = m_slots.size() - 1;
+    const quint32 hash = foldedHash(name);
+    for (size_t i = hash & mask;; i = (i + 1) & mask) {
+        const Slot &slot = m_slots[i];
+        if (slot.place < 0)
+            return -1;
+        if (slot.hash == hash && equalsFolded(slot.folded, name))
+            return slot.place;
+    }
+}
+
+void TypeLibrary::indexNames()
+{
+    QStringList methods;
+    for (const MethodInfo &method : m_methods)
+        methods.append(method.name);
+    m_methodIndex.build(methods);
+    QStringList properties;
+    for (const PropertyInfo &property : m_properties)
+        properties.append(property.name);
+    m_propertyIndex.build(properties);
 }
 
 const MethodInfo *TypeLibrary::findMethod(const QString &name) const
 {
-    const qsizetype i = lookUp(m_methodIndex, name);
+    const qsizetype i = m_methodIndex.find(name);
     return i < 0 ? nullptr : &m_methods[i];
 }
 
 const PropertyInfo *TypeLibrary::findProperty(const QString &name) const
 {
-    const qsizetype i = lookUp(m_propertyIndex, name);
+    const qsizetype i = m_propertyIndex.find(name);
     return i < 0 ? nullptr : &m_properties[i];
 }
 

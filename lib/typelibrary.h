@@ -10,7 +10,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
-#include <unordered_map>
+#include <vector>
 
 namespace qor {
 
@@ -97,18 +97,25 @@ private:
     QList<EnumInfo> m_enums;
     QList<RecordInfo> m_records;
 
-    // Case-folded names to their place in m_methods and m_properties.
-    struct NameHash
+    // Case-folded names to their place in m_methods and m_properties: an open
+    // table with room for twice the names, probed from the name's hash, so
+    // that a look-up folds the name once and compares it once.
+    class NameIndex
     {
-        using is_transparent = void;
-        size_t operator()(std::u16string_view name) const
+    public:
+        void build(const QStringList &names); // the first of equal names wins
+        qsizetype find(const QString &name) const; // -1 when not there
+
+    private:
+        struct Slot
         {
-            return std::hash<std::u16string_view>()(name);
-        }
+            quint32 hash = 0;
+            qsizetype place = -1; // -1: empty
+            std::u16string folded;
+        };
+        std::vector<Slot> m_slots;
     };
-    using NameIndex = std::unordered_map<std::u16string, qsizetype, NameHash, std::equal_to<>>;
     void indexNames();
-    static qsizetype lookUp(const NameIndex &index, const QString &name);
     NameIndex m_methodIndex;
     NameIndex m_propertyIndex;
 };
