@@ -1,7 +1,7 @@
 #include "datetime/dateentry.h"
 
-#include "datetime/blanks.h"
 #include "input/amounts.h"
+#include "runtime/blanks.h"
 #include "runtime/conversion.h"
 #include "runtime/dates.h"
 #include "runtime/runtimeerror.h"

@@ -1,6 +1,5 @@
 #include "datetime/datetimechecks.h"
 
-#include "datetime/blanks.h"
 #include "datetime/dateentry.h"
 #include "datetime/datetimemessages.h"
 #include "datetime/holidaytext.h"
@@ -10,6 +9,7 @@
 #include "lib/frame/messageboxlogic.h"
 #include "lib/frame/modgenlib.h"
 #include "platform/platform.h"
+#include "runtime/blanks.h"
 #include "runtime/callbyname.h"
 #include "runtime/conversion.h"
 #include "runtime/dates.h"

@@ -1,6 +1,6 @@
 #include "datetime/timeentry.h"
 
-#include "datetime/blanks.h"
+#include "runtime/blanks.h"
 #include "runtime/conversion.h"
 #include "runtime/format.h"
 #include "runtime/regionalsettings.h"

@@ -4,23 +4,13 @@
 #include "lib/frame/messageboxlogic.h"
 #include "lib/frame/modgenlib.h"
 #include "platform/platform.h"
+#include "runtime/blanks.h"
 
 namespace qor {
 
 namespace {
 
 constexpr qint32 cancelCaption = 9500;
-
-QString trimBlanks(const QString &text)
-{
-    qsizetype start = 0;
-    qsizetype end = text.size();
-    while (start < end && text.at(start) == QLatin1Char(' '))
-        ++start;
-    while (end > start && text.at(end - 1) == QLatin1Char(' '))
-        --end;
-    return text.mid(start, end - start);
-}
 
 } // namespace
 

@@ -1,5 +1,7 @@
 #include "dialogs/boxlayout.h"
 
+#include "runtime/blanks.h"
+
 #include <algorithm>
 
 namespace qor {
@@ -7,18 +9,6 @@ namespace qor {
 namespace {
 
 using namespace BoxMetrics;
-
-// Trim as the classic runtime does it: blanks only.
-QString trimBlanks(const QString &text)
-{
-    qsizetype start = 0;
-    qsizetype end = text.size();
-    while (start < end && text.at(start) == QLatin1Char(' '))
-        ++start;
-    while (end > start && text.at(end - 1) == QLatin1Char(' '))
-        --end;
-    return text.mid(start, end - start);
-}
 
 QStringList paragraphsOf(const QString &prompt)
 {

@@ -3,6 +3,7 @@
 #include "grid/gridpicture.h"
 #include "grid/hostcollection.h"
 #include "platform/platform.h"
+#include "runtime/blanks.h"
 #include "runtime/callbyname.h"
 #include "runtime/conversion.h"
 #include "runtime/runtimeerror.h"
@@ -162,17 +163,6 @@ void defineColumn(QObject *grid, const GridColumnSpec &wanted, const GridColumnW
     set(column, "HeadAlignment", wanted.alignment == 0 ? 0 : HeadingCentred);
 }
 
-QString trimmed(const QString &text)
-{
-    qsizetype from = 0;
-    qsizetype to = text.size();
-    while (from < to && text.at(from) == QLatin1Char(' '))
-        ++from;
-    while (to > from && text.at(to - 1) == QLatin1Char(' '))
-        --to;
-    return text.mid(from, to - from);
-}
-
 const QString &ascending()
 {
     static const QString text = QStringLiteral(" ASC");
@@ -188,11 +178,11 @@ const QString &descending()
 void showDirection(QObject *column)
 {
     QObject *heading = child(column, "HeadingStyle");
-    const QString direction = trimmed(text(column, "Tag"));
+    const QString direction = trimBlanks(text(column, "Tag"));
     QVariant picture;
-    if (direction == trimmed(descending()))
+    if (direction == trimBlanks(descending()))
         picture = QVariant::fromValue(GridPicture::of(GridPicture::SortDescending));
-    else if (direction == trimmed(ascending()))
+    else if (direction == trimBlanks(ascending()))
         picture = QVariant::fromValue(GridPicture::of(GridPicture::SortAscending));
     set(heading, "ForegroundPicture", picture);
     set(heading, "ForegroundPicturePosition", PicturePositionRight);
@@ -227,11 +217,12 @@ void setDBGridIcon(
             set(column, "Tag", QString());
         } else if (!forceState.isEmpty()) {
             set(column, "Tag",
-                trimmed(forceState) == trimmed(descending()) ? descending() : ascending());
+                trimBlanks(forceState) == trimBlanks(descending()) ? descending() : ascending());
             set(grid, "Tag", orderColumn + text(column, "Tag"));
         } else {
             set(column, "Tag",
-                trimmed(text(column, "Tag")) == trimmed(ascending()) ? descending() : ascending());
+                trimBlanks(text(column, "Tag")) == trimBlanks(ascending()) ? descending()
+                                                                           : ascending());
         }
         showDirection(column);
     }

@@ -9,6 +9,7 @@
 #include "lib/frame/messageboxlogic.h"
 #include "lib/frame/modgenlib.h"
 #include "platform/platform.h"
+#include "runtime/blanks.h"
 #include "runtime/callbyname.h"
 #include "runtime/codepage.h"
 #include "runtime/conversion.h"
@@ -67,18 +68,6 @@ int decimalCode(const RegionalSettings &rs)
 bool isDigitCode(int code)
 {
     return code >= '0' && code <= '9';
-}
-
-// Trim as the classic runtime does it: blanks only.
-QString trimBlanks(const QString &text)
-{
-    qsizetype first = 0;
-    qsizetype last = text.size();
-    while (first < last && text.at(first) == QLatin1Char(' '))
-        ++first;
-    while (last > first && text.at(last - 1) == QLatin1Char(' '))
-        --last;
-    return text.mid(first, last - first);
 }
 
 // How many zeros a rounding pattern gets for a number of decimals.
