@@ -6,6 +6,7 @@ namespace qor::KeyCode {
 enum Code : int {
     BackSpace = 8,
     Enter = 13,
+    Escape = 27,
     Quote = 34,
     Percent = 37,
     Apostrophe = 39,

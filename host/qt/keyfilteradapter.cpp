@@ -1,6 +1,7 @@
 #include "host/qt/keyfilteradapter.h"
 
 #include "host/qt/lineeditadapter.h"
+#include "input/keycodes.h"
 #include "lib/clsqorgenlib.h"
 #include "platform/platform.h"
 #include "runtime/codepage.h"
@@ -13,10 +14,6 @@
 namespace qor {
 
 namespace {
-
-constexpr int backSpaceCode = 8;
-constexpr int enterCode = 13;
-constexpr int escapeCode = 27;
 
 // Keeps the arguments a handler writes back between keys, as a host's
 // variables would be.
@@ -101,8 +98,8 @@ KeyFilterAdapter *KeyFilterAdapter::attachScanBM(QLineEdit *field, clsqorGenLib 
     // The format is written back in upper case, as into a host's variable.
     auto format = std::make_shared<QString>(scanFormat);
     adapter->m_handler = [adapter, format, returnFieldOnly, mbox](short &code) {
-        return int(adapter->m_library->ScanBM(
-            adapter->m_control, code, *format, returnFieldOnly, mbox));
+        return int(
+            adapter->m_library->ScanBM(adapter->m_control, code, *format, returnFieldOnly, mbox));
     };
     adapter->m_takesEscape = true;
     return adapter;
@@ -113,9 +110,9 @@ int KeyFilterAdapter::characterCode(const QKeyEvent *event)
     if (event->modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier))
         return -1;
     switch (event->key()) {
-    case Qt::Key_Backspace: return backSpaceCode;
+    case Qt::Key_Backspace: return KeyCode::BackSpace;
     case Qt::Key_Return:
-    case Qt::Key_Enter: return enterCode;
+    case Qt::Key_Enter: return KeyCode::Enter;
     default: break;
     }
     const QString text = event->text();
@@ -160,7 +157,7 @@ bool KeyFilterAdapter::filterCharacter(QKeyEvent *event)
 {
     const bool escape = m_takesEscape && event->key() == Qt::Key_Escape
         && !(event->modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier));
-    const int typed = escape ? escapeCode : characterCode(event);
+    const int typed = escape ? KeyCode::Escape : characterCode(event);
     if (typed < 0)
         return false;
     short code = short(typed);
@@ -170,7 +167,7 @@ bool KeyFilterAdapter::filterCharacter(QKeyEvent *event)
     if (result == typed)
         return false;
     // A rewritten key: the adapter types the character the handler chose.
-    if (result > 0 && result <= 255 && result != backSpaceCode && result != enterCode)
+    if (result > 0 && result <= 255 && result != KeyCode::BackSpace && result != KeyCode::Enter)
         m_field->insert(chr(result));
     return true;
 }
