@@ -184,16 +184,6 @@ Session::Reply Session::handleJson(const JsonValue &request)
     return replyOf([&](JsonSink &out) { return handleJson(request, out); });
 }
 
-Session::Reply Session::handle(const Request &request)
-{
-    return replyOf([&](JsonSink &out) { return handle(request, out); });
-}
-
-Session::Reply Session::unreadable(const RequestError &error, const std::optional<JsonValue> &id)
-{
-    return replyOf([&](JsonSink &out) { return writeUnreadable(out, error, id); });
-}
-
 Session::Outcome Session::handleLine(QByteArrayView utf8, JsonSink &out)
 {
     JsonValue json;

@@ -43,7 +43,6 @@ public:
 
     Reply handleLine(QByteArrayView utf8);
     Reply handleJson(const JsonValue &request);
-    Reply handle(const Request &request);
     // The same with the response written into a sink (the batch writes it
     // straight into its output).
     Outcome handleLine(QByteArrayView utf8, JsonSink &out);
@@ -51,8 +50,6 @@ public:
     Outcome handle(const Request &request, JsonSink &out);
     // The response to a request that could not be read: its id (when it has
     // one) and the error.
-    static Reply unreadable(
-        const RequestError &error, const std::optional<JsonValue> &id = std::nullopt);
     static Outcome writeUnreadable(JsonSink &out, const RequestError &error,
         const std::optional<JsonValue> &id = std::nullopt);
 

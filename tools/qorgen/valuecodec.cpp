@@ -372,9 +372,7 @@ JsonValue ValueCodec::typeOf(const QVariant &value)
 
 void ValueCodec::writeType(JsonSink &out, const QVariant &value)
 {
-    if (isMissing(value))
-        return out.null();
-    out.string(varTypeName(value));
+    out.value(typeOf(value));
 }
 
 std::optional<QDateTime> ValueCodec::readDate(const QString &text)
