@@ -118,19 +118,6 @@ private slots:
         QCOMPARE(outlineShot.pixelColor(outlineShot.rect().center()), QColor(Qt::white));
         QCOMPARE(outlineShot.pixelColor(0, 0), blue);
     }
-
-    void formOnTopSetsTheFlag()
-    {
-        QMainWindow window;
-        MainWindowAdapter adapter(&window);
-        window.show();
-        clsqorGenLib lib;
-        lib.FormOnTop(&adapter);
-        QCOMPARE(
-            machine->actions().value(0).toMap().value("kind").toString(), QStringLiteral("onTop"));
-        // The recording platform only records; the Qt platform sets the flag.
-        Platform::install(std::make_shared<RecordingPlatform>());
-    }
 };
 
 QTEST_MAIN(TestMainWindowAdapter)
