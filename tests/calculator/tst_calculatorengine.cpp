@@ -35,8 +35,6 @@ private slots:
         QTest::newRow("enter after equals closes") << "nl_BE" << 0.0 << 0 << 0 << "2+3{Enter}{Enter}" << "5" << true << 5.0 << 0;
         QTest::newRow("chaining runs left to right") << "nl_BE" << 0.0 << 0 << 0 << "2+3x4=" << "20" << false << 0.0 << 0;
         QTest::newRow("a second operator replaces the first") << "nl_BE" << 0.0 << 0 << 0 << "8+-x2=" << "16" << false << 0.0 << 0;
-        QTest::newRow("subtraction below zero") << "nl_BE" << 0.0 << 0 << 0 << "3-5=" << "-2" << false << 0.0 << 0;
-        QTest::newRow("division with decimals") << "nl_BE" << 0.0 << 0 << 0 << "1/4=" << "0,25" << false << 0.0 << 0;
         QTest::newRow("star and x both multiply") << "nl_BE" << 0.0 << 0 << 0 << "3*4x2=" << "24" << false << 0.0 << 0;
         QTest::newRow("comma and point both separate") << "nl_BE" << 0.0 << 0 << 0 << "1,5+1.25=" << "2,75" << false << 0.0 << 0;
         QTest::newRow("point system shows a point") << "en_US" << 0.0 << 0 << 0 << "1,5+1.25=" << "2.75" << false << 0.0 << 0;
@@ -66,7 +64,6 @@ private slots:
         QTest::newRow("VAT on a typed amount") << "nl_BE" << 0.0 << 0 << 600 << "50{VAT2}+1=" << "54" << false << 0.0 << 0;
         QTest::newRow("VAT on zero beeps and stays") << "nl_BE" << 0.0 << 2100 << 0 << "{VAT1}5{VAT1}" << "6,05" << false << 0.0 << 1;
         QTest::newRow("a hidden VAT key does nothing") << "nl_BE" << 100.0 << 2100 << 0 << "{VAT2}" << "100" << false << 100.0 << 0;
-        QTest::newRow("negative rate hides the key") << "nl_BE" << 100.0 << -2100 << 0 << "{VAT1}" << "100" << false << 100.0 << 0;
         QTest::newRow("euro to francs") << "nl_BE" << 10.0 << 0 << 0 << "{Euro}" << "403,399" << false << 10.0 << 0;
         QTest::newRow("francs back to euro") << "nl_BE" << 0.0 << 0 << 0 << "1000{Euro}{Euro}" << "1000" << false << 0.0 << 0;
         QTest::newRow("francs typed and inserted as euro") << "nl_BE" << 0.0 << 0 << 0 << "{Euro}{Delete}403,399{Euro}{Insert}" << "10" << true << 10.0 << 0;
@@ -157,7 +154,6 @@ private slots:
         QTest::newRow("keys until a second enter") << QVariant(QVariantMap { { "keys", "+1{Enter}{Enter}99" } }) << 11.0 << QStringList { "Calculator" };
         QTest::newRow("text ending with the calculator open") << QVariant(QVariantMap { { "keys", "x5" } }) << 10.0 << QStringList { "Calculator" };
         QTest::newRow("help card takes the next key") << QVariant(QVariantMap { { "keys", "{Help}{Esc}+2{Insert}" } }) << 12.0 << QStringList { "CalculatorHelp", "Calculator" };
-        QTest::newRow("beep on a VAT key over zero") << QVariant(QVariantMap { { "keys", "{Delete}{VAT1}7{Insert}" } }) << 7.0 << QStringList { "beep", "Calculator" };
         QTest::newRow("a number is the register") << QVariant(42.5) << 42.5 << QStringList { "Calculator" };
         QTest::newRow("cancel") << QVariant(QVariantMap { { "cancel", true } }) << 10.0 << QStringList { "Calculator" };
         // clang-format on

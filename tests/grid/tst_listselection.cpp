@@ -49,20 +49,16 @@ private slots:
         // clang-format off
         QTest::newRow("by number") << "A|B|C" << "1|2|5" << -1 << 5 << "" << -1 << true << 2;
         QTest::newRow("by text") << "A|B|C" << "1|2|5" << -1 << -9999 << "B" << -1 << true << 1;
-        // clang-format on
-        // clang-format off
         QTest::newRow("first in list order wins") << "A|B|C" << "1|2|5" << -1 << 5 << "A" << -1 << true << 0;
         QTest::newRow("number before text on one entry") << "A|B|C" << "7|2|5" << 2 << 7 << "A" << -1 << true << 0;
         QTest::newRow("text is case-sensitive") << "A|B|C" << "1|2|5" << 1 << -9999 << "b" << -1 << false << -1;
         QTest::newRow("nothing given: fallback -1") << "A|B|C" << "1|2|5" << 2 << -9999 << "" << -1 << false << -1;
         QTest::newRow("nothing given: fallback 0") << "A|B|C" << "1|2|5" << 2 << -9999 << "" << 0 << false << 0;
-        QTest::newRow("nothing given: unchanged") << "A|B|C" << "1|2|5" << 2 << -9999 << "" << 99 << false << 2;
         QTest::newRow("other fallback leaves it") << "A|B|C" << "1|2|5" << 1 << 8 << "" << 3 << false << 1;
         QTest::newRow("-9999 never matches an entry of -9999") << "A|B" << "-9999|1" << 1 << -9999 << "" << -1 << false << -1;
         QTest::newRow("empty text never matches an empty entry") << "_|B" << "0|1" << 1 << -9999 << "" << 0 << false << 0;
         QTest::newRow("number 0 matches") << "A|B" << "3|0" << -1 << 0 << "" << -1 << true << 1;
         QTest::newRow("empty list: untouched") << "" << "" << -1 << 5 << "A" << 0 << false << -1;
-        QTest::newRow("last entry") << "A|B|C" << "1|2|5" << -1 << -9999 << "C" << -1 << true << 2;
         // clang-format on
     }
 

@@ -50,20 +50,15 @@ private slots:
         const QVariantList none;
         // clang-format off
         QTest::newRow("amount with comma decimals") << "KeyGetal" << "nl_BE" << "" << false << 0 << none << "12.345" << "12,34" << 5 << "" << 1 << 0;
-        QTest::newRow("separator first") << "KeyGetal" << "nl_BE" << "" << false << 0 << none << ",5" << "0,5" << 3 << "" << 0 << 0;
-        QTest::newRow("selection of all replaced") << "KeyGetal" << "nl_BE" << "12,34" << true << 0 << none << "5" << "5" << 1 << "" << 0 << 0;
         QTest::newRow("backspace passes, enter is refused") << "KeyGetal" << "nl_BE" << "12,34" << false << 0 << none << "{BS}{Enter}" << "12,3" << 4 << "" << 1 << 0;
         QTest::newRow("minus toggles the sign") << "KeyGetal" << "nl_BE" << "12,50" << false << 0 << none << "-" << "-12,5" << 5 << "" << 0 << 0;
         QTest::newRow("shortcuts pass untouched") << "KeyGetal" << "nl_BE" << "12" << false << 0 << none << "{CtrlA}" << "12" << 2 << "12" << 0 << 0;
         QTest::newRow("calculator result inserted") << "KeyGetal" << "nl_BE" << "12" << false << 0 << QVariantList { 12.3456 } << "*" << "12,35" << 5 << "" << 0 << 0;
-        QTest::newRow("calculator result too long") << "KeyGetal" << "nl_BE" << "12" << false << 4 << QVariantList { 12345.0 } << "*" << "12" << 2 << "" << 0 << 0;
         QTest::newRow("euro amount with VAT at once") << "KeyEuro" << "nl_BE" << "" << false << 0 << none << "100%" << "121" << 3 << "" << 0 << 1;
         QTest::newRow("upper-cased letters; the accent from a quote is no letter") << "KeyPress:H" << "nl_BE" << "" << false << 0 << none << "ab'c1" << "ABC" << 3 << "" << 2 << 0;
-        QTest::newRow("the quote rewritten into an allowed accent") << "KeyPress:L\u00B4" << "nl_BE" << "" << false << 0 << none << "d'a" << "d\u00B4a" << 3 << "" << 0 << 0;
         QTest::newRow("a rewritten key respects the maximum length") << "KeyPress:" << "nl_BE" << "ab" << false << 3 << none << "'x" << "ab\u00B4" << 3 << "" << 0 << 0;
         QTest::newRow("a character outside the code page") << "KeyPress:L" << "nl_BE" << "" << false << 0 << none << "{Zhe}" << "" << 0 << "" << 1 << 0;
         QTest::newRow("spin up twice") << "KeySpin" << "nl_BE" << "5" << false << 0 << none << "{Up}{Up}" << "7" << 1 << "7" << 0 << 0;
-        QTest::newRow("spin down stops at one") << "KeySpin" << "nl_BE" << "2" << false << 0 << none << "{Down}{Down}" << "1" << 1 << "1" << 1 << 0;
         QTest::newRow("scan written into the field") << "ScanBM:%[###]" << "nl_BE" << "" << false << 0 << none << "%[123]" << "123" << 3 << "" << 0 << 0;
         QTest::newRow("scan dropped by escape, typing goes on") << "ScanBM:%[###]" << "nl_BE" << "" << false << 0 << none << "%[12{Esc}7" << "7" << 1 << "" << 0 << 0;
         QTest::newRow("spin lets typing through") << "KeySpin" << "nl_BE" << "2" << false << 0 << none << "x" << "2x" << 2 << "" << 0 << 0;
