@@ -136,7 +136,6 @@ private slots:
         QTest::newRow("first two characters count") << nl << 0 << 2004 << "BEL" << "BEL" << slashes << fixedDays + ",21/07,11/11,11/07,11/04,20/05,30/05" << dutchTitles << QVariantList();
         QTest::newRow("a leading blank is another country") << nl << 0 << 2004 << " BE" << " BE" << slashes << fixedDays << dutchTitles << QVariantList();
         QTest::newRow("empty becomes BE") << nl << 0 << 2004 << "" << "BE" << slashes << fixedDays + ",21/07,11/11,11/07,11/04,20/05,30/05" << dutchTitles << QVariantList();
-        QTest::newRow("blanks become BE") << nl << 0 << 2004 << "   " << "BE" << slashes << fixedDays + ",21/07,11/11,11/07,11/04,20/05,30/05" << dutchTitles << QVariantList();
         QTest::newRow("points as separator") << "de_DE" << 30000 << 2004 << "LU" << "LU" << "dd.mm.yyyy" << fixedDays + ",23/06,11/04,20/05,30/05" << " [LL 31000 ?] " << QVariantList();
         // clang-format on
     }
@@ -177,7 +176,6 @@ private slots:
         QTest::addColumn<bool>("notice");
         // clang-format off
         QTest::newRow("2006 BE development") << 2006 << "BE" << true << true;
-        QTest::newRow("2006 LU development") << 2006 << "LU" << true << true;
         QTest::newRow("2006 NL development") << 2006 << "NL" << true << false;
         QTest::newRow("2006 BE customer") << 2006 << "BE" << false << false;
         QTest::newRow("2005 BE development") << 2005 << "BE" << true << false;

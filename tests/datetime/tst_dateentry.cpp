@@ -60,10 +60,8 @@ private slots:
         QTest::newRow("month 0 rolls back a month") << nl << "010000" << missing << "1/12/1999" << "1/12/1999" << "";
         QTest::newRow("all zeros roll back twice") << nl << "000000" << missing << "30/11/1999" << "30/11/1999" << "";
         QTest::newRow("five digits") << nl << "12345" << missing << "" << "12345" << notation;
-        QTest::newRow("seven digits") << nl << "1234567" << missing << "" << "1234567" << notation;
         QTest::newRow("a megabyte of digits") << nl << QString(1 << 20, '1') << missing << "" << QString(1 << 20, '1') << notation;
         QTest::newRow("a letter among six") << nl << "12a456" << missing << "" << "12a456" << notation;
-        QTest::newRow("negative number") << nl << "-12345" << missing << "" << "-12345" << notation;
         QTest::newRow("slashes, two-digit year") << nl << "1/2/03" << missing << "1/02/2003" << "1/02/2003" << "";
         QTest::newRow("slashes month first") << us << "1/2/03" << missing << "1/2/2003" << "1/2/2003" << "";
         QTest::newRow("German points") << "de_DE" << "1.2.03" << missing << "01.02.2003" << "01.02.2003" << "";
@@ -76,7 +74,6 @@ private slots:
         QTest::newRow("trimmed before reading") << nl << "  14/3/2024  " << missing << "14/03/2024" << "14/03/2024" << "";
         QTest::newRow("today is not the future") << nl << "15/03/2024" << missing << "15/03/2024" << "15/03/2024" << "";
         QTest::newRow("tomorrow is") << nl << "16/03/2024" << missing << "" << "16/03/2024" << future;
-        QTest::newRow("tomorrow allowed") << nl << "16/03/2024" << QVariant(true) << "16/03/2024" << "16/03/2024" << "";
         QTest::newRow("31 February") << nl << "31/02/2003" << missing << "" << "31/02/2003" << notation;
         QTest::newRow("day and month 0 with separators") << nl << "00/00/00" << missing << "" << "00/00/00" << notation;
         QTest::newRow("year 0 is 2000") << nl << "1/1/0" << missing << "1/01/2000" << "1/01/2000" << "";

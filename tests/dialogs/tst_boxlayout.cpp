@@ -95,7 +95,6 @@ private slots:
         QTest::addColumn<QString>("prompt");
         QTest::newRow("no blanks") << QString(100000, 'x');
         QTest::newRow("only carriage returns") << QString(100000, '\r');
-        QTest::newRow("words") << repeated("woord", 20000, " ");
         QTest::newRow("control characters") << QString(100000, QChar(7));
     }
     void hugePrompts()

@@ -236,29 +236,6 @@ private slots:
         QVERIFY(machine->notices.isEmpty());
     }
 
-    // Bad prompts and titles: the box stays on the screen and answers.
-    void oddPrompts_data()
-    {
-        QTest::addColumn<QString>("prompt");
-        QTest::addColumn<QString>("title");
-        QTest::newRow("100000 characters, no blanks") << QString(100000, 'W') << "";
-        QTest::newRow("control characters")
-            << QString(300, QChar(1)) + "\t\a\b" << QString(3, QChar(0));
-        QTest::newRow("huge title") << "kort" << QString(100000, 'T');
-    }
-    void oddPrompts()
-    {
-        QFETCH(QString, prompt);
-        QFETCH(QString, title);
-        QRect geometry;
-        test::whenModalIsActive([&](QWidget *window) {
-            geometry = window->geometry();
-            test::typeKeys(window, QStringLiteral("{Esc}"));
-        });
-        QCOMPARE(msgBoxE(prompt, 1, title, 0), 2);
-        QVERIFY(QRect(0, 0, 1024, 768).contains(geometry));
-    }
-
     void inputBox_data()
     {
         QTest::addColumn<int>("offset");

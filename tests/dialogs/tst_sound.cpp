@@ -67,7 +67,6 @@ private slots:
         QTest::newRow("trailing backslash") << "~\\given\\" << false << "~\\given\\Ding.wav" << "~\\given\\" << true;
         QTest::newRow("given folder without the file") << "~\\app" << false << "~\\app\\Ding.wav" << "~\\app" << false;
         QTest::newRow("development station ignores the folder") << "~\\given" << true << "~\\dev\\Ding.wav" << "~\\dev" << true;
-        QTest::newRow("development station, no folder") << "" << true << "~\\dev\\Ding.wav" << "~\\dev" << true;
         // clang-format on
     }
     void folderRules()

@@ -36,7 +36,6 @@ private slots:
         QTest::newRow("no widths") << QStringList { "records", "read", "x.txt" } << none << none << 2 << none << usage << none;
         // A file that can be read, so that only the widths are wrong.
         QTest::newRow("negative width") << QStringList { "records", "read", "--widths", "4,-1", "FILE" } << faulty << none << 2 << none << usage << none;
-        QTest::newRow("width no number") << QStringList { "records", "read", "--widths", "4,a", "FILE" } << faulty << none << 2 << none << usage << none;
         QTest::newRow("huge width") << QStringList { "records", "read", "--widths", "99999999999", "FILE" } << faulty << none << 2 << none << usage << none;
         QTest::newRow("formats no array") << QStringList { "records", "write", "--widths", "4", "--formats", "0.00", "x" } << none << none << 2 << none << usage << none;
         QTest::newRow("formats count") << QStringList { "records", "write", "--widths", "4,3", "--formats", "[\"\"]", "x" } << none << none << 2 << none << usage << none;

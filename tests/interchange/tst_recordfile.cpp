@@ -93,8 +93,6 @@ private slots:
         QTest::newRow("outside the code page as ?") << false << true << QList<QStringList> { { QString::fromUtf8("Ω😀xy"), "" } } << QByteArray("??xy     EF\r\n");
         QTest::newRow("no records") << true << true << QList<QStringList>() << QByteArray();
         QTest::newRow("line feed refused") << true << true << QList<QStringList> { { "A\nB", "" }, { "AB", "7" } } << QByteArray("000001 AB   7   9B\r\n");
-        QTest::newRow("carriage return refused") << true << true << QList<QStringList> { { "A", "\r" }, { "AB", "7" } } << QByteArray("000001 AB   7   9B\r\n");
-        QTest::newRow("NUL refused") << true << true << QList<QStringList> { { QString(QChar(0)), "" }, { "AB", "7" } } << QByteArray("000001 AB   7   9B\r\n");
         QTest::newRow("too few fields refused") << true << true << QList<QStringList> { { "A" }, { "AB", "7" } } << QByteArray("000001 AB   7   9B\r\n");
         QTest::newRow("too many fields refused") << true << true << QList<QStringList> { { "A", "B", "C" }, { "AB", "7" } } << QByteArray("000001 AB   7   9B\r\n");
         // clang-format on

@@ -50,7 +50,6 @@ private slots:
         QTest::newRow("doubled quote inside quotes") << "\"say \"\"hi\"\"\"" << QStringList { "say \"hi\"" };
         QTest::newRow("empty quoted word") << "a \"\" b" << QStringList { "a", "", "b" };
         QTest::newRow("unclosed quote runs to the end") << "\"a b" << QStringList { "a b" };
-        QTest::newRow("apostrophe is a letter") << "open O'Neil.txt" << QStringList { "open", "O'Neil.txt" };
         QTest::newRow("both separators kept") << "x C:/a\\b" << QStringList { "x", "C:/a\\b" };
         QTest::newRow("blank line") << "   " << QStringList {};
         // clang-format on
@@ -70,10 +69,8 @@ private slots:
         QTest::newRow("star dot ext") << "Factuur.TXT" << "*.txt" << true;
         QTest::newRow("other extension") << "factuur.txt.bak" << "*.txt" << false;
         QTest::newRow("star dot star without a dot") << "README" << "*.*" << true;
-        QTest::newRow("star alone") << ".x" << "*" << true;
         QTest::newRow("question mark one character") << "a1.wav" << "a?.wav" << true;
         QTest::newRow("question mark not zero characters") << "a.wav" << "a?.wav" << false;
-        QTest::newRow("brackets are plain") << "[1].txt" << "[1].txt" << true;
         QTest::newRow("brackets not a class") << "1.txt" << "[1].txt" << false;
         QTest::newRow("empty pattern matches all") << "x" << "" << true;
         QTest::newRow("accented without regard to case") << "\u00C9T\u00C9.txt" << "\u00E9t\u00E9.*" << true;
@@ -97,10 +94,8 @@ private slots:
         QTest::newRow("fails at once: 0 all the same") << "\"" + helper + "\" exit 3" << 0 << "";
         QTest::newRow("from the search path") << "true" << 0 << "";
         QTest::newRow("missing program") << "/no/such/program.exe arg" << 53 << "File not found";
-        QTest::newRow("missing program on the path") << "geen_programma_zo" << 53 << "File not found";
         QTest::newRow("not executable") << "\"" + QStringLiteral(QOR_SYSTEM_HELPER).section('/', 0, -2) + "/CMakeFiles\"" << 70 << "Permission denied";
         QTest::newRow("empty command") << "" << 5 << "Invalid procedure call or argument";
-        QTest::newRow("blank command") << "  " << 5 << "Invalid procedure call or argument";
         // clang-format on
     }
     void shellAndWait()
@@ -177,7 +172,6 @@ private slots:
         // clang-format off
         QTest::newRow("pattern") << "data" << "*.txt" << QStringList { "A.TXT", "b.txt", "met spatie.txt" };
         QTest::newRow("trailing backslash") << "data\\" << "*.txt" << QStringList { "A.TXT", "b.txt", "met spatie.txt" };
-        QTest::newRow("trailing slash") << "data/" << "*.TXT" << QStringList { "A.TXT", "b.txt", "met spatie.txt" };
         QTest::newRow("everything: no folders, hidden files or pipes") << "data" << "*.*" << QStringList { "A.TXT", "b.txt", "geen", "met spatie.txt", "ro.dat" };
         QTest::newRow("nothing matches") << "data" << "*.wav" << QStringList {};
         QTest::newRow("missing folder") << "geen map" << "*.*" << QStringList {};
@@ -231,7 +225,6 @@ private slots:
         QTest::newRow("blanks kept") << " C:\\a\\ " << " C:\\a\\ ";
         QTest::newRow("slash kept") << "/data/" << "/data/";
         QTest::newRow("tab is no blank") << "\t" << "\t";
-        QTest::newRow("empty") << "" << "";
         // clang-format on
     }
     void pathRS()
@@ -246,7 +239,6 @@ private slots:
         QTest::addColumn<QString>("systemDirectory");
         QTest::addColumn<QString>("result");
         // clang-format off
-        QTest::newRow("as set") << "/srv/qor" << "/srv/qor";
         QTest::newRow("one trailing backslash dropped") << "C:\\WINDOWS\\\\" << "C:\\WINDOWS\\";
         QTest::newRow("none") << "" << "";
         QTest::newRow("cut to the buffer") << QString(300, 'd') << QString(255, 'd');

@@ -151,7 +151,6 @@ private slots:
         QTest::newRow("customer PC: nothing") << false << false << 10000 << true << 20000 << "NL" << "";
         QTest::newRow("act as customer: language kept") << true << true << 10000 << true << 20000 << "UK" << "[qorSoft DLL]\r\nDebugKlantPC=True\r\n";
         QTest::newRow("other language") << true << false << 10000 << false << 10000 << "FR" << "[qorSoft DLL]\r\nDebugKlantPC=False\r\nOffset=10000\r\n";
-        QTest::newRow("Italian") << true << false << 50000 << false << 50000 << "IT" << "[qorSoft DLL]\r\nDebugKlantPC=False\r\nOffset=50000\r\n";
         QTest::newRow("beyond the list") << true << false << 60000 << false << 60000 << "" << "[qorSoft DLL]\r\nDebugKlantPC=False\r\nOffset=60000\r\n";
         QTest::newRow("negative offset") << true << false << -10000 << false << -10000 << "" << "[qorSoft DLL]\r\nDebugKlantPC=False\r\nOffset=-10000\r\n";
         QTest::newRow("part of a language rounds down") << true << false << 19999 << false << 19999 << "FR" << "[qorSoft DLL]\r\nDebugKlantPC=False\r\nOffset=19999\r\n";

@@ -36,7 +36,6 @@ private slots:
         QTest::newRow("wrong check digits") << "85.07.30-033.29" << "BE" << "85073003329" << "";
         QTest::newRow("letters only") << "geen" << "BE" << "" << "";
         QTest::newRow("another land: a Dutch number") << "1234.56.789" << "NL" << "1234.56.789" << "1234.56.789";
-        QTest::newRow("another land: empty text") << "" << "NL" << "" << "";
         QTest::newRow("lower-case be is another land") << "85.07.30-033.29" << "be" << "85.07.30-033.29" << "85.07.30-033.29";
         QTest::newRow("blanks are not checked") << "  " << "BE" << "  " << "";
         // clang-format on
