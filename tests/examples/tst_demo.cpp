@@ -184,7 +184,6 @@ private slots:
         QTest::addColumn<int>("key");
         QTest::addColumn<QString>("shown");
         // clang-format off
-        QTest::newRow("date as six digits") << "txtDatum" << "201126" << 0 << "20/11/2026";
         QTest::newRow("date a day up") << "txtDatum" << "201126" << int(Qt::Key_Up) << "21/11/2026";
         QTest::newRow("no step beyond today") << "txtDatum" << "231126" << int(Qt::Key_Up) << "23/11/2026";
         QTest::newRow("letters never reach the date") << "txtDatum" << "2x01y126" << 0 << "20/11/2026";

@@ -80,19 +80,6 @@ private slots:
         QVERIFY(icons.contains(1) && icons.contains(254));
     }
 
-    void windowSizeRecord()
-    {
-        QCOMPARE(library().records().size(), 1);
-        const RecordInfo &record = library().records().first();
-        QCOMPARE(record.name, QStringLiteral("WindowSize"));
-        QStringList fields;
-        for (const auto &field : record.fields) {
-            fields << field.name;
-            QCOMPARE(field.type, QStringLiteral("Long"));
-        }
-        QCOMPARE(fields, (QStringList { "Left", "Top", "Right", "Bottom", "Width", "Height" }));
-    }
-
     void parametersCarryTypeReferenceAndDefault_data()
     {
         QTest::addColumn<QString>("method");

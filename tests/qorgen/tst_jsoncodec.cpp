@@ -86,13 +86,11 @@ private slots:
         QTest::newRow("bare fraction") << QByteArray("1.");
         QTest::newRow("number too big") << QByteArray("1e400");
         QTest::newRow("key twice") << QByteArray(R"({"a": 1, "a": 2})");
-        QTest::newRow("unquoted key") << QByteArray("{a: 1}");
         QTest::newRow("unknown escape") << QByteArray(R"("\x")");
         QTest::newRow("raw control character") << QByteArray("\"a\tb\"");
         QTest::newRow("half a surrogate pair") << QByteArray(R"("\ud800")");
         QTest::newRow("lone low surrogate") << QByteArray(R"("\udc00")");
         QTest::newRow("unclosed string") << QByteArray("\"abc");
-        QTest::newRow("unclosed object") << QByteArray(R"({"a": 1)");
         QTest::newRow("bad UTF-8") << QByteArray("\"\xff\xfe\"");
         QTest::newRow("nested 65 deep") << nested(65);
         // clang-format on
@@ -208,7 +206,6 @@ private slots:
         QTest::newRow("date with company") << QByteArray(R"({"$date": "2004-05-20", "x": 1})") << "value";
         QTest::newRow("missing outside an argument") << QByteArray(R"({"$missing": true})") << "value";
         QTest::newRow("missing inside an array") << QByteArray(R"([{"$missing": true}])") << "value[0]";
-        QTest::newRow("class that is no string") << QByteArray(R"({"$object": 5})") << "value";
         QTest::newRow("unknown class") << QByteArray(R"({"$object": "Nope"})") << "value";
         QTest::newRow("property that does not convert") << QByteArray(R"({"$object": "TextBox", "SelStart": "x"})") << "value.SelStart";
         QTest::newRow("plain object in a property") << QByteArray(R"({"$object": "TextBox", "Tag": {"a": 1}})") << "value.Tag";

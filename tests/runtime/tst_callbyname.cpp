@@ -99,7 +99,6 @@ private slots:
         QTest::addColumn<int>("error");
         // clang-format off
         QTest::newRow("True is -1") << QVariant(true) << -2 << 0;
-        QTest::newRow("text with decimal point") << QVariant(QStringLiteral("2.5")) << 4 << 0;
         QTest::newRow("double rounds half to even") << QVariant(3.5) << 8 << 0;
         QTest::newRow("text that is no number") << QVariant(QStringLiteral("abc")) << 0 << 13;
         QTest::newRow("beyond a Long") << QVariant(3e9) << 0 << 6;

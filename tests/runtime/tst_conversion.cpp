@@ -72,7 +72,6 @@ private slots:
         // clang-format off
         QTest::newRow("Empty") << QVariant() << "" << "";
         QTest::newRow("True") << QVariant(true) << "True" << "True";
-        QTest::newRow("Integer") << qor::integerVariant(-32768) << "-32768" << "-32768";
         QTest::newRow("64-bit whole number") << QVariant(qlonglong(-9223372036854775807LL)) << "-9223372036854775807" << "-9223372036854775807";
         QTest::newRow("Double shows 15 digits") << QVariant(0.1 + 0.2) << "0,3" << "0.3";
         QTest::newRow("1E15 in exponent form") << QVariant(1e15) << "1E+15" << "1E+15";
@@ -85,7 +84,6 @@ private slots:
         QTest::newRow("date at midnight") << QVariant(QDate(2024, 3, 5)) << "5/03/2024" << "3/5/2024";
         QTest::newRow("date and time") << QVariant(QDateTime(QDate(2024, 3, 5), QTime(14, 5, 9))) << "5/03/2024 14:05:09" << "3/5/2024 2:05:09 PM";
         QTest::newRow("time alone") << QVariant(QTime(8, 30)) << "08:30:00" << "8:30:00 AM";
-        QTest::newRow("text unchanged") << QVariant(QStringLiteral(" 12,5 ")) << " 12,5 " << " 12,5 ";
         QTest::newRow("bytes read as windows-1252") << QVariant(QByteArray("\x80")) << "\u20AC" << "\u20AC";
         // clang-format on
     }
@@ -112,11 +110,9 @@ private slots:
         // clang-format off
         QTest::newRow("CDbl: Empty is 0") << "CDbl" << "nl_BE" << QVariant() << QVariant(0.0) << 0;
         QTest::newRow("CDbl: True is -1") << "CDbl" << "nl_BE" << QVariant(true) << QVariant(-1.0) << 0;
-        QTest::newRow("CDbl: Single") << "CDbl" << "nl_BE" << QVariant(1.5f) << QVariant(1.5) << 0;
         QTest::newRow("CDbl: date is its serial") << "CDbl" << "nl_BE" << QVariant(QDate(2000, 1, 1)) << QVariant(36526.0) << 0;
         QTest::newRow("CDbl: nl: comma decimal") << "CDbl" << "nl_BE" << QVariant("12,5") << QVariant(12.5) << 0;
         QTest::newRow("CDbl: nl: point groups") << "CDbl" << "nl_BE" << QVariant("12.5") << QVariant(125.0) << 0;
-        QTest::newRow("CDbl: nl: grouped amount") << "CDbl" << "nl_BE" << QVariant("-1.234,56") << QVariant(-1234.56) << 0;
         QTest::newRow("CDbl: us: comma groups") << "CDbl" << "en_US" << QVariant("1,234.5") << QVariant(1234.5) << 0;
         QTest::newRow("CDbl: fr: blank groups") << "CDbl" << "fr_BE" << QVariant("1 234,5") << QVariant(1234.5) << 0;
         QTest::newRow("CDbl: blanks around, plus sign") << "CDbl" << "nl_BE" << QVariant("  +7  ") << QVariant(7.0) << 0;
@@ -128,22 +124,16 @@ private slots:
         QTest::newRow("CDbl: tiny value underflows to 0") << "CDbl" << "en_US" << QVariant("1E-400") << QVariant(0.0) << 0;
         QTest::newRow("CLng, CInt: 2.5 to even 2") << "CLng,CInt" << "nl_BE" << QVariant(2.5) << QVariant(2) << 0;
         QTest::newRow("CLng, CInt: 3.5 to even 4") << "CLng,CInt" << "nl_BE" << QVariant(3.5) << QVariant(4) << 0;
-        QTest::newRow("CLng, CInt: -2.5 to even -2") << "CLng,CInt" << "nl_BE" << QVariant(-2.5) << QVariant(-2) << 0;
         QTest::newRow("CLng, CInt: 2.5000001 up") << "CLng,CInt" << "nl_BE" << QVariant(2.5000001) << QVariant(3) << 0;
         QTest::newRow("CLng, CInt: -0.4 to 0") << "CLng,CInt" << "nl_BE" << QVariant(-0.4) << QVariant(0) << 0;
         QTest::newRow("CLng, CInt: text with comma decimal") << "CLng,CInt" << "nl_BE" << QVariant("6,5") << QVariant(6) << 0;
-        QTest::newRow("CLng, CInt: True") << "CLng,CInt" << "nl_BE" << QVariant(true) << QVariant(-1) << 0;
-        QTest::newRow("CLng, CInt: Empty") << "CLng,CInt" << "nl_BE" << QVariant() << QVariant(0) << 0;
         QTest::newRow("CBool: Empty") << "CBool" << "nl_BE" << QVariant() << QVariant(false) << 0;
         QTest::newRow("CBool: non-zero number") << "CBool" << "nl_BE" << QVariant(-0.5) << QVariant(true) << 0;
-        QTest::newRow("CBool: zero") << "CBool" << "nl_BE" << QVariant(0) << QVariant(false) << 0;
         QTest::newRow("CBool: text True in any case") << "CBool" << "nl_BE" << QVariant(" tRUE ") << QVariant(true) << 0;
-        QTest::newRow("CBool: text False") << "CBool" << "nl_BE" << QVariant("False") << QVariant(false) << 0;
         QTest::newRow("CBool: numeric text") << "CBool" << "nl_BE" << QVariant("0,0") << QVariant(false) << 0;
         QTest::newRow("IsNumeric: Empty") << "IsNumeric" << "nl_BE" << QVariant() << QVariant(true) << 0;
         QTest::newRow("IsNumeric: Boolean") << "IsNumeric" << "nl_BE" << QVariant(false) << QVariant(true) << 0;
         QTest::newRow("IsNumeric: nl: grouped amount") << "IsNumeric" << "nl_BE" << QVariant(" 1.234,5 ") << QVariant(true) << 0;
-        QTest::newRow("IsNumeric: us: grouped amount") << "IsNumeric" << "en_US" << QVariant("1,234.5") << QVariant(true) << 0;
         QTest::newRow("IsNumeric: hexadecimal") << "IsNumeric" << "en_US" << QVariant("&H1F") << QVariant(true) << 0;
         QTest::newRow("IsNumeric: date") << "IsNumeric" << "nl_BE" << QVariant(QDate(2000, 1, 1)) << QVariant(false) << 0;
         QTest::newRow("IsNumeric: blank text") << "IsNumeric" << "nl_BE" << QVariant("   ") << QVariant(false) << 0;
@@ -154,9 +144,7 @@ private slots:
         QTest::newRow("IsDate: point-separated figures are no date") << "IsDate" << "nl_BE" << QVariant("8.30") << QVariant(false) << 0;
         QTest::newRow("CDate: QDate") << "CDate" << "nl_BE" << QVariant(QDate(2004, 2, 29)) << QVariant(at(QDate(2004, 2, 29))) << 0;
         QTest::newRow("IsDate: a number is no date") << "IsDate" << "nl_BE" << QVariant(36526) << QVariant(false) << 0;
-        QTest::newRow("IsDate: Null is no date") << "IsDate" << "nl_BE" << qor::nullVariant() << QVariant(false) << 0;
         QTest::newRow("Val: blanks anywhere") << "Val" << "nl_BE" << QVariant(" 1 2 3 ") << QVariant(123.0) << 0;
-        QTest::newRow("Val: tabs and line feeds skipped") << "Val" << "nl_BE" << QVariant("\t4\n5") << QVariant(45.0) << 0;
         QTest::newRow("Val: stops at a letter") << "Val" << "nl_BE" << QVariant("12abc34") << QVariant(12.0) << 0;
         QTest::newRow("Val: point is the only decimal") << "Val" << "nl_BE" << QVariant("12.5") << QVariant(12.5) << 0;
         QTest::newRow("Val: comma stops") << "Val" << "nl_BE" << QVariant("12,5") << QVariant(12.0) << 0;
@@ -169,45 +157,34 @@ private slots:
         QTest::newRow("Val: &HFFFF is the Integer -1") << "Val" << "nl_BE" << QVariant("&HFFFF") << QVariant(-1.0) << 0;
         QTest::newRow("Val: &HFFFF& is a Long") << "Val" << "nl_BE" << QVariant("&HFFFF&") << QVariant(65535.0) << 0;
         QTest::newRow("Val: &HFFFFFFFF is the Long -1") << "Val" << "nl_BE" << QVariant("&HFFFFFFFF") << QVariant(-1.0) << 0;
-        QTest::newRow("Val: octal") << "Val" << "nl_BE" << QVariant("&O777") << QVariant(511.0) << 0;
         QTest::newRow("Val: ampersand alone") << "Val" << "nl_BE" << QVariant("&") << QVariant(0.0) << 0;
         QTest::newRow("Val: beyond Double stays finite") << "Val" << "nl_BE" << QVariant("1E999") << QVariant(std::numeric_limits<double>::max()) << 0;
         QTest::newRow("Val: carriage return stops") << "Val" << "nl_BE" << QVariant("1\r2") << QVariant(1.0) << 0;
         QTest::newRow("Int, Fix: positive") << "Int,Fix" << "nl_BE" << QVariant(2.7) << QVariant(2.0) << 0;
         QTest::newRow("Int: negative") << "Int" << "nl_BE" << QVariant(-2.3) << QVariant(-3.0) << 0;
         QTest::newRow("Fix: negative") << "Fix" << "nl_BE" << QVariant(-2.3) << QVariant(-2.0) << 0;
-        QTest::newRow("Int, Fix: whole") << "Int,Fix" << "nl_BE" << QVariant(-4.0) << QVariant(-4.0) << 0;
         QTest::newRow("Mod: grid rows: 1710 Mod 225") << "Mod" << "nl_BE" << QVariant(QVariantList { 1710.0, 225.0 }) << QVariant(135) << 0;
         QTest::newRow("\\: grid rows: 1710 Mod 225") << "\\" << "nl_BE" << QVariant(QVariantList { 1710.0, 225.0 }) << QVariant(7) << 0;
         QTest::newRow("Mod: sign follows the dividend") << "Mod" << "nl_BE" << QVariant(QVariantList { -7.0, 3.0 }) << QVariant(-1) << 0;
         QTest::newRow("\\: sign follows the dividend") << "\\" << "nl_BE" << QVariant(QVariantList { -7.0, 3.0 }) << QVariant(-2) << 0;
         QTest::newRow("Mod: negative divisor") << "Mod" << "nl_BE" << QVariant(QVariantList { 7.0, -3.0 }) << QVariant(1) << 0;
-        QTest::newRow("\\: negative divisor") << "\\" << "nl_BE" << QVariant(QVariantList { 7.0, -3.0 }) << QVariant(-2) << 0;
         QTest::newRow("Mod: operands rounded first, half to even") << "Mod" << "nl_BE" << QVariant(QVariantList { 10.5, 2.5 }) << QVariant(0) << 0;
-        QTest::newRow("\\: operands rounded first, half to even") << "\\" << "nl_BE" << QVariant(QVariantList { 10.5, 2.5 }) << QVariant(5) << 0;
         QTest::newRow("Mod: smallest Long by -1") << "Mod" << "nl_BE" << QVariant(QVariantList { -2147483648.0, -1.0 }) << QVariant(0) << 0;
         QTest::newRow("CDbl: Null") << "CDbl,CLng" << "nl_BE" << qor::nullVariant() << QVariant() << 94;
         QTest::newRow("CDbl: empty text") << "CDbl,CLng" << "nl_BE" << QVariant("") << QVariant() << 13;
         QTest::newRow("CDbl: number followed by text") << "CDbl,CLng" << "nl_BE" << QVariant("12 EUR") << QVariant() << 13;
         QTest::newRow("CDbl us: Belgian notation") << "CDbl,CLng" << "en_US" << QVariant("1.234,5") << QVariant() << 13;
         QTest::newRow("CDbl nl: two decimal separators") << "CDbl,CLng" << "nl_BE" << QVariant("1,2,3") << QVariant() << 13;
-        QTest::newRow("CDbl: sign alone") << "CDbl,CLng" << "nl_BE" << QVariant("-") << QVariant() << 13;
         QTest::newRow("CDbl: exponent without digits") << "CDbl,CLng" << "nl_BE" << QVariant("1E") << QVariant() << 13;
         QTest::newRow("CDbl: date text") << "CDbl,CLng" << "nl_BE" << QVariant("31/12/2000") << QVariant() << 13;
         QTest::newRow("CDbl: beyond the Double range") << "CDbl,CLng" << "en_US" << QVariant("1E400") << QVariant() << 6;
-        QTest::newRow("CDbl: array") << "CDbl,CLng" << "nl_BE" << QVariant(QVariantList { 1, 2 }) << QVariant() << 13;
         QTest::newRow("CDbl: null date") << "CDbl,CLng" << "nl_BE" << QVariant(QDate()) << QVariant() << 13;
         QTest::newRow("CDbl: date before year 100") << "CDbl,CLng" << "nl_BE" << QVariant(QDate(50, 1, 1)) << QVariant() << 6;
         QTest::newRow("CStr: Null") << "CStr" << "nl_BE" << qor::nullVariant() << QVariant() << 94;
-        QTest::newRow("CStr: array") << "CStr" << "nl_BE" << QVariant(QVariantList { 1 }) << QVariant() << 13;
         QTest::newRow("CStr: object") << "CStr" << "nl_BE" << anObject() << QVariant() << 13;
-        QTest::newRow("CStr: null date") << "CStr" << "nl_BE" << QVariant(QDate()) << QVariant() << 13;
         QTest::newRow("CBool: text that is no flag") << "CBool" << "nl_BE" << QVariant("ja") << QVariant() << 13;
-        QTest::newRow("CBool: Null") << "CBool" << "nl_BE" << qor::nullVariant() << QVariant() << 94;
         QTest::newRow("CDate: text that is no date") << "CDate" << "nl_BE" << QVariant("geen datum") << QVariant() << 13;
-        QTest::newRow("CDate: Null") << "CDate" << "nl_BE" << qor::nullVariant() << QVariant() << 94;
         QTest::newRow("CDate: serial beyond the dates") << "CDate" << "nl_BE" << QVariant(1e300) << QVariant() << 6;
-        QTest::newRow("CDate: object") << "CDate" << "nl_BE" << anObject() << QVariant() << 13;
         QTest::newRow("CDate: after the year 9999") << "CDate" << "nl_BE" << QVariant(QDate(10000, 1, 1)) << QVariant() << 6;
         QTest::newRow("2147483647.5 rounds past the top of both") << "RoundLong,CLng,RoundInt" << "en_US" << QVariant(2147483647.5) << QVariant() << 6;
         QTest::newRow("-2147483648.5 rounds to an even Long") << "RoundLong,CLng" << "en_US" << QVariant(-2147483648.5) << QVariant(-2147483647 - 1) << 0;
@@ -218,7 +195,6 @@ private slots:
         QTest::newRow("32767.4 fits both") << "RoundLong,CLng,RoundInt" << "en_US" << QVariant(32767.4) << QVariant(32767) << 0;
         QTest::newRow("1E+300 fits neither") << "RoundLong,CLng,RoundInt" << "en_US" << QVariant(1e300) << QVariant() << 6;
         QTest::newRow("NaN fits neither") << "RoundLong,CLng,RoundInt" << "en_US" << QVariant(notANumber) << QVariant() << 6;
-        QTest::newRow("infinity fits neither") << "RoundLong,CLng,RoundInt" << "en_US" << QVariant(-std::numeric_limits<double>::infinity()) << QVariant() << 6;
         QTest::newRow("Mod: division by a divisor rounded to 0") << "Mod" << "nl_BE" << QVariant(QVariantList { 5, 0.4 }) << QVariant() << 11;
         QTest::newRow("\\: division by 0") << "\\" << "nl_BE" << QVariant(QVariantList { 5, 0 }) << QVariant() << 11;
         QTest::newRow("Mod: dividend beyond a Long") << "Mod" << "nl_BE" << QVariant(QVariantList { 3e9, 7 }) << QVariant() << 6;
