@@ -48,7 +48,8 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
     // Every calculator the keys open is typed into and closed.
     QVariantList answers;
     for (int i = 0; i < 4; ++i)
-        answers.append(QVariantMap { { QStringLiteral("keys"), parts.value(2) + QStringLiteral("{Enter}{Enter}") } });
+        answers.append(QVariantMap {
+            { QStringLiteral("keys"), parts.value(2) + QStringLiteral("{Enter}{Enter}") } });
     machine.setAnswers(answers);
 
     clsqorGenLib lib;
@@ -84,9 +85,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
                 result = lib.KeyEuro(field, ka, decimals, neg);
                 break;
             }
-            case 3:
-                result = lib.KeyPress(ka, allowed);
-                break;
+            case 3: result = lib.KeyPress(ka, allowed); break;
             default: {
                 QVariant maxValue = argument(first);
                 QVariant minValue = argument(second);
@@ -94,7 +93,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
                 continue;
             }
             }
-            qor::fuzz::typeInto(field, result.toInt(), grid);
+            qor::test::typeIntoModel(field, result.toInt(), grid);
         } catch (const qor::RuntimeError &) {
             // Overflow, type mismatch and a field that lacks a property are
             // the run-time errors the caller gets.

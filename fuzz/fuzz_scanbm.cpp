@@ -22,7 +22,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
     for (const QChar key : keys) {
         try {
             const qint16 code = lib.ScanBM(&field, qint16(key.unicode()), format, fieldOnly, mbox);
-            qor::fuzz::typeInto(&field, code);
+            qor::test::typeIntoModel(&field, code);
         } catch (const qor::RuntimeError &) {
             // A code beyond a byte in the middle of a scan: the host gets error 5.
         }

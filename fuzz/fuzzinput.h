@@ -4,6 +4,7 @@
 #include "platform/recordingplatform.h"
 #include "runtime/callbyname.h"
 #include "runtime/codepage.h"
+#include "tests/common/keysequence.h"
 
 #include <QString>
 #include <QStringList>
@@ -21,8 +22,7 @@ public:
     FuzzInput(const uint8_t *data, size_t size)
         : m_data(data)
         , m_size(size)
-    {
-    }
+    { }
 
     // The next byte, or 0 when the input is used up.
     uint8_t byte()
@@ -37,17 +37,15 @@ public:
     // per byte (Latin-1) where it is not, so that every code reaches the parser.
     QString rest()
     {
-        const QByteArray bytes(reinterpret_cast<const char *>(m_data + m_pos), qsizetype(m_size - m_pos));
+        const QByteArray bytes(
+            reinterpret_cast<const char *>(m_data + m_pos), qsizetype(m_size - m_pos));
         m_pos = m_size;
         const QString text = QString::fromUtf8(bytes);
         return text.contains(QChar::ReplacementCharacter) ? QString::fromLatin1(bytes) : text;
     }
 
     // The rest split at NUL bytes into at most parts pieces.
-    QStringList parts(int parts)
-    {
-        return rest().split(QChar(0)).mid(0, parts);
-    }
+    QStringList parts(int parts) { return rest().split(QChar(0)).mid(0, parts); }
 
 private:
     const uint8_t *m_data;
@@ -70,37 +68,6 @@ inline RecordingPlatform &fuzzMachine()
     machine->clearRecords();
     machine->setAnswers({});
     return *machine;
-}
-
-// What a host's edit control does with the key code a handler let through:
-// Backspace deletes the selection or the character before the caret, Enter
-// and codes outside a byte do nothing, any other code replaces the selection.
-inline void typeInto(QObject *control, int code, bool grid = false)
-{
-    if (code == 13 || code <= 0 || code > 255)
-        return;
-    const char *textName = grid ? "EditText" : "Text";
-    const char *startName = grid ? "EditSelStart" : "SelStart";
-    const char *lengthName = grid ? "EditSelLength" : "SelLength";
-    const RegionalSettings rs;
-    QString text = getProperty(control, textName).toString();
-    const qsizetype none = 0;
-    qsizetype start = qBound(none, qsizetype(getProperty(control, startName).toInt()), text.size());
-    qsizetype length
-        = qBound(none, qsizetype(getProperty(control, lengthName).toInt()), text.size() - start);
-    if (code == 8) {
-        if (length == 0 && start > 0) {
-            --start;
-            length = 1;
-        }
-        text.remove(start, length);
-    } else {
-        text.replace(start, length, chr(code));
-        ++start;
-    }
-    setProperty(control, textName, text, rs);
-    setProperty(control, startName, qint32(start), rs);
-    setProperty(control, lengthName, 0, rs);
 }
 
 } // namespace qor::fuzz

@@ -47,17 +47,20 @@ inline QString codesText(const QList<int> &codes)
 
 // What a host's edit control does with a key code the handler let through:
 // Backspace deletes the selection or the character before the caret, Enter
-// does nothing, any other code replaces the selection with its character.
+// and codes outside a byte do nothing, any other code replaces the selection
+// with its character. A caret or selection beyond the text counts as its end.
 inline void typeIntoModel(QObject *control, int code, bool grid = false)
 {
+    if (code == 13 || code <= 0 || code > 255)
+        return;
     const char *textName = grid ? "EditText" : "Text";
     const char *startName = grid ? "EditSelStart" : "SelStart";
     const char *lengthName = grid ? "EditSelLength" : "SelLength";
     QString text = getProperty(control, textName).toString();
-    int start = getProperty(control, startName).toInt();
-    int length = getProperty(control, lengthName).toInt();
-    if (code == 13 || code <= 0 || code > 255)
-        return;
+    const qsizetype none = 0;
+    qsizetype start = qBound(none, qsizetype(getProperty(control, startName).toInt()), text.size());
+    qsizetype length
+        = qBound(none, qsizetype(getProperty(control, lengthName).toInt()), text.size() - start);
     if (code == 8) {
         if (length == 0 && start > 0) {
             --start;
@@ -70,7 +73,7 @@ inline void typeIntoModel(QObject *control, int code, bool grid = false)
     }
     const RegionalSettings rs;
     setProperty(control, textName, text, rs);
-    setProperty(control, startName, start, rs);
+    setProperty(control, startName, qint32(start), rs);
     setProperty(control, lengthName, 0, rs);
 }
 
