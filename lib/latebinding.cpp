@@ -49,11 +49,38 @@ QVariant storageFor(const QVariant &value, QMetaType type, LazySettings &setting
 // The value a slot holds as the caller sees it; the slot is used up.
 QVariant unwrap(QVariant &&storage)
 {
-    if (storage.metaType().id() == QMetaType::QVariant)
+    const QMetaType type = storage.metaType();
+    if (type.id() == QMetaType::QVariant)
         return std::move(*static_cast<QVariant *>(storage.data()));
-    if (storage.metaType().flags() & QMetaType::IsEnumeration)
+    if (type.flags() & QMetaType::IsEnumeration)
         return QVariant::fromValue<int>(*static_cast<const int *>(storage.constData()));
     return std::move(storage);
+}
+
+// Where the call reads (and for a by-reference parameter writes) a supplied
+// argument. An argument that already has the declared type is used where it
+// stands in the caller's list; any other goes through a slot of its own.
+void *argumentPointer(const ParameterInfo &param, QVariantList &args, qsizetype i, QVariant &slot,
+    LazySettings &settings)
+{
+    const QVariant &value = args.at(i);
+    if (param.metaType.id() == QMetaType::QVariant)
+        return param.byRef ? &args[i] : const_cast<QVariant *>(&value);
+    if (value.metaType() == param.metaType)
+        return param.byRef ? args[i].data() : const_cast<void *>(value.constData());
+    slot = storageFor(value, param.metaType, settings);
+    return slot.data();
+}
+
+// The value of an optional argument left out: its default, an empty value of
+// the declared type, or for a Variant without default the IsMissing value.
+QVariant defaultFor(const ParameterInfo &param, LazySettings &settings)
+{
+    if (param.defaultValue.isValid())
+        return storageFor(param.defaultValue, param.metaType, settings);
+    if (param.metaType.id() != QMetaType::QVariant)
+        return QVariant(param.metaType, nullptr);
+    return storageFor(missingVariant(), param.metaType, settings);
 }
 
 } // namespace
@@ -74,39 +101,38 @@ QVariant LateBinding::invoke(const QString &name, QVariantList &args) const
 
 QVariant LateBinding::callMethod(const MethodInfo &method, QVariantList &args) const
 {
-    if (args.size() > method.parameters.size())
+    const qsizetype count = method.parameters.size();
+    if (args.size() > count)
         throw RuntimeError::wrongArgumentCount();
+    // The call may read and write the caller's values where they stand, so
+    // the list must be the caller's own before any pointer into it is taken.
+    args.detach();
     LazySettings settings;
-    QVarLengthArray<QVariant, usualArgumentCount> storage;
-    QVarLengthArray<bool, usualArgumentCount> supplied;
-    storage.reserve(method.parameters.size());
-    for (int i = 0; i < method.parameters.size(); ++i) {
+    // Slots for the arguments that need a value of their own: converted,
+    // defaulted or left out. Sized once, so pointers into it stay valid.
+    QVarLengthArray<QVariant, usualArgumentCount> storage(count);
+    QVarLengthArray<void *, usualArgumentCount + 1> argv(count + 1);
+    for (qsizetype i = 0; i < count; ++i) {
         const ParameterInfo &param = method.parameters[i];
-        supplied.append(i < args.size() && !isMissing(args[i]));
-        if (supplied.back())
-            storage.append(storageFor(args[i], param.metaType, settings));
-        else if (!param.optional)
+        if (i < args.size() && !isMissing(args.at(i))) {
+            argv[i + 1] = argumentPointer(param, args, i, storage[i], settings);
+        } else if (!param.optional) {
             throw RuntimeError::argumentNotOptional();
-        else if (param.defaultValue.isValid())
-            storage.append(storageFor(param.defaultValue, param.metaType, settings));
-        else if (param.metaType.id() != QMetaType::QVariant)
-            storage.append(QVariant(param.metaType, nullptr));
-        else // an optional Variant without default: IsMissing
-            storage.append(storageFor(missingVariant(), param.metaType, settings));
+        } else {
+            storage[i] = defaultFor(param, settings);
+            argv[i + 1] = storage[i].data();
+        }
     }
-    QVariant result;
-    if (method.returnMetaType.id() != QMetaType::Void)
-        result = QVariant(method.returnMetaType, nullptr);
-    QVarLengthArray<void *, usualArgumentCount + 1> argv;
-    argv.append(result.isValid() ? result.data() : nullptr);
-    for (QVariant &slot : storage)
-        argv.append(slot.data());
+    const bool hasResult = method.returnMetaType.id() != QMetaType::Void;
+    QVariant result = hasResult ? QVariant(method.returnMetaType, nullptr) : QVariant();
+    argv[0] = hasResult ? result.data() : nullptr;
     m_object->qt_metacall(QMetaObject::InvokeMetaMethod, method.methodIndex, argv.data());
-    for (int i = 0; i < args.size(); ++i) {
-        if (method.parameters[i].byRef && supplied[i])
+    // Converted by-reference arguments go back into the caller's list.
+    for (qsizetype i = 0; i < args.size(); ++i) {
+        if (method.parameters[i].byRef && storage[i].isValid() && !isMissing(args.at(i)))
             args[i] = unwrap(std::move(storage[i]));
     }
-    return result.isValid() ? unwrap(std::move(result)) : QVariant();
+    return hasResult ? unwrap(std::move(result)) : QVariant();
 }
 
 QVariant LateBinding::accessProperty(const PropertyInfo &property, QVariantList &args) const

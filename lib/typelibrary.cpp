@@ -4,8 +4,11 @@
 #include <QJsonObject>
 #include <QMetaClassInfo>
 #include <QMetaEnum>
+#include <QVarLengthArray>
+
 #include <QMetaMethod>
 #include <QMetaProperty>
+#include <cstring>
 
 namespace qor {
 
@@ -174,24 +177,16 @@ char16_t folded(char16_t c)
     return QChar(c).toCaseFolded().unicode();
 }
 
-// FNV-1a over the folded characters.
-quint32 foldedHash(QStringView name)
-{
-    quint32 hash = 2166136261u;
-    for (QChar c : name)
-        hash = (hash ^ folded(c.unicode())) * 16777619u;
-    return hash;
-}
+// FNV-1a over folded characters.
+constexpr quint32 fnvBasis = 2166136261u;
+constexpr quint32 fnvPrime = 16777619u;
 
-bool equalsFolded(const std::u16string &folded, QStringView name)
+quint32 hashOf(std::u16string_view folded)
 {
-    if (folded.size() != size_t(name.size()))
-        return false;
-    for (qsizetype i = 0; i < name.size(); ++i) {
-        if (folded[size_t(i)] != qor::folded(name[i].unicode()))
-            return false;
-    }
-    return true;
+    quint32 hash = fnvBasis;
+    for (char16_t c : folded)
+        hash = (hash ^ c) * fnvPrime;
+    return hash;
 }
 
 } // namespace
@@ -202,18 +197,19 @@ void TypeLibrary::NameIndex::build(const QStringList &names)
     while (size < 2 * size_t(names.size()))
         size *= 2;
     m_slots.assign(size, Slot());
+    m_longest = 0;
     for (qsizetype place = 0; place < names.size(); ++place) {
-        const QString &name = names[place];
-        const quint32 hash = foldedHash(name);
+        std::u16string name;
+        for (QChar c : names[place])
+            name.push_back(folded(c.unicode()));
+        m_longest = std::max(m_longest, name.size());
+        const quint32 hash = hashOf(name);
         for (size_t i = hash & (size - 1);; i = (i + 1) & (size - 1)) {
             Slot &slot = m_slots[i];
-            if (slot.place >= 0 && slot.hash == hash && equalsFolded(slot.folded, name))
+            if (slot.place >= 0 && slot.hash == hash && slot.folded == name)
                 break; // the first of two names that differ only in case wins
             if (slot.place < 0) {
-                slot.hash = hash;
-                slot.place = place;
-                for (QChar c : name)
-                    slot.folded.push_back(folded(c.unicode()));
+                slot = { hash, place, std::move(name) };
                 break;
             }
         }
@@ -224,13 +220,22 @@ qsizetype TypeLibrary::NameIndex::find(const QString &name) const
 {
     if (m_slots.empty())
         return -1;
+    if (size_t(name.size()) > m_longest)
+        return -1;
+    QVarLengthArray<char16_t, 64> buffer(name.size());
+    quint32 hash = fnvBasis;
+    for (qsizetype i = 0; i < name.size(); ++i) {
+        buffer[i] = folded(name[i].unicode());
+        hash = (hash ^ buffer[i]) * fnvPrime;
+    }
+    const std::u16string_view folded(buffer.data(), size_t(buffer.size()));
     const size_t mask = m_slots.size() - 1;
-    const quint32 hash = foldedHash(name);
     for (size_t i = hash & mask;; i = (i + 1) & mask) {
         const Slot &slot = m_slots[i];
         if (slot.place < 0)
             return -1;
-        if (slot.hash == hash && equalsFolded(slot.folded, name))
+        if (slot.hash == hash && slot.folded.size() == folded.size()
+            && std::memcmp(slot.folded.data(), folded.data(), 2 * folded.size()) == 0)
             return slot.place;
     }
 }

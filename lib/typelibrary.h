@@ -114,6 +114,7 @@ private:
             std::u16string folded;
         };
         std::vector<Slot> m_slots;
+        size_t m_longest = 0; // folded characters of the longest name
     };
     void indexNames();
     NameIndex m_methodIndex;

@@ -117,6 +117,36 @@ private slots:
         QCOMPARE(actual, result);
     }
 
+    // By-reference arguments come back in the caller's list, converted ones in
+    // the declared type; by-value ones stay as they were. A copy of the list
+    // taken before the call never changes.
+    void invokeWritesBackByReference_data()
+    {
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<QVariantList>("args");
+        QTest::addColumn<QVariantList>("after");
+        // clang-format off
+        QTest::newRow("String by reference") << "SCase" << QVariantList { "JAN PEETERS" } << QVariantList { "jan peeters" };
+        QTest::newRow("String by reference from a Double") << "SCase" << QVariantList { 12.5 } << QVariantList { "12,5" };
+        QTest::newRow("Variant by reference") << "FilterNumeric" << QVariantList { 12.5 } << QVariantList { "12,5" };
+        QTest::newRow("by value, converted, left alone") << "FilterText" << QVariantList { 12, false } << QVariantList { 12, false };
+        // clang-format on
+    }
+    void invokeWritesBackByReference()
+    {
+        QFETCH(QString, name);
+        QFETCH(QVariantList, args);
+        QFETCH(QVariantList, after);
+        const QVariantList before(args.cbegin(), args.cend()); // a list of its own
+        const QVariantList shared = args;
+        clsqorGenLib lib;
+        lib.Invoke(name, args);
+        QCOMPARE(args, after);
+        for (int i = 0; i < args.size(); ++i)
+            QCOMPARE(args.at(i).metaType(), after.at(i).metaType());
+        QCOMPARE(shared, before);
+    }
+
     // A property takes a value by the same rule however it is assigned.
     void propertyAssignmentsConvertAlike_data()
     {
