@@ -48,6 +48,8 @@ QString TextMask::apply(QString text) const
 
 void TextMask::applyTo(QStringView text, QString &out) const
 {
+    if (m_caseChange == 0 && text.size() == qsizetype(m_slotPositions.size()))
+        return fillSlots(text, out);
     if (m_caseChange == 0)
         return applyExact(text, out);
     const QString cased = m_caseChange < 0 ? text.toString().toLower() : text.toString().toUpper();

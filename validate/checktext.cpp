@@ -6,25 +6,6 @@
 
 namespace qor {
 
-bool isBlank(QStringView text)
-{
-    for (QChar c : text) {
-        if (c != QLatin1Char(' '))
-            return false;
-    }
-    return true;
-}
-
-QStringView leftPart(QStringView text, qsizetype n)
-{
-    return text.first(std::min(n, text.size()));
-}
-
-QStringView rightPart(QStringView text, qsizetype n)
-{
-    return text.last(std::min(n, text.size()));
-}
-
 namespace {
 
 bool isDigit(char16_t c)
@@ -100,7 +81,7 @@ void keepDigitsOneByOne(QString &text)
         data[kept] = c;
         kept += isDigit(c) ? 1 : 0;
     }
-    text.resize(kept);
+    setLength(text, kept);
 }
 
 } // namespace
@@ -118,7 +99,7 @@ void keepDigits(QString &text)
     if (kept == size)
         return; // all digits: left untouched, not even detached
     std::copy_n(digits, kept, reinterpret_cast<char16_t *>(text.data()));
-    text.resize(kept);
+    setLength(text, kept);
 }
 
 void assignText(QString &storage, QStringView text)

@@ -6,6 +6,7 @@
 #include <QString>
 #include <QStringView>
 
+#include <algorithm>
 #include <cmath>
 
 namespace qor {
@@ -13,11 +14,24 @@ namespace qor {
 // Small text helpers shared by the identifier checks.
 
 // Trim(text) is empty: only blanks (character 32) are trimmed.
-bool isBlank(QStringView text);
+inline bool isBlank(QStringView text)
+{
+    for (QChar c : text) {
+        if (c != QLatin1Char(' '))
+            return false;
+    }
+    return true;
+}
 
 // Left(text, n) and Right(text, n), without copying.
-QStringView leftPart(QStringView text, qsizetype n);
-QStringView rightPart(QStringView text, qsizetype n);
+inline QStringView leftPart(QStringView text, qsizetype n)
+{
+    return text.first(std::min(n, text.size()));
+}
+inline QStringView rightPart(QStringView text, qsizetype n)
+{
+    return text.last(std::min(n, text.size()));
+}
 
 // True when the text holds the digits 0 to 9 only (an empty text included).
 bool isAsciiDigits(QStringView text);
@@ -58,7 +72,7 @@ inline bool isText(QStringView text, QLatin1StringView expected)
 // checks empty it only on the way out, as an accepted number overwrites it anyway.
 inline Verdict nothingShown(QString &display, Verdict verdict)
 {
-    display.resize(0);
+    setLength(display, 0);
     return verdict;
 }
 

@@ -42,9 +42,72 @@ private slots:
     {
         QFETCH(QString, input);
         QFETCH(QString, digits);
+        const QString before(input.constData(), input.size()); // a copy of its own
         QString text = input;
         keepDigits(text);
         QCOMPARE(text, digits);
+        QCOMPARE(input, before); // shared until written
+        QCOMPARE(text.constData()[text.size()], QChar(0));
+    }
+
+    // Whole numbers of up to fifteen digits, eight at a time and the rest.
+    void digitsNumberOfEveryLength_data()
+    {
+        QTest::addColumn<QString>("digits");
+        const QString pattern = QStringLiteral("908172635445362");
+        for (int length = 0; length <= 15; ++length)
+            QTest::addRow("%d digits", length) << pattern.left(length);
+        QTest::newRow("fifteen nines") << QString(15, QLatin1Char('9'));
+        QTest::newRow("eight zeros then a one") << QStringLiteral("000000001");
+    }
+    void digitsNumberOfEveryLength()
+    {
+        QFETCH(QString, digits);
+        QCOMPARE(digitsNumber(digits), digits.isEmpty() ? 0 : digits.toLongLong());
+        // Read from the middle of a longer text, as the checks read their parts.
+        const QString within = QStringLiteral("7") + digits + QStringLiteral("7");
+        QCOMPARE(digitsNumber(QStringView(within).mid(1, digits.size())),
+            digits.isEmpty() ? 0 : digits.toLongLong());
+    }
+
+    // The display the checks write into keeps its buffer from check to check,
+    // and never writes into a text it shares with another.
+    void displayStorageIsReusedButNeverShared_data()
+    {
+        QTest::addColumn<QString>("start");
+        QTest::addColumn<QString>("written");
+        QTest::newRow("longer into shorter") << "0123" << "0123.456.749";
+        QTest::newRow("shorter into longer") << "0123.456.749" << "0123";
+        QTest::newRow("same length") << "0000.000.000" << "0123.456.749";
+        QTest::newRow("into a null text") << QString() << "0123";
+        QTest::newRow("empty") << "0123" << "";
+    }
+    void displayStorageIsReusedButNeverShared()
+    {
+        QFETCH(QString, start);
+        QFETCH(QString, written);
+        const QString before(start.constData(), start.size());
+        QString shared = start;
+        assignText(shared, written);
+        QCOMPARE(shared, written);
+        QCOMPARE(start, before);
+        QCOMPARE(shared.constData()[shared.size()], QChar(0));
+        // A buffer of its own is used again, shrunk and grown within its room
+        // (a null text empties it for good, as an assignment does).
+        if (start.isNull())
+            return;
+        QString own;
+        own.reserve(16);
+        const QChar *buffer = own.constData();
+        for (int round = 0; round < 2; ++round) {
+            assignText(own, start);
+            nothingShown(own, Verdict::Refused);
+            QVERIFY(own.isEmpty());
+            assignText(own, written);
+            QCOMPARE(own, written);
+            QCOMPARE(own.constData()[own.size()], QChar(0));
+        }
+        QCOMPARE(own.constData(), buffer);
     }
 
     void allDigitsStayShared()
