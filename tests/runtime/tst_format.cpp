@@ -61,6 +61,7 @@ private slots:
         QTest::newRow("@ shows a blank") << QVariant("ab") << "(@@@@)" << "(  ab)" << "(  ab)";
         QTest::newRow("! fills from the left") << QVariant("abc") << "!&&\\-&&" << "ab-c" << "ab-c";
         QTest::newRow("mixed places, one character each") << QVariant("abc") << "@-&-@" << "a-b-c" << "a-b-c";
+        QTest::newRow("one character each, literals on both sides") << QVariant("abcd") << "(&&\\-&&)" << "(ab-cd)" << "(ab-cd)";
         QTest::newRow("> upper case") << QVariant("abc") << ">&&&" << "ABC" << "ABC";
         QTest::newRow("second section for empty text") << QVariant("") << "&&;\\-" << "-" << "-";
         QTest::newRow("quoted literal") << QVariant("12") << "\"nr \"&&" << "nr 12" << "nr 12";
