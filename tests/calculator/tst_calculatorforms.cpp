@@ -27,6 +27,16 @@ QPushButton *button(QWidget *window, const QString &name)
     return window->findChild<QPushButton *>(name);
 }
 
+// The VAT note on the screen, or none.
+QWidget *shownNote()
+{
+    for (QWidget *window : QApplication::topLevelWidgets()) {
+        if (window->objectName() == QLatin1String("frmBtwToolTip") && window->isVisible())
+            return window;
+    }
+    return nullptr;
+}
+
 // Screenshots go beside the test program, in the build folder.
 void saveScreenshot(QWidget *window, const QString &file)
 {
@@ -229,11 +239,7 @@ private slots:
         LineEditAdapter adapter(&field, &field);
         platform().showNote({ QStringLiteral(" + 21 % BTW toevoegen "), &adapter });
         // Shown and handed back at once; it closes itself.
-        QWidget *note = nullptr;
-        for (QWidget *window : QApplication::topLevelWidgets()) {
-            if (window->objectName() == QLatin1String("frmBtwToolTip") && window->isVisible())
-                note = window;
-        }
+        QWidget *note = shownNote();
         QVERIFY(note);
         QCOMPARE(note->findChild<QLabel *>()->text(), QStringLiteral(" + 21 % BTW toevoegen "));
         const QRect fieldOnScreen(field.mapToGlobal(QPoint(0, 0)), field.size());
@@ -254,10 +260,8 @@ private slots:
         form.show();
         QVERIFY(QTest::qWaitForWindowExposed(&form));
         platform().showNote({ QStringLiteral(" + 6 % BTW toevoegen "), &field });
-        for (QWidget *window : QApplication::topLevelWidgets()) {
-            if (window->objectName() == QLatin1String("frmBtwToolTip") && window->isVisible())
-                QVERIFY(area.contains(window->geometry()));
-        }
+        QVERIFY(shownNote());
+        QVERIFY(area.contains(shownNote()->geometry()));
     }
 };
 
