@@ -197,13 +197,8 @@ private slots:
         clsqorGenLib lib;
         DateControl control;
         lib.SetDText(&control, country);
-        const QVariantMap shown {
-            { QStringLiteral("kind"), QStringLiteral("MsgBox") },
-            { QStringLiteral("prompt"), developmentNotice },
-            { QStringLiteral("buttons"), 0 },
-            { QStringLiteral("title"), QString() },
-            { QStringLiteral("answer"), 1 },
-        };
+        const QVariantMap shown { { "kind", "MsgBox" }, { "prompt", developmentNotice },
+            { "buttons", 0 }, { "title", QString() }, { "answer", 1 } };
         QCOMPARE(machine->shown(), notice ? QVariantList { shown } : QVariantList());
         // The holidays are set whether the notice was shown or not.
         QVERIFY(control.property("Calendar")
