@@ -90,19 +90,26 @@ private slots:
         QCOMPARE(getProperty(columnOf(&grid, 0), "Translate").toBool(), false);
     }
 
+    void typeADOChoosesTheItemClass_data()
+    {
+        QTest::addColumn<bool>("typeADO");
+        QTest::addColumn<QString>("itemClass");
+        QTest::newRow("classic grid") << false << "ValueItem";
+        QTest::newRow("ADO-bound grid") << true << "AdoValueItem";
+    }
+
     void typeADOChoosesTheItemClass()
     {
-        for (bool typeADO : { false, true }) {
-            clsqorGenLib lib;
-            Grid grid;
-            callOperation(child(&grid, "Columns"), "Add", { 0 });
-            lib.SetDBGridTranslation(&grid, qorGenLib::ttlTaalKort, 0, -1, typeADO);
-            auto *items = qobject_cast<HostObject *>(child(columnOf(&grid, 0), "ValueItems"));
-            QCOMPARE(items->calls().size(), 6);
-            const QString itemClass = typeADO ? "AdoValueItem" : "ValueItem";
-            for (const QVariant &call : items->calls())
-                QCOMPARE(call.toMap().value("args").toList(), QVariantList { itemClass });
-        }
+        QFETCH(bool, typeADO);
+        QFETCH(QString, itemClass);
+        clsqorGenLib lib;
+        Grid grid;
+        callOperation(child(&grid, "Columns"), "Add", { 0 });
+        lib.SetDBGridTranslation(&grid, qorGenLib::ttlTaalKort, 0, -1, typeADO);
+        auto *items = qobject_cast<HostObject *>(child(columnOf(&grid, 0), "ValueItems"));
+        QCOMPARE(items->calls().size(), 6);
+        for (const QVariant &call : items->calls())
+            QCOMPARE(call.toMap().value("args").toList(), QVariantList { itemClass });
     }
 
     void aSecondCallAppends()
