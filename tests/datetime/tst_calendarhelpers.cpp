@@ -40,7 +40,6 @@ private slots:
         QTest::addColumn<QString>("name");
         QTest::addColumn<int>("error"); // by name the weekday wants a Date
         // clang-format off
-        QTest::newRow("Monday") << QVariant(day(2024, 3, 11)) << 0 << "Maandag" << 0;
         QTest::newRow("Sunday") << QVariant(day(2024, 3, 17)) << 0 << "Zondag" << 0;
         QTest::newRow("Saturday, time of day ignored") << QVariant(noon(2024, 3, 16)) << 0 << "Zaterdag" << 0;
         QTest::newRow("Sunday in French") << QVariant(day(2024, 3, 17)) << 10000 << "Dimanche" << 0;
@@ -69,7 +68,6 @@ private slots:
         QTest::addColumn<QDateTime>("start");
         QTest::addColumn<QDateTime>("end");
         // clang-format off
-        QTest::newRow("May") << "nl_BE" << "15/05/2005" << day(2005, 4, 1) << day(2005, 6, 30);
         QTest::newRow("May month first") << "en_US" << "5/15/2005" << day(2005, 4, 1) << day(2005, 6, 30);
         QTest::newRow("first day of a quarter") << "nl_BE" << "1/01/2004" << day(2004, 1, 1) << day(2004, 3, 31);
         QTest::newRow("last day of a quarter") << "nl_BE" << "31/03/2004" << day(2004, 1, 1) << day(2004, 3, 31);
@@ -199,13 +197,8 @@ private slots:
         clsqorGenLib lib;
         DateControl control;
         lib.SetDText(&control, country);
-        const QVariantMap shown {
-            { QStringLiteral("kind"), QStringLiteral("MsgBox") },
-            { QStringLiteral("prompt"), developmentNotice },
-            { QStringLiteral("buttons"), 0 },
-            { QStringLiteral("title"), QString() },
-            { QStringLiteral("answer"), 1 },
-        };
+        const QVariantMap shown { { "kind", "MsgBox" }, { "prompt", developmentNotice },
+            { "buttons", 0 }, { "title", QString() }, { "answer", 1 } };
         QCOMPARE(machine->shown(), notice ? QVariantList { shown } : QVariantList());
         // The holidays are set whether the notice was shown or not.
         QVERIFY(control.property("Calendar")

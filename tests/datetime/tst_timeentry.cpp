@@ -66,7 +66,6 @@ private slots:
         QFETCH(QString, input);
         QFETCH(bool, moreThan24);
         QFETCH(QString, twoDigitHours);
-        QFETCH(QString, oneDigitHours);
         for (const QString locale : { QStringLiteral("nl_BE"), QStringLiteral("en_US") }) {
             const auto machine = installDateMachine(locale);
             clsqorGenLib lib;
@@ -78,7 +77,7 @@ private slots:
                 twoDigitHours.isEmpty() && !blank ? dutchTimeMessage : QString());
 
             QString uur = input;
-            QCOMPARE(lib.ControleerUur(uur, true, moreThan24, false), oneDigitHours);
+            QTEST(lib.ControleerUur(uur, true, moreThan24, false), "oneDigitHours");
         }
     }
 

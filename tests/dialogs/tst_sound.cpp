@@ -108,7 +108,7 @@ private slots:
         QString file = QStringLiteral("Gone.wav");
         QString directory;
         playSound(file, false, directory, offset);
-        QCOMPARE(onlyMessageOf(),
+        QCOMPARE(test::onlyMessage(*machine),
             (QVariantMap { { "prompt", "Cannot Find Sound :\r\r" + file + "\r\r" + helpDesk },
                 { "buttons", 16 }, { "title", "qorSoft General Library" } }));
     }
@@ -164,9 +164,6 @@ private slots:
         QCOMPARE(machine->shown().value(1).toMap().value(QStringLiteral("file")).toString(),
             root + QStringLiteral("\\app\\MultiMedia\\Critical.wav"));
     }
-
-private:
-    QVariantMap onlyMessageOf() const { return test::onlyMessage(*machine); }
 };
 
 QTEST_APPLESS_MAIN(TestSound)

@@ -72,7 +72,6 @@ private slots:
         QFETCH(int, type);
         QFETCH(qint32, offset);
         QFETCH(qint32, crossValue);
-        QFETCH(int, count);
         QFETCH(QStringList, someItems);
         clsqorGenLib lib;
         lib.setProperty("Offset", offset);
@@ -81,7 +80,7 @@ private slots:
         callOperation(child(&grid, "Columns"), "Add", { 1 });
         lib.SetDBGridTranslation(&grid, qorGenLib::TranslateEnum(type), 1, crossValue);
         const QStringList items = itemsOf(columnOf(&grid, 1));
-        QCOMPARE(items.size(), count);
+        QTEST(int(items.size()), "count");
         for (const QString &expected : someItems) {
             const qsizetype colon = expected.indexOf(QLatin1Char(':'));
             QCOMPARE(items.value(expected.left(colon).toInt()), expected.mid(colon + 1));

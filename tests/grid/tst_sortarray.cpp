@@ -125,33 +125,15 @@ private slots:
         // clang-format on
     }
 
+    // With a companion array the order is checked against the literal model below.
     void sorts()
     {
         QFETCH(QString, input);
         QFETCH(int, order);
-        QFETCH(QString, output);
         clsqorGenLib lib;
         QVariant values = array(input);
         lib.SortArray(values, qorGenLib::OstSortOrder(order));
-        QCOMPARE(described(values), output);
-        // The companion follows: its elements are the input positions.
-        QVariantList positions;
-        for (int i = 0; i < values.toList().size(); ++i)
-            positions.append(QString::number(i));
-        QVariant ref = positions;
-        values = array(input);
-        lib.SortArray(values, qorGenLib::OstSortOrder(order), ref);
-        QCOMPARE(described(values), output);
-        const QVariantList sorted = values.toList();
-        const QVariantList source = array(input).toList();
-        for (int p = 0; p < sorted.size(); ++p) {
-            const QVariant partner = ref.toList().at(p);
-            if (isEmpty(sorted.at(p)))
-                QVERIFY(isEmpty(partner));
-            else
-                QCOMPARE(described(QVariantList { source.at(partner.toInt()) }),
-                    described(QVariantList { sorted.at(p) }));
-        }
+        QTEST(described(values), "output");
         QVERIFY(m_machine->shown().isEmpty());
     }
 
@@ -180,19 +162,22 @@ private slots:
         QFETCH(QVariant, input);
         QFETCH(int, order);
         QFETCH(int, error);
-        QFETCH(QString, after);
         clsqorGenLib lib;
         QVariant values = input;
         QCOMPARE(
             errorNumber([&] { lib.SortArray(values, qorGenLib::OstSortOrder(order)); }), error);
-        QCOMPARE(described(values), after);
+        QTEST(described(values), "after");
     }
 
     void companionOfAnotherSize()
     {
         clsqorGenLib lib;
         QVariant values = array("b,a,c");
-        QVariant ref = array("1,2");
+        QVariant ref = array("1,2,3");
+        lib.SortArray(values, qorGenLib::soAlphabetic, ref);
+        QCOMPARE(described(ref), QStringLiteral("2,1,3"));
+        values = array("b,a,c");
+        ref = array("1,2");
         lib.SortArray(values, qorGenLib::soAlphabetic, ref);
         QCOMPARE(described(values), QStringLiteral("E,E,E"));
         QCOMPARE(described(ref), QStringLiteral("1,2"));

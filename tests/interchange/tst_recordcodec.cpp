@@ -58,41 +58,27 @@ Generated generate(QRandomGenerator &random, bool lineNumbers, bool checksum, bo
     return g;
 }
 
-QString trimmedBlanks(const QString &text)
-{
-    qsizetype begin = 0;
-    qsizetype end = text.size();
-    while (begin < end && text.at(begin) == QLatin1Char(' '))
-        ++begin;
-    while (end > begin && text.at(end - 1) == QLatin1Char(' '))
-        --end;
-    return text.mid(begin, end - begin);
-}
-
-// What the reader should give back for field i: the cut value without blanks.
+// What the reader should give back for field i: the cut value without blanks
+// (the generated texts hold no other white space).
 QString expectedField(const Generated &g, int i, const RegionalSettings &rs)
 {
     const QString &value = g.data.at(i);
     const int width = g.layout.widths.at(i);
     const QString mask = g.layout.formats.value(i);
     if (!mask.isEmpty() && isNumeric(value, rs))
-        return trimmedBlanks(format(value, mask, rs).right(width));
-    return trimmedBlanks(value.left(width));
+        return format(value, mask, rs).right(width).trimmed();
+    return value.left(width).trimmed();
 }
 
-QStringList texts(const QList<QStringView> &views)
+template <typename View> QStringList texts(const QList<View> &views)
 {
     QStringList out;
-    for (const QStringView v : views)
-        out.append(v.toString());
-    return out;
-}
-
-QStringList texts(const QList<QByteArrayView> &views)
-{
-    QStringList out;
-    for (const QByteArrayView v : views)
-        out.append(fromCp1252(v.toByteArray()));
+    for (const View v : views) {
+        if constexpr (std::is_same_v<View, QStringView>)
+            out.append(v.toString());
+        else
+            out.append(fromCp1252(v.toByteArray()));
+    }
     return out;
 }
 
@@ -169,7 +155,6 @@ private slots:
         QFETCH(qint64, lineNumber);
         QFETCH(QString, separator);
         QFETCH(bool, checksum);
-        QFETCH(RecordFault, fault);
 
         const RegionalSettings rs = RegionalSettings::fromLocale(QStringLiteral("en_US"));
         RecordLayout layout;
@@ -180,7 +165,7 @@ private slots:
             = RecordWriter(layout, rs).record(lineNumber, QStringList { "AB", "CD" });
         layout.separator = QStringLiteral(" ");
         QList<QStringView> fields;
-        QCOMPARE(RecordReader(layout, rs).read(record, fields), fault);
+        QTEST(RecordReader(layout, rs).read(record, fields), "fault");
     }
 
     // One character changed anywhere is caught by the checksum, and text and
@@ -246,9 +231,8 @@ private slots:
     void checksumDigits()
     {
         QFETCH(QString, digits);
-        QFETCH(int, value);
         const auto read = RecordChecksum::read(digits.at(0).unicode(), digits.at(1).unicode());
-        QCOMPARE(read ? int(*read) : -1, value);
+        QTEST(read ? int(*read) : -1, "value");
     }
 
     void fieldCountMismatch()

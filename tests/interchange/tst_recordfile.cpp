@@ -138,7 +138,6 @@ private slots:
         QTest::newRow("last line without line end") << good1 + "\r\n" + good2 << true << true << QStringList { "1 AB|7", "2 CD|8" } << usual;
         QTest::newRow("empty file") << QByteArray() << true << true << QStringList() << usual;
         QTest::newRow("one empty line") << QByteArray("\n") << true << true << QStringList { "1 checksum" } << usual;
-        // clang-format on
         QTest::newRow("every fault once") << good1 + "\r\n" + "000002 CD   8   A2\r\n" // wrong sum
                 + "\r\n" // empty
                 + "00000X CD   8   C7\r\n" // no number
@@ -150,7 +149,6 @@ private slots:
                                                  "4 line number", "5 delimiter at 12",
                                                  "6 NUL byte at 9", "7 checksum", "8 CD|8" }
                                           << usual;
-        // clang-format off
         QTest::newRow("delimiter without line numbers") << QByteArray( "ABCDE   \nAB   7  ") << false << false << QStringList { "1 delimiter at 5", "2 AB|7" } << usual;
         QTest::newRow("code page decoded") << QByteArray("Caf\xE9 \x80\x9C ") << false << false << QStringList { QString::fromUtf8("1 Café|€œ") } << usual;
         // A line beyond the limit is skipped to its end, wherever the end falls.

@@ -19,23 +19,6 @@ RegionalSettings settings(const QString &locale)
     return RegionalSettings::fromLocale(locale);
 }
 
-// Adds the columns of a table that gives the result under nl_BE and en_US.
-void addColumns()
-{
-    QTest::addColumn<QVariant>("value");
-    QTest::addColumn<QString>("pattern");
-    QTest::addColumn<QString>("nl");
-    QTest::addColumn<QString>("us");
-}
-
-void compareBoth()
-{
-    QFETCH(QVariant, value);
-    QFETCH(QString, pattern);
-    QTEST(qor::format(value, pattern, settings("nl_BE")), "nl");
-    QTEST(qor::format(value, pattern, settings("en_US")), "us");
-}
-
 const QString bankMask = QStringLiteral("&&&\\-&&&&&&&\\-&&");
 const QString referenceMask = QStringLiteral("000\\/0000\\/000");
 const QString amountPattern = QStringLiteral("#,##0.00;- #,##0.00");
@@ -47,10 +30,12 @@ class TestFormat : public QObject
     Q_OBJECT
 
 private slots:
-    // Format under nl_BE and en_US.
     void format_data()
     {
-        addColumns();
+        QTest::addColumn<QVariant>("value");
+        QTest::addColumn<QString>("pattern");
+        QTest::addColumn<QString>("nl");
+        QTest::addColumn<QString>("us");
         // Text masks.
         // clang-format off
         QTest::newRow("bank account") << QVariant("123456789012") << bankMask << "123-4567890-12" << "123-4567890-12";
@@ -65,9 +50,7 @@ private slots:
         QTest::newRow("> upper case") << QVariant("abc") << ">&&&" << "ABC" << "ABC";
         QTest::newRow("second section for empty text") << QVariant("") << "&&;\\-" << "-" << "-";
         QTest::newRow("quoted literal") << QVariant("12") << "\"nr \"&&" << "nr 12" << "nr 12";
-        // clang-format on
         // Number patterns.
-        // clang-format off
         QTest::newRow("structured reference") << QVariant(12345) << referenceMask << "000/0012/345" << "000/0012/345";
         QTest::newRow("line number and blank") << QVariant(42) << "000000 " << "000042 " << "000042 ";
         QTest::newRow("hours #00") << QVariant(8) << "#00" << "08" << "08";
@@ -88,10 +71,8 @@ private slots:
         QTest::newRow("scientific, small") << QVariant(0.000123) << "0.0E-00" << "1,2E-04" << "1.2E-04";
         QTest::newRow("zero section") << QVariant(0) << "0;-0;\"nihil\"" << "nihil" << "nihil";
         QTest::newRow("single section puts a minus in front") << QVariant(-5) << "\\[0\\]" << "-[5]" << "-[5]";
-        // clang-format on
         // Format rounds the digits a Double shows (15 significant), half away from
         // zero: 2.675 is 2.67499999... in binary but displays and rounds as 2.675.
-        // clang-format off
         QTest::newRow("2.675 to 2.68") << QVariant(2.675) << "0.00" << "2,68" << "2.68";
         QTest::newRow("0.125 to 0.13, not to even") << QVariant(0.125) << "0.00" << "0,13" << "0.13";
         QTest::newRow("9.995 carries into the whole part") << QVariant(9.995) << "0.00" << "10,00" << "10.00";
@@ -106,9 +87,7 @@ private slots:
         QTest::newRow("a carry makes a new first digit") << QVariant(0.95) << "0.0" << "1,0" << "1.0";
         QTest::newRow("a Single rounds on its 7 digits") << QVariant(2.675f) << "0.00" << "2,68" << "2.68";
         QTest::newRow("64-bit whole numbers stay exact") << QVariant(qlonglong(9007199254740993LL)) << "#,##0" << "9.007.199.254.740.993" << "9,007,199,254,740,993";
-        // clang-format on
         // Values of other kinds.
-        // clang-format off
         QTest::newRow("date and time serial") << QVariant(QDateTime(QDate(2000, 1, 1), QTime(18, 0))) << "0.00" << "36526,75" << "36526.75";
         QTest::newRow("numeric text is read with the regional separators") << QVariant("1.234,5") << "0.00" << "1234,50" << "1.234,5";
         QTest::newRow("text that is not numeric comes back unchanged") << QVariant("abc") << "0.00" << "abc" << "abc";
@@ -117,10 +96,8 @@ private slots:
         QTest::newRow("Null") << qor::nullVariant() << amountPattern << "" << "";
         QTest::newRow("no pattern: the plain text form") << QVariant(1234.5) << "" << "1234,5" << "1234.5";
         QTest::newRow("a number through a text mask") << QVariant(1234.5) << "&&&&&&" << "1234,5" << "1234.5";
-        // clang-format on
         // Date and time patterns.
         const QDateTime afternoon(QDate(2024, 3, 5), QTime(14, 7, 9));
-        // clang-format off
         QTest::newRow("hh:mm is 24-hour too") << QVariant(afternoon) << "hh:mm" << "14:07" << "14:07";
         QTest::newRow("h:nn") << QVariant(QTime(9, 5)) << "h:nn" << "9:05" << "9:05";
         QTest::newRow("mm before ss is minutes") << QVariant(afternoon) << "mm:ss" << "07:09" << "07:09";
@@ -138,11 +115,9 @@ private slots:
         QTest::newRow("date text") << QVariant("31/12/2000") << "yyyy-mm-dd" << "2000-12-31" << "2000-12-31";
         QTest::newRow("a time literal with hashes stays as it is") << QVariant("#08:30#") << "HH:mm" << "#08:30#" << "#08:30#";
         QTest::newRow("Boolean True is 29 December 1899") << QVariant(true) << "dd/mm/yyyy" << "29/12/1899" << "29/12/1899";
-        // clang-format on
         // Numbers beyond the usual.
         const double inf = std::numeric_limits<double>::infinity();
         const QString hugeWhole = QStringLiteral("1") + QString(300, QLatin1Char('0'));
-        // clang-format off
         QTest::newRow("1E+300 prints every digit") << QVariant(1e300) << "0.00" << hugeWhole + ",00" << hugeWhole + ".00";
         QTest::newRow("largest Double") << QVariant(std::numeric_limits<double>::max()) << "0" << "179769313486232" + QString(294, '0') << "179769313486232" + QString(294, '0');
         QTest::newRow("NaN") << QVariant(std::numeric_limits<double>::quiet_NaN()) << amountPattern << "1.#QNAN" << "1.#QNAN";
@@ -150,7 +125,13 @@ private slots:
         QTest::newRow("smallest Double rounds to zero") << QVariant(std::numeric_limits<double>::denorm_min()) << "0.00" << "0,00" << "0.00";
         // clang-format on
     }
-    void format() { compareBoth(); }
+    void format()
+    {
+        QFETCH(QVariant, value);
+        QFETCH(QString, pattern);
+        QTEST(qor::format(value, pattern, settings("nl_BE")), "nl");
+        QTEST(qor::format(value, pattern, settings("en_US")), "us");
+    }
 
     void dateSeparatorsOfOtherSettings()
     {
