@@ -139,18 +139,6 @@ private slots:
         QTEST(write(value), "text");
     }
 
-    void writerOutputReadsBack()
-    {
-        const JsonValue value
-            = JsonValue::object()
-                  .insert("text", QStringLiteral("\u20ac \"quoted\"\r\r"))
-                  .insert("numbers", JsonValue::array().append(-3).append(2.5).append(7.0))
-                  .insert("nested", JsonValue::object().insert("flag", false));
-        QCOMPARE(read(write(value)), value);
-        QCOMPARE(read(JsonWriter::indented(value)), value);
-        QVERIFY(JsonWriter::indented(value).contains("\n  \"text\": "));
-    }
-
     // Library values from JSON and back as they were, with their Variant subtype; whole
     // numbers take the smallest subtype that holds them, host objects belong to their owner.
     void valuesBothWays_data()

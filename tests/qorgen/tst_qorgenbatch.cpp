@@ -32,9 +32,7 @@ private slots:
                 + "{\"call\": \"FilterNu");
         QVERIFY(run.finished);
         QCOMPARE(run.exitCode, 0);
-        QList<QJsonObject> responses;
-        for (const QByteArray &line : run.lines())
-            responses.append(QJsonDocument::fromJson(line).object());
+        const QList<QJsonObject> responses = run.responses();
         QCOMPARE(responses.size(), 5); // blank lines get no response
         QCOMPARE(responses[0].value("result").toString().size(), 2500000);
         QCOMPARE(errorNumberOf(responses[1]), 5);
@@ -48,48 +46,48 @@ private slots:
     void largeObjectsAreAnswered_data()
     {
         QTest::addColumn<QByteArray>("kind");
-        QTest::addColumn<int>("members");
-        QTest::newRow("host object with many properties") << QByteArray("$object") << 200000;
-        QTest::newRow("plain object with many members") << QByteArray("plain") << 200000;
-        QTest::newRow("many members, the last repeated") << QByteArray("repeated") << 200000;
+        QTest::addColumn<QString>("fault"); // named in the error; empty: none
+        QTest::newRow("host object with many properties") << QByteArray("$object") << QString();
+        QTest::newRow("plain object with many members: an unknown field")
+            << QByteArray("plain") << QStringLiteral("extra");
+        QTest::newRow("many members, the last repeated: no JSON, so no id")
+            << QByteArray("repeated") << QStringLiteral("m7");
     }
     void largeObjectsAreAnswered()
     {
         QFETCH(QByteArray, kind);
-        QFETCH(int, members);
+        QFETCH(QString, fault);
+        const int members = 200000;
         QByteArray object = kind == "$object" ? QByteArray(R"({"$object": "TextBox", "Text": "ab")")
                                               : QByteArray("{\"m\": 0");
         for (int i = 1; i < members; ++i)
             object += ", \"m" + QByteArray::number(i) + "\": " + QByteArray::number(i);
-        if (kind == "repeated")
-            object += ", \"m7\": 1";
-        object += '}';
+        object += kind == "repeated" ? ", \"m7\": 1}" : "}";
         const QByteArray call = kind == "$object"
             ? R"({"id": 1, "props": false, "call": "SelEdit", "args": [)" + object + "]}"
             : R"({"id": 1, "props": false, "call": "SCase", "args": ["x"], "extra": )" + object
                 + "}";
-        const BatchResult result = runBatch({ call, R"({"call": "SCase", "args": ["y"]})" });
-        QVERIFY(result.run.finished);
-        QCOMPARE(result.responses.size(), 2);
-        const QJsonObject reply = result.responses[0];
-        // A line that is not JSON (a name given twice) has no id to send back.
-        const QJsonValue id
-            = kind == "repeated" ? QJsonValue(QJsonValue::Undefined) : QJsonValue(1);
-        QCOMPARE(reply.value("id"), id);
-        if (kind == "$object") {
+        const QorgenRun run = runQorgen({ QStringLiteral("batch") },
+            call + "\n"
+                + R"({"call": "SCase", "args": ["y"]})"
+                  "\n");
+        QVERIFY(run.finished);
+        const QList<QJsonObject> responses = run.responses();
+        QCOMPARE(responses.size(), 2);
+        const QJsonObject reply = responses[0];
+        QCOMPARE(reply.value("id"),
+            kind == "repeated" ? QJsonValue(QJsonValue::Undefined) : QJsonValue(1));
+        if (fault.isEmpty()) {
             const QJsonObject control = reply.value("args").toArray().at(0).toObject();
             QCOMPARE(control.value("SelLength").toInt(), 2);
             QCOMPARE(control.value("m1").toInt(), 1);
             QCOMPARE(control.value("m" + QString::number(members - 1)).toInt(), members - 1);
-        } else if (kind == "repeated") {
-            QCOMPARE(errorNumberOf(reply), 5);
-            QVERIFY(reply.value("error").toObject().value("description").toString().contains("m7"));
         } else {
-            // A well-formed line with a field the bridge does not know.
+            QCOMPARE(errorNumberOf(reply), 5);
             QVERIFY(
-                reply.value("error").toObject().value("description").toString().contains("extra"));
+                reply.value("error").toObject().value("description").toString().contains(fault));
         }
-        QCOMPARE(result.responses[1].value("result").toString(), QStringLiteral("Y"));
+        QCOMPARE(responses[1].value("result").toString(), QStringLiteral("Y"));
     }
 
     // A caller that writes one line and waits gets its answer without closing its side.
