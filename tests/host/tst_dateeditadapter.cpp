@@ -43,21 +43,19 @@ private slots:
     void setDTextOnARealField_data()
     {
         QTest::addColumn<QString>("locale");
-        QTest::addColumn<int>("offset");
         QTest::addColumn<QDate>("today");
         QTest::addColumn<QString>("displayFormat");
         QTest::addColumn<QList<QDate>>("marked");
         QTest::addColumn<QList<QDate>>("unmarked");
         QTest::addColumn<QString>("monday");
         // clang-format off
-        QTest::newRow("BE Dutch 2004") << "nl_BE" << 0 << QDate(2004, 5, 25) << "dd/MM/yyyy" << QList<QDate> { QDate(2004, 5, 20), QDate(2004, 7, 11), QDate(2004, 12, 25), QDate(2003, 11, 11) } << QList<QDate> { QDate(2004, 5, 21), QDate(2004, 9, 27) } << "ma";
-        QTest::newRow("LU 2004 with points") << "de_DE" << 0 << QDate(2004, 6, 1) << "dd.MM.yyyy" << QList<QDate> { QDate(2004, 6, 23), QDate(2004, 5, 30) } << QList<QDate> { QDate(2004, 7, 21) } << "ma";
+        QTest::newRow("BE Dutch 2004") << "nl_BE" << QDate(2004, 5, 25) << "dd/MM/yyyy" << QList<QDate> { QDate(2004, 5, 20), QDate(2004, 7, 11), QDate(2004, 12, 25), QDate(2003, 11, 11) } << QList<QDate> { QDate(2004, 5, 21), QDate(2004, 9, 27) } << "ma";
+        QTest::newRow("LU 2004 with points") << "de_DE" << QDate(2004, 6, 1) << "dd.MM.yyyy" << QList<QDate> { QDate(2004, 6, 23), QDate(2004, 5, 30) } << QList<QDate> { QDate(2004, 7, 21) } << "ma";
         // clang-format on
     }
     void setDTextOnARealField()
     {
         QFETCH(QString, locale);
-        QFETCH(int, offset);
         QFETCH(QDate, today);
         QFETCH(QList<QDate>, marked);
         QFETCH(QList<QDate>, unmarked);
@@ -65,7 +63,6 @@ private slots:
         QDateEdit field;
         DateEditAdapter adapter(&field);
         clsqorGenLib lib;
-        lib.setProperty("Offset", offset);
         const QString country = QString::fromLatin1(QTest::currentDataTag()).left(2);
         lib.Invoke(QStringLiteral("SetDText"),
             { QVariant::fromValue<QObject *>(&adapter), country, true });

@@ -53,7 +53,6 @@ private slots:
         QTest::newRow("LLGenLib: french yes") << -1 << 11028 << "Oui";
         QTest::newRow("LLGenLib: leading and trailing blanks kept") << -1 << 1016 << " is ongeldig gecodeerd !";
         QTest::newRow("LLGenLib: inner blank runs kept") << -1 << 1001 << "Schrijfwijze  000000000000  of  000-0000000-00";
-        QTest::newRow("LLGenLib: a single blank") << -1 << 9900 << " ";
         QTest::newRow("LLGenLib: diaeresis") << -1 << 9910 << QStringLiteral("Domicili\u00EBring");
         QTest::newRow("LLGenLib: dictionary word") << -1 << 9534 << "Datum";
         QTest::newRow("LLGenLib: no such text") << -1 << 1023 << " [LLGenLib 1023 ?] ";

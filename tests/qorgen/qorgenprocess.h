@@ -21,6 +21,14 @@ struct QorgenRun
             result.removeLast();
         return result;
     }
+    // Each line of the output read as a JSON object (the responses of `qorgen batch`).
+    QList<QJsonObject> responses() const
+    {
+        QList<QJsonObject> result;
+        for (const QByteArray &line : lines())
+            result.append(QJsonDocument::fromJson(line).object());
+        return result;
+    }
 };
 
 inline QorgenRun runQorgen(const QStringList &arguments, const QByteArray &input = QByteArray())
@@ -39,26 +47,4 @@ inline QorgenRun runQorgen(const QStringList &arguments, const QByteArray &input
     run.out = process.readAllStandardOutput();
     run.err = process.readAllStandardError();
     return run;
-}
-
-// The responses of `qorgen batch` to the lines, in order, each with its raw line.
-struct BatchResult
-{
-    QorgenRun run;
-    QList<QJsonObject> responses;
-    QList<QByteArray> raw;
-};
-
-inline BatchResult runBatch(const QList<QByteArray> &requests)
-{
-    BatchResult result;
-    QByteArray input;
-    for (const QByteArray &line : requests)
-        input += line + '\n';
-    result.run = runQorgen({ QStringLiteral("batch") }, input);
-    for (const QByteArray &line : result.run.lines()) {
-        result.raw.append(line);
-        result.responses.append(QJsonDocument::fromJson(line).object());
-    }
-    return result;
 }

@@ -129,7 +129,6 @@ private slots:
         QTest::newRow("whole single") << JsonValue::single(3.0f) << QByteArray("3.0");
         QTest::newRow("not a number") << JsonValue(std::nan("")) << QByteArray("null");
         QTest::newRow("infinite") << JsonValue(std::numeric_limits<double>::infinity()) << QByteArray("null");
-        QTest::newRow("escapes") << JsonValue(QStringLiteral("a\"b\\c\r\n\t\x01\u00e9\u00ad")) << QByteArray("\"a\\\"b\\\\c\\r\\n\\t\\u0001\xc3\xa9\xc2\xad\"");
         QTest::newRow("members in order") << JsonValue::object().insert("z", 1).insert( "a", JsonValue::array().append(true).append(nullptr)) << QByteArray(R"({"z":1,"a":[true,null]})");
         QTest::newRow("empty containers") << JsonValue::array().append(JsonValue::object()).append(JsonValue::array()) << QByteArray("[{},[]]");
         // clang-format on
@@ -138,18 +137,6 @@ private slots:
     {
         QFETCH(JsonValue, value);
         QTEST(write(value), "text");
-    }
-
-    void writerOutputReadsBack()
-    {
-        const JsonValue value
-            = JsonValue::object()
-                  .insert("text", QStringLiteral("\u20ac \"quoted\"\r\r"))
-                  .insert("numbers", JsonValue::array().append(-3).append(2.5).append(7.0))
-                  .insert("nested", JsonValue::object().insert("flag", false));
-        QCOMPARE(read(write(value)), value);
-        QCOMPARE(read(JsonWriter::indented(value)), value);
-        QVERIFY(JsonWriter::indented(value).contains("\n  \"text\": "));
     }
 
     // Library values from JSON and back as they were, with their Variant subtype; whole

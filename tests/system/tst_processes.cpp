@@ -84,30 +84,46 @@ private slots:
         QTEST(matchesWildcard(name, pattern), "matches");
     }
 
+    // The classic window styles are 0 to 4 and 6; a refused style starts nothing.
     void shellAndWait_data()
     {
         QTest::addColumn<QString>("commandLine");
+        QTest::addColumn<int>("style");
+        QTest::addColumn<bool>("started"); // asked of the machine
         QTest::addColumn<int>("result");
         QTest::addColumn<QString>("description"); // of the start failure, "" when it started
+        QTest::addColumn<int>("waited"); // milliseconds at least
+        const QString refused = QStringLiteral("Invalid procedure call or argument");
         // clang-format off
-        QTest::newRow("exits at once") << "\"" + helper + "\" exit 0" << 0 << "";
-        QTest::newRow("fails at once: 0 all the same") << "\"" + helper + "\" exit 3" << 0 << "";
-        QTest::newRow("from the search path") << "true" << 0 << "";
-        QTest::newRow("missing program") << "/no/such/program.exe arg" << 53 << "File not found";
-        QTest::newRow("not executable") << "\"" + QStringLiteral(QOR_SYSTEM_HELPER).section('/', 0, -2) + "/CMakeFiles\"" << 70 << "Permission denied";
-        QTest::newRow("empty command") << "" << 5 << "Invalid procedure call or argument";
+        QTest::newRow("exits at once") << "\"" + helper + "\" exit 0" << 1 << true << 0 << "" << 0;
+        QTest::newRow("waits for the end") << "\"" + helper + "\" sleep 300" << 1 << true << 0 << "" << 300;
+        QTest::newRow("fails at once: 0 all the same") << "\"" + helper + "\" exit 3" << 1 << true << 0 << "" << 0;
+        QTest::newRow("from the search path") << "true" << 1 << true << 0 << "" << 0;
+        QTest::newRow("missing program") << "/no/such/program.exe arg" << 1 << true << 53 << "File not found" << 0;
+        QTest::newRow("not executable") << "\"" + QStringLiteral(QOR_SYSTEM_HELPER).section('/', 0, -2) + "/CMakeFiles\"" << 1 << true << 70 << "Permission denied" << 0;
+        QTest::newRow("empty command") << "" << 1 << true << 5 << refused << 0;
+        QTest::newRow("style hidden") << "true" << 0 << true << 0 << "" << 0;
+        QTest::newRow("style minimised without focus") << "true" << 6 << true << 0 << "" << 0;
+        QTest::newRow("5 is no style") << "true" << 5 << false << 5 << refused << 0;
+        QTest::newRow("negative style") << "true" << -1 << false << 5 << refused << 0;
+        QTest::newRow("style 7") << "true" << 7 << false << 5 << refused << 0;
         // clang-format on
     }
     void shellAndWait()
     {
         QFETCH(QString, commandLine);
+        QFETCH(int, style);
+        QFETCH(bool, started);
         QFETCH(QString, description);
+        QFETCH(int, waited);
         clsqorGenLib lib;
-        QTEST(lib.ShellAndWait(commandLine, 1), "result");
-        const QVariantMap start = machine->actions().value(0).toMap();
-        QCOMPARE(start.value("kind").toString(), QStringLiteral("start"));
-        QCOMPARE(start.value("command").toString(), commandLine);
-        QCOMPARE(start.value("windowStyle").toInt(), 1);
+        QElapsedTimer timer;
+        timer.start();
+        QTEST(lib.ShellAndWait(commandLine, style), "result");
+        QVERIFY(timer.elapsed() >= waited);
+        const QVariantMap start { { "kind", "start" }, { "command", commandLine },
+            { "windowStyle", style } };
+        QCOMPARE(machine->actions(), started ? QVariantList { start } : QVariantList());
         if (description.isEmpty()) {
             QVERIFY(machine->shown().isEmpty());
         } else {
@@ -116,37 +132,6 @@ private slots:
                     { "prompt", "Error starting task " + commandLine + "\r\n" + description },
                     { "buttons", 48 }, { "title", "Error" } }));
         }
-    }
-
-    void aWindowStyleOutsideTheListIsRefused_data()
-    {
-        QTest::addColumn<int>("style");
-        QTest::addColumn<int>("result");
-        // clang-format off
-        QTest::newRow("hidden") << 0 << 0;
-        QTest::newRow("minimised without focus") << 6 << 0;
-        QTest::newRow("5 is no style") << 5 << 5;
-        QTest::newRow("negative") << -1 << 5;
-        QTest::newRow("7") << 7 << 5;
-        // clang-format on
-    }
-    void aWindowStyleOutsideTheListIsRefused()
-    {
-        QFETCH(int, style);
-        QFETCH(int, result);
-        clsqorGenLib lib;
-        QCOMPARE(lib.ShellAndWait(QStringLiteral("true"), style), result);
-        QCOMPARE(machine->actions().size(), result == 0 ? 1 : 0);
-        QCOMPARE(machine->shown().size(), result == 0 ? 0 : 1);
-    }
-
-    void shellAndWaitWaitsForTheEnd()
-    {
-        clsqorGenLib lib;
-        QElapsedTimer timer;
-        timer.start();
-        QCOMPARE(lib.ShellAndWait("\"" + helper + "\" sleep 300", 0), 0);
-        QVERIFY(timer.elapsed() >= 300);
     }
 
     void aProgramInAFolderWithBlanksAndQuotes()
@@ -213,43 +198,33 @@ private slots:
         QCOMPARE(list, QString());
     }
 
-    void pathRS_data()
+    // PathRS takes one trailing backslash off a path; GetSystemDir off the system folder,
+    // which it reads into a classic buffer of 255 characters.
+    void paths_data()
     {
+        QTest::addColumn<QString>("method");
         QTest::addColumn<QString>("path");
         QTest::addColumn<QString>("result");
         // clang-format off
-        QTest::newRow("trailing backslash") << "C:\\data\\" << "C:\\data";
-        QTest::newRow("drive root") << "C:\\" << "C:";
-        QTest::newRow("three blanks") << "   " << "";
-        QTest::newRow("only one of two removed") << "C:\\data\\\\" << "C:\\data\\";
-        QTest::newRow("blanks kept") << " C:\\a\\ " << " C:\\a\\ ";
-        QTest::newRow("slash kept") << "/data/" << "/data/";
-        QTest::newRow("tab is no blank") << "\t" << "\t";
+        QTest::newRow("trailing backslash") << "PathRS" << "C:\\data\\" << "C:\\data";
+        QTest::newRow("drive root") << "PathRS" << "C:\\" << "C:";
+        QTest::newRow("three blanks") << "PathRS" << "   " << "";
+        QTest::newRow("only one of two removed") << "PathRS" << "C:\\data\\\\" << "C:\\data\\";
+        QTest::newRow("blanks kept") << "PathRS" << " C:\\a\\ " << " C:\\a\\ ";
+        QTest::newRow("slash kept") << "PathRS" << "/data/" << "/data/";
+        QTest::newRow("tab is no blank") << "PathRS" << "\t" << "\t";
+        QTest::newRow("system folder: one trailing backslash dropped") << "GetSystemDir" << "C:\\WINDOWS\\\\" << "C:\\WINDOWS\\";
+        QTest::newRow("no system folder") << "GetSystemDir" << "" << "";
+        QTest::newRow("system folder cut to the buffer") << "GetSystemDir" << QString(300, 'd') << QString(255, 'd');
         // clang-format on
     }
-    void pathRS()
+    void paths()
     {
+        QFETCH(QString, method);
         QFETCH(QString, path);
+        machine->setSystemDirectory(path);
         clsqorGenLib lib;
-        QTEST(lib.PathRS(path), "result");
-    }
-
-    void getSystemDir_data()
-    {
-        QTest::addColumn<QString>("systemDirectory");
-        QTest::addColumn<QString>("result");
-        // clang-format off
-        QTest::newRow("one trailing backslash dropped") << "C:\\WINDOWS\\\\" << "C:\\WINDOWS\\";
-        QTest::newRow("none") << "" << "";
-        QTest::newRow("cut to the buffer") << QString(300, 'd') << QString(255, 'd');
-        // clang-format on
-    }
-    void getSystemDir()
-    {
-        QFETCH(QString, systemDirectory);
-        machine->setSystemDirectory(systemDirectory);
-        clsqorGenLib lib;
-        QTEST(lib.GetSystemDir(), "result");
+        QTEST(method == "PathRS" ? lib.PathRS(path) : lib.GetSystemDir(), "result");
     }
 };
 

@@ -132,44 +132,40 @@ private slots:
             QStringLiteral("Impossible de trouver le param\u00E8tre dans ")));
     }
 
+    // A file that cannot be written, or a folder that does not exist, is left as it was.
     void writesThatCannotHappenChangeNothing_data()
     {
-        QTest::addColumn<bool>("readOnlyFile");
+        QTest::addColumn<QString>("locked");
         // clang-format off
-        QTest::newRow("read-only file") << true;
-        QTest::newRow("read-only folder") << false;
+        QTest::newRow("read-only file") << "file";
+        QTest::newRow("read-only folder") << "folder";
+        QTest::newRow("missing folder: not created") << "missing";
         // clang-format on
     }
     void writesThatCannotHappenChangeNothing()
     {
-        QFETCH(bool, readOnlyFile);
-        if (!readOnlyFile && ::geteuid() == 0)
+        QFETCH(QString, locked);
+        if (locked == "folder" && ::geteuid() == 0)
             QSKIP("the administrator writes in any folder");
+        const bool missing = locked == "missing";
         QTemporaryDir local;
-        const QString file = local.filePath(QStringLiteral("vast.ini"));
-        const QByteArray before = "[S]\r\nK=oud\r\n";
-        writeBytes(file, before);
-        const QString locked = readOnlyFile ? file : local.path();
-        const auto permissions = QFile::permissions(locked);
-        QFile::setPermissions(locked, QFile::ReadOwner | QFile::ExeOwner);
+        const QString file = local.filePath(missing ? "geen/map/vast.ini" : "vast.ini");
+        const QByteArray before = missing ? QByteArray("<missing>") : "[S]\r\nK=oud\r\n";
+        if (!missing)
+            writeBytes(file, before);
+        const QString target = locked == "file" ? file : local.path();
+        const auto permissions = QFile::permissions(target);
+        if (!missing)
+            QFile::setPermissions(target, QFile::ReadOwner | QFile::ExeOwner);
         clsqorGenLib lib;
         QString iniFile = file;
         lib.WriteIni(QStringLiteral("S"), QStringLiteral("K"), QStringLiteral("nieuw"), iniFile);
         const QByteArray after = contentsOf(file);
-        QFile::setPermissions(locked, permissions);
+        QFile::setPermissions(target, permissions);
         QCOMPARE(after, before);
         QCOMPARE(
             QDir(local.path()).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot),
-            QStringList { "vast.ini" });
-    }
-
-    void aMissingFolderIsNotCreated()
-    {
-        clsqorGenLib lib;
-        QString iniFile = path(QStringLiteral("geen/map/x.ini"));
-        lib.WriteIni(QStringLiteral("S"), QStringLiteral("K"), QStringLiteral("v"), iniFile);
-        QVERIFY(!QFile::exists(iniFile));
-        QCOMPARE(lib.GetIni(QStringLiteral("S"), QStringLiteral("K"), iniFile, false), QString());
+            missing ? QStringList() : QStringList { "vast.ini" });
     }
 
     void aHugeFileKeepsEveryByte()
