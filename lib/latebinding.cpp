@@ -92,10 +92,11 @@ LateBinding::LateBinding(QObject *object, const TypeLibrary &library)
 
 QVariant LateBinding::invoke(const QString &name, QVariantList &args) const
 {
-    if (const MethodInfo *method = m_library.findMethod(name))
-        return callMethod(*method, args);
-    if (const PropertyInfo *property = m_library.findProperty(name))
-        return accessProperty(*property, args);
+    const TypeLibrary::Member member = m_library.findMember(name);
+    if (member.method)
+        return callMethod(*member.method, args);
+    if (member.property)
+        return accessProperty(*member.property, args);
     throw RuntimeError::notSupportedByObject();
 }
 

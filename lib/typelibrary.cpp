@@ -4,10 +4,11 @@
 #include <QJsonObject>
 #include <QMetaClassInfo>
 #include <QMetaEnum>
-#include <QVarLengthArray>
-
 #include <QMetaMethod>
 #include <QMetaProperty>
+#include <QVarLengthArray>
+
+#include <atomic>
 #include <cstring>
 
 namespace qor {
@@ -40,10 +41,22 @@ QVariant defaultValueFor(const QJsonValue &json, QMetaType type)
     return value;
 }
 
+std::atomic<quint64> nextSerial { 1 };
+
+// The last member a thread looked up, by the exact name it gave.
+struct LastMember
+{
+    quint64 serial = 0;
+    QString name;
+    TypeLibrary::Member member;
+};
+thread_local LastMember lastMember;
+
 } // namespace
 
 TypeLibrary::TypeLibrary(const QMetaObject *cls, const QList<const QMetaObject *> &enumScopes,
     const QList<const QMetaObject *> &records)
+    : m_serial(nextSerial.fetch_add(1))
 {
     readMethods(cls);
     readProperties(cls);
@@ -262,6 +275,18 @@ const PropertyInfo *TypeLibrary::findProperty(const QString &name) const
 {
     const qsizetype i = m_propertyIndex.find(name);
     return i < 0 ? nullptr : &m_properties[i];
+}
+
+TypeLibrary::Member TypeLibrary::findMember(const QString &name) const
+{
+    LastMember &last = lastMember;
+    if (last.serial == m_serial && last.name == name)
+        return last.member;
+    Member member { findMethod(name), nullptr };
+    if (!member.method)
+        member.property = findProperty(name);
+    last = { m_serial, name, member };
+    return member;
 }
 
 const EnumInfo *TypeLibrary::findEnumeration(const QString &name) const

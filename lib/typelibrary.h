@@ -69,6 +69,8 @@ class QORGENLIB_EXPORT TypeLibrary
 public:
     TypeLibrary(const QMetaObject *cls, const QList<const QMetaObject *> &enumScopes,
         const QList<const QMetaObject *> &records);
+    TypeLibrary(const TypeLibrary &) = delete;
+    TypeLibrary &operator=(const TypeLibrary &) = delete;
 
     const QList<MethodInfo> &methods() const { return m_methods; }
     const QList<PropertyInfo> &properties() const { return m_properties; }
@@ -79,6 +81,17 @@ public:
     const MethodInfo *findMethod(const QString &name) const;
     const PropertyInfo *findProperty(const QString &name) const;
     const EnumInfo *findEnumeration(const QString &name) const;
+
+    // The method of that name, else the property; both null when neither is
+    // there. Each thread keeps its last look-up, so that a host calling the
+    // same member again and again, as in a loop, finds it without folding the
+    // name each time.
+    struct Member
+    {
+        const MethodInfo *method = nullptr;
+        const PropertyInfo *property = nullptr;
+    };
+    Member findMember(const QString &name) const;
     std::optional<qint32> enumValue(const QString &memberName) const;
 
     // The library's name of a Qt type ("QString" -> "String").
@@ -119,6 +132,7 @@ private:
     void indexNames();
     NameIndex m_methodIndex;
     NameIndex m_propertyIndex;
+    quint64 m_serial; // never the same for two libraries, even one after the other
 };
 
 } // namespace qor

@@ -120,6 +120,21 @@ private slots:
         QVERIFY(!library().findMethod("Invoke"));
         QVERIFY(!library().findMethod("deleteLater"));
     }
+
+    // A member named again straight after is remembered, but only for the very
+    // same name in the very same library.
+    void findMemberRemembersOnlyTheSameNameInTheSameLibrary()
+    {
+        for (const char *name : { "SCase", "scase", "SCase", "Offset", "NbrDec", "NbrDec",
+                 "Nothing", "Nothing", "SCase" }) {
+            const TypeLibrary::Member member = library().findMember(name);
+            QCOMPARE(member.method, library().findMethod(name));
+            QCOMPARE(member.property, member.method ? nullptr : library().findProperty(name));
+        }
+        const TypeLibrary other(&clsqorGenLib::staticMetaObject, {}, {});
+        QCOMPARE(other.findMember("SCase").method, other.findMethod("SCase"));
+        QVERIFY(other.findMethod("SCase") != library().findMethod("SCase"));
+    }
 };
 
 QTEST_GUILESS_MAIN(TestTypeLibrary)

@@ -246,8 +246,9 @@ Session::Call Session::prepare(const Request &request, QObject *owner) const
     const TypeLibrary &library = clsqorGenLib::typeLibrary();
     Call call;
     if (!request.call.isEmpty()) {
-        call.method = library.findMethod(request.call);
-        call.property = call.method ? nullptr : library.findProperty(request.call);
+        const TypeLibrary::Member member = library.findMember(request.call);
+        call.method = member.method;
+        call.property = member.property;
         if (!call.method && !call.property)
             throw RequestError::unknownName(
                 QStringLiteral("the library has no method or property \"%1\"").arg(request.call));
