@@ -23,27 +23,14 @@ void writeOgmNotation(const char16_t *twelveDigits, QString &out)
     std::copy(twelveDigits + 7, twelveDigits + 12, write);
 }
 
-// The reference zero-padded to ten digits followed by the two check digits: what
-// the masks "000\/0000\/000" and "00" write side by side.
-void writeReferenceDigitsWithCheck(qint64 value, qint64 check, char16_t (&digits)[12])
+// The number ten digits stand for, as Str(CGetal(text)) writes it: without
+// its leading zeros, "0" for none but zeros.
+void writeWithoutLeadingZeros(const char16_t *tenDigits, QString &out)
 {
-    for (int i = 11; i >= 10; --i, check /= 10)
-        digits[i] = char16_t(u'0' + check % 10);
-    for (int i = 9; i >= 0; --i, value /= 10)
-        digits[i] = char16_t(u'0' + value % 10);
-}
-
-// The number in decimal without leading zeros, as Str(CGetal(text)) writes it.
-void writeNumber(qint64 value, QString &out)
-{
-    char16_t buffer[20];
-    char16_t *end = buffer + 20;
-    char16_t *begin = end;
-    do {
-        *--begin = char16_t(u'0' + value % 10);
-        value /= 10;
-    } while (value > 0);
-    assignText(out, QStringView(begin, end));
+    qsizetype first = 0;
+    while (first < referenceDigits - 1 && tenDigits[first] == u'0')
+        ++first;
+    assignText(out, QStringView(tenDigits + first, referenceDigits - first));
 }
 
 bool checkDigitsMatch(QStringView twelveDigits)
@@ -78,16 +65,24 @@ void copyDigits(QStringView text, QString &digits)
 bool makePaymentReference(QString &referentieNummer, QString &digits, QString &ogm)
 {
     copyDigits(referentieNummer, digits);
-    // Padded on the left or cut to the last ten digits.
-    const qint64 value = qint64(digitsValue(rightPart(digits, referenceDigits)));
+    // The last ten digits, padded on the left with zeros: what the masks
+    // "000\/0000\/000" and "00" write side by side, check digits after them.
+    const QStringView reference = rightPart(digits, referenceDigits);
+    char16_t twelveDigits[referenceDigits + 2];
+    const qsizetype padding = referenceDigits - reference.size();
+    std::fill_n(twelveDigits, padding, u'0');
+    std::copy_n(reference.utf16(), reference.size(), twelveDigits + padding);
+    // Ten digits are exact in double precision, so the remainder the double
+    // computation gives is the whole-number one.
+    const qint64 remainder = digitsNumber(reference) % 97;
+    const qint64 check = remainder == 0 ? 97 : remainder;
+    twelveDigits[referenceDigits] = char16_t(u'0' + check / 10);
+    twelveDigits[referenceDigits + 1] = char16_t(u'0' + check % 10);
+    const bool tooLong = digits.size() > referenceDigits;
     // The variable is read back as a number, which drops the leading zeros.
-    writeNumber(value, referentieNummer);
-    const double remainder = remainder97(double(value));
-    const qint64 check = remainder == 0 ? 97 : qint64(remainder);
-    char16_t twelveDigits[12];
-    writeReferenceDigitsWithCheck(value, check, twelveDigits);
+    writeWithoutLeadingZeros(twelveDigits, referentieNummer);
     writeOgmNotation(twelveDigits, ogm);
-    return digits.size() > referenceDigits;
+    return tooLong;
 }
 
 PaymentReference makePaymentReference(QString &referentieNummer)
