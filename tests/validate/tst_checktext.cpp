@@ -48,6 +48,16 @@ private slots:
         QCOMPARE(text, digits);
         QCOMPARE(input, before); // shared until written
         QCOMPARE(text.constData()[text.size()], QChar(0));
+        // A text of its own with room to spare is worked on in place.
+        QString roomy;
+        roomy.reserve(input.size() + 8);
+        roomy.append(input);
+        const QChar *buffer = roomy.constData();
+        keepDigits(roomy);
+        QCOMPARE(roomy, digits);
+        QCOMPARE(roomy.constData()[roomy.size()], QChar(0));
+        if (input.size() <= 64)
+            QCOMPARE(roomy.constData(), buffer);
     }
 
     // Whole numbers of up to fifteen digits, eight at a time and the rest.
@@ -76,11 +86,15 @@ private slots:
     {
         QTest::addColumn<QString>("start");
         QTest::addColumn<QString>("written");
-        QTest::newRow("longer into shorter") << "0123" << "0123.456.749";
-        QTest::newRow("shorter into longer") << "0123.456.749" << "0123";
-        QTest::newRow("same length") << "0000.000.000" << "0123.456.749";
+        QTest::newRow("longer into shorter") << "0123"
+                                             << "0123.456.749";
+        QTest::newRow("shorter into longer") << "0123.456.749"
+                                             << "0123";
+        QTest::newRow("same length") << "0000.000.000"
+                                     << "0123.456.749";
         QTest::newRow("into a null text") << QString() << "0123";
-        QTest::newRow("empty") << "0123" << "";
+        QTest::newRow("empty") << "0123"
+                               << "";
     }
     void displayStorageIsReusedButNeverShared()
     {
