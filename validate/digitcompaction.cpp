@@ -79,9 +79,6 @@ bool canCompactDigitsEightAtATime()
 __attribute__((target("ssse3"))) qsizetype compactDigitsEightAtATime(
     const char16_t *text, qsizetype size, char16_t *out)
 {
-    // out may be text itself: a block is written only after it is read, never
-    // past its own end, and the last eight characters are read again only for
-    // those not yet taken.
     qsizetype kept = 0;
     qsizetype next = 0;
     for (; next + 8 <= size; next += 8) {

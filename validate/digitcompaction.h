@@ -10,8 +10,7 @@ bool canCompactDigitsEightAtATime();
 
 // The digits 0 to 9 among the size characters at text, in their order, written
 // to out, which has room for size + 8 characters (it is written past the digits).
-// out may be text itself. Returns the number of digits. Only when
-// canCompactDigitsEightAtATime().
+// Returns the number of digits. Only when canCompactDigitsEightAtATime().
 qsizetype compactDigitsEightAtATime(const char16_t *text, qsizetype size, char16_t *out);
 
 } // namespace qor

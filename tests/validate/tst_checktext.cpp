@@ -48,7 +48,7 @@ private slots:
         QCOMPARE(text, digits);
         QCOMPARE(input, before); // shared until written
         QCOMPARE(text.constData()[text.size()], QChar(0));
-        // A text of its own with room to spare is worked on in place.
+        // A text of its own keeps its buffer.
         QString roomy;
         roomy.reserve(input.size() + 8);
         roomy.append(input);
