@@ -24,6 +24,30 @@ bool isAsciiDigits(QStringView text)
     return true;
 }
 
+namespace {
+
+// The value of four digits, worked out apart from the running sum.
+qint64 fourDigits(const char16_t *p)
+{
+    return ((p[0] - u'0') * 10 + (p[1] - u'0')) * 100 + (p[2] - u'0') * 10 + (p[3] - u'0');
+}
+
+} // namespace
+
+qint64 digitsNumber(QStringView digits)
+{
+    const char16_t *p = reinterpret_cast<const char16_t *>(digits.data());
+    const qsizetype size = digits.size();
+    const qsizetype lead = size % 4;
+    qint64 value = 0;
+    for (qsizetype i = 0; i < lead; ++i)
+        value = value * 10 + (p[i] - u'0');
+    // Four digits a step: the same sum with a quarter of the dependent steps.
+    for (qsizetype i = lead; i < size; i += 4)
+        value = value * 10000 + fourDigits(p + i);
+    return value;
+}
+
 double digitsValue(QStringView digits)
 {
     // Whole numbers of up to fifteen digits are exact either way; the integer

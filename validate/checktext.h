@@ -39,27 +39,9 @@ bool isAsciiDigits(QStringView text);
 // value, 0 for an empty text. Exact for up to fifteen digits.
 double digitsValue(QStringView digits);
 
-// The value of four plain digits, worked out apart from a running sum.
-inline qint64 fourDigitsValue(const char16_t *p)
-{
-    return ((p[0] - u'0') * 10 + (p[1] - u'0')) * 100 + (p[2] - u'0') * 10 + (p[3] - u'0');
-}
-
 // The value of a text of at most fifteen plain digits as a whole number: the
 // same number digitsValue gives, as an integer.
-inline qint64 digitsNumber(QStringView digits)
-{
-    const char16_t *p = reinterpret_cast<const char16_t *>(digits.data());
-    const qsizetype size = digits.size();
-    const qsizetype lead = size % 4;
-    qint64 value = 0;
-    for (qsizetype i = 0; i < lead; ++i)
-        value = value * 10 + (p[i] - u'0');
-    // Four digits a step: the same sum with a quarter of the dependent steps.
-    for (qsizetype i = lead; i < size; i += 4)
-        value = value * 10000 + fourDigitsValue(p + i);
-    return value;
-}
+qint64 digitsNumber(QStringView digits);
 
 // value - Int(value / 97) * 97, in double precision as the checks compute it.
 inline double remainder97(double value)
