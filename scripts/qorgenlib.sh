@@ -9,7 +9,11 @@ cd "$(dirname "$0")/.."
 
 job="${1:-main}"
 packages=(cmake ninja-build g++ qt6-base-dev qt6-multimedia-dev libgl-dev pkg-config dpkg-dev file clang libclang-rt-14-dev
-          fonts-dejavu-core pulseaudio)
+          fonts-dejavu-core pulseaudio ccache
+          libqrencode-dev zbar-tools                                  # payment QR codes and their decoder
+          python3-dev pybind11-dev python3-pytest python3-stdnum      # the Python module and its peer
+          default-jre-headless libsaxonhe-java                        # the official e-invoice rules
+          xvfb openbox xdotool doxygen)
 
 missing=()
 for package in "${packages[@]}"; do
@@ -23,6 +27,16 @@ fi
 if ((${#missing[@]})); then
   echo "Installing ${missing[*]}"
   DEBIAN_FRONTEND=noninteractive apt-get install -y -qq --no-install-recommends "${missing[@]}" >/dev/null
+fi
+
+# Objects already compiled on this machine are taken from ccache when it is
+# there: paths are made relative to the checkout's parent folder, so that a
+# fresh clone elsewhere hits the same entries.
+if command -v ccache >/dev/null; then
+  export CMAKE_CXX_COMPILER_LAUNCHER=ccache CMAKE_C_COMPILER_LAUNCHER=ccache
+  export CCACHE_BASEDIR="$(cd .. && pwd)" CCACHE_NOHASHDIR=true
+  export CCACHE_SLOPPINESS=include_file_mtime,include_file_ctime,time_macros
+  export CCACHE_MAXSIZE=${CCACHE_MAXSIZE:-20G}
 fi
 
 build() {
