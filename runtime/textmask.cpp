@@ -1,5 +1,4 @@
 #include "runtime/textmask.h"
-#include "runtime/textstorage.h"
 
 #include "runtime/patternliteral.h"
 
@@ -71,7 +70,8 @@ void TextMask::applyExact(QStringView text, QString &out) const
             0, std::min(slotCount, text.size() - offset) - std::max<qsizetype>(0, -offset));
         size = size - slotCount + filled;
     }
-    char16_t *write = sizedForWriting(out, size);
+    out.resize(size); // keeps the buffer when it is not shared and large enough
+    char16_t *write = reinterpret_cast<char16_t *>(out.data());
     char16_t *const start = write;
     const char16_t *source = reinterpret_cast<const char16_t *>(text.data());
     qsizetype slot = 0;
@@ -99,7 +99,8 @@ void TextMask::applyExact(QStringView text, QString &out) const
 // the literals as they stand, each placeholder taking the next character.
 void TextMask::fillSlots(QStringView text, QString &out) const
 {
-    char16_t *write = sizedForWriting(out, m_literalsAndSlots.size());
+    out.resize(m_literalsAndSlots.size());
+    char16_t *write = reinterpret_cast<char16_t *>(out.data());
     std::copy_n(reinterpret_cast<const char16_t *>(m_literalsAndSlots.constData()),
         m_literalsAndSlots.size(), write);
     const char16_t *source = reinterpret_cast<const char16_t *>(text.data());

@@ -1,6 +1,5 @@
 #pragma once
 
-#include "runtime/textstorage.h"
 #include "validate/checkresult.h"
 
 #include <QString>
@@ -72,7 +71,7 @@ inline bool isText(QStringView text, QLatin1StringView expected)
 // checks empty it only on the way out, as an accepted number overwrites it anyway.
 inline Verdict nothingShown(QString &display, Verdict verdict)
 {
-    setLength(display, 0);
+    display.resize(0);
     return verdict;
 }
 

@@ -15,7 +15,8 @@ constexpr qsizetype referenceDigits = 10;
 // Twelve digits in the form 000/0000/00000.
 void writeOgmNotation(const char16_t *twelveDigits, QString &out)
 {
-    char16_t *write = sizedForWriting(out, 14);
+    out.resize(14);
+    char16_t *write = reinterpret_cast<char16_t *>(out.data());
     write = std::copy(twelveDigits, twelveDigits + 3, write);
     *write++ = u'/';
     write = std::copy(twelveDigits + 3, twelveDigits + 7, write);
@@ -53,7 +54,8 @@ bool isDigit(QChar c)
 void copyDigits(QStringView text, QString &digits)
 {
     const qsizetype count = std::count_if(text.begin(), text.end(), isDigit);
-    char16_t *write = sizedForWriting(digits, count);
+    digits.resize(count);
+    char16_t *write = reinterpret_cast<char16_t *>(digits.data());
     for (QChar c : text) {
         if (isDigit(c))
             *write++ = c.unicode();
