@@ -30,12 +30,14 @@ function(qor_stage_headers stage)
   endforeach()
 endfunction()
 
-# qor_layer(name DIRS folder... [DEPENDS layer...] [LIBS library...])
+# qor_layer(name DIRS folder... [DEPENDS layer...] [USES layer...] [LIBS library...])
 # One link per header, so that a sub-folder (platform/qt) is not seen by the
-# folder above it. QOR_LAYER_EXPORTS names the define that marks the layer's
-# code as part of the library that exports it.
+# folder above it. What a layer DEPENDS on is seen by the layers that name it
+# in turn (the inner layers); what it USES is seen by the layer alone (its
+# siblings). QOR_LAYER_EXPORTS names the define that marks the layer's code as
+# part of the library that exports it.
 function(qor_layer name)
-  cmake_parse_arguments(L "" "" "DIRS;DEPENDS;LIBS" ${ARGN})
+  cmake_parse_arguments(L "" "" "DIRS;DEPENDS;USES;LIBS" ${ARGN})
   set(L_EXPORTS ${QOR_LAYER_EXPORTS})
   set(stage ${PROJECT_BINARY_DIR}/layers/${name})
   qor_stage_headers(${stage} ${L_DIRS})
@@ -43,6 +45,7 @@ function(qor_layer name)
   if(sources)
     add_library(${name} OBJECT ${sources})
     set(scope PUBLIC)
+    set(own_scope PRIVATE)
     if(L_EXPORTS)
       target_compile_definitions(${name} PRIVATE ${L_EXPORTS})
     endif()
@@ -50,10 +53,26 @@ function(qor_layer name)
     # A subsystem whose folder is still empty only passes its path on.
     add_library(${name} INTERFACE)
     set(scope INTERFACE)
+    set(own_scope INTERFACE)
   endif()
   target_include_directories(${name} ${scope} $<BUILD_INTERFACE:${stage}>
                              $<BUILD_INTERFACE:${QOR_GENERATED_DIR}>)
   target_link_libraries(${name} ${scope} ${L_DEPENDS} ${L_LIBS})
+  if(L_USES)
+    target_link_libraries(${name} ${own_scope} ${L_USES})
+  endif()
+endfunction()
+
+# qor_subsystem(folder [USES sibling...])
+# A subsystem: the layer qor_<folder>, which sees the frame services and the
+# sibling subsystems it names, and no other. The subsystems and what each may
+# use are kept for the façade, the libraries and the layer test.
+function(qor_subsystem folder)
+  cmake_parse_arguments(S "" "" "USES" ${ARGN})
+  list(TRANSFORM S_USES PREPEND qor_ OUTPUT_VARIABLE uses)
+  qor_layer(qor_${folder} DIRS ${folder} DEPENDS qor_frame USES ${uses})
+  set_property(GLOBAL APPEND PROPERTY QOR_SUBSYSTEMS ${folder})
+  set_property(GLOBAL PROPERTY QOR_SUBSYSTEM_USES_${folder} ${S_USES})
 endfunction()
 
 # qor_library(name EXPORT_NAME n LAYERS layer... [DEPENDS library...] [LIBS library...])
