@@ -312,6 +312,7 @@ QJsonObject invoiceToJson(const Invoice &invoice)
     out.text("receivingAdviceReference", invoice.receivingAdviceReference);
     out.text("despatchAdviceReference", invoice.despatchAdviceReference);
     out.text("tenderReference", invoice.tenderReference);
+    out.object("invoicedObject", identifierJson(invoice.invoicedObject));
     out.text("paymentTerms", invoice.paymentTerms);
     out.texts("notes", invoice.notes);
     QJsonArray preceding;
@@ -351,6 +352,18 @@ QJsonObject invoiceToJson(const Invoice &invoice)
     for (const InvoiceLine &line : invoice.lines)
         lines.append(lineJson(line));
     out.array("lines", lines);
+    QJsonArray documents;
+    for (const SupportingDocument &document : invoice.supportingDocuments) {
+        JsonOut d;
+        d.text("id", document.id);
+        d.text("description", document.description);
+        d.text("externalUri", document.externalUri);
+        d.text("attachmentBase64", document.attachmentBase64);
+        d.text("attachmentMimeCode", document.attachmentMimeCode);
+        d.text("attachmentFilename", document.attachmentFilename);
+        documents.append(d.json());
+    }
+    out.array("supportingDocuments", documents);
     QJsonArray exemptions;
     for (const VatExemption &exemption : invoice.vatExemptions) {
         JsonOut e;
@@ -390,6 +403,7 @@ InvoiceFromJson invoiceFromJson(const QJsonObject &json)
     f.text("receivingAdviceReference", invoice.receivingAdviceReference);
     f.text("despatchAdviceReference", invoice.despatchAdviceReference);
     f.text("tenderReference", invoice.tenderReference);
+    f.object("invoicedObject", [&](JsonFields &g) { readIdentifier(g, invoice.invoicedObject); });
     f.text("paymentTerms", invoice.paymentTerms);
     f.texts("notes", invoice.notes);
     f.objects("precedingInvoices", [&](JsonFields &g) {
@@ -421,6 +435,15 @@ InvoiceFromJson invoiceFromJson(const QJsonObject &json)
     });
     readAllowanceCharges(f, invoice.allowanceCharges);
     f.objects("lines", [&](JsonFields &g) { readLine(g, invoice.lines.emplace_back()); });
+    f.objects("supportingDocuments", [&](JsonFields &g) {
+        SupportingDocument &document = invoice.supportingDocuments.emplace_back();
+        g.text("id", document.id);
+        g.text("description", document.description);
+        g.text("externalUri", document.externalUri);
+        g.text("attachmentBase64", document.attachmentBase64);
+        g.text("attachmentMimeCode", document.attachmentMimeCode);
+        g.text("attachmentFilename", document.attachmentFilename);
+    });
     f.objects("vatExemptions", [&](JsonFields &g) {
         VatExemption &exemption = invoice.vatExemptions.emplace_back();
         g.text("category", exemption.category);
