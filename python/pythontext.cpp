@@ -1,0 +1,65 @@
+#include "python/pythontext.h"
+
+#include <algorithm>
+#include <vector>
+
+namespace qor::python {
+
+std::optional<QString> textOf(pybind11::handle object)
+{
+    if (!PyUnicode_Check(object.ptr()))
+        return std::nullopt;
+    PyObject *text = object.ptr();
+    const Py_ssize_t length = PyUnicode_GET_LENGTH(text);
+    const void *data = PyUnicode_DATA(text);
+    switch (PyUnicode_KIND(text)) {
+    case PyUnicode_1BYTE_KIND: return QString::fromLatin1(static_cast<const char *>(data), length);
+    case PyUnicode_2BYTE_KIND: return QString(reinterpret_cast<const QChar *>(data), length);
+    default: {
+        // Code points beyond the first plane take a surrogate pair each.
+        const auto *points = static_cast<const Py_UCS4 *>(data);
+        QString out;
+        out.reserve(length + length / 2);
+        for (Py_ssize_t i = 0; i < length; ++i) {
+            if (QChar::requiresSurrogates(points[i])) {
+                out.append(QChar(QChar::highSurrogate(points[i])));
+                out.append(QChar(QChar::lowSurrogate(points[i])));
+            } else {
+                out.append(QChar(char16_t(points[i])));
+            }
+        }
+        return out;
+    }
+    }
+}
+
+pybind11::str pythonText(const QString &text)
+{
+    const bool latin1
+        = std::all_of(text.begin(), text.end(), [](QChar c) { return c.unicode() < 0x100; });
+    if (latin1) {
+        const QByteArray bytes = text.toLatin1();
+        PyObject *made = PyUnicode_DecodeLatin1(bytes.constData(), bytes.size(), nullptr);
+        if (!made)
+            throw pybind11::error_already_set();
+        return pybind11::reinterpret_steal<pybind11::str>(made);
+    }
+    std::vector<Py_UCS4> points;
+    points.reserve(size_t(text.size()));
+    for (qsizetype i = 0; i < text.size(); ++i) {
+        const QChar c = text[i];
+        if (c.isHighSurrogate() && i + 1 < text.size() && text[i + 1].isLowSurrogate()) {
+            points.push_back(QChar::surrogateToUcs4(c, text[i + 1]));
+            ++i;
+        } else {
+            points.push_back(c.unicode());
+        }
+    }
+    PyObject *made
+        = PyUnicode_FromKindAndData(PyUnicode_4BYTE_KIND, points.data(), Py_ssize_t(points.size()));
+    if (!made)
+        throw pybind11::error_already_set();
+    return pybind11::reinterpret_steal<pybind11::str>(made);
+}
+
+} // namespace qor::python
