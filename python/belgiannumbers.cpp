@@ -1,6 +1,7 @@
 #include "python/belgiannumbers.h"
 
 #include "platform/platform.h"
+#include "validate/checktext.h"
 #include "validate/nationalnumber.h"
 #include "validate/paymentreference.h"
 #include "validate/vatnumber.h"
@@ -40,9 +41,14 @@ Fault checkVat(const QString &compacted)
 {
     if (const Fault fault = digitsFault(compacted, vatDigits); fault != Fault::None)
         return fault;
-    QString vat = compacted;
-    QString landCode = QStringLiteral("BE");
-    return checkVatNumber(vat, landCode).refused ? Fault::Checksum : Fault::None;
+    // Storage kept from check to check, as a host's variables are.
+    thread_local QString vat;
+    thread_local QString landCode;
+    thread_local QString display;
+    assignText(vat, compacted);
+    assignText(landCode, u"BE");
+    const Verdict verdict = checkVatNumber(vat, landCode, display);
+    return verdict == Verdict::Refused ? Fault::Checksum : Fault::None;
 }
 
 QString formatVat(const QString &compacted)
@@ -58,14 +64,14 @@ QString compactNationalNumber(QStringView number)
 // The check digits of a birth before 2000 (no 2 in front of the nine digits).
 bool hasCheckBefore2000(const QString &compacted)
 {
-    const qint64 firstPart = compacted.left(9).toLongLong();
-    return compacted.right(2).toLongLong() == 97 - firstPart % 97;
+    const qint64 firstPart = digitsNumber(leftPart(compacted, 9));
+    return digitsNumber(rightPart(compacted, 2)) == 97 - firstPart % 97;
 }
 
 // A number made with the check from 2000 on must be of a year that has begun.
 bool bornInAPastYear(const QString &compacted)
 {
-    const int year = 2000 + compacted.left(2).toInt();
+    const qint64 year = 2000 + digitsNumber(leftPart(compacted, 2));
     return year <= platform().now().date().year();
 }
 
@@ -73,8 +79,10 @@ Fault checkNationalNumber(const QString &compacted)
 {
     if (const Fault fault = digitsFault(compacted, nationalNumberDigits); fault != Fault::None)
         return fault;
-    QString number = compacted;
-    if (qor::checkNationalNumber(number).refused)
+    thread_local QString number;
+    thread_local QString display;
+    assignText(number, compacted);
+    if (qor::checkNationalNumber(number, QString(), display) == Verdict::Refused)
         return Fault::Checksum;
     if (!hasCheckBefore2000(compacted) && !bornInAPastYear(compacted))
         return Fault::Checksum;

@@ -3,7 +3,11 @@
 
 #include "python/belgiannumbers.h"
 #include "python/numberfunctions.h"
+#include "python/paymentnumbers.h"
+#include "python/pythontext.h"
 #include "python/sessionobject.h"
+
+#include "payments/belgianbanks.h"
 
 #include <pybind11/pybind11.h>
 
@@ -15,6 +19,41 @@ namespace {
 py::bytes bytesOf(const QByteArray &data)
 {
     return py::bytes(data.constData(), size_t(data.size()));
+}
+
+QString requireText(py::handle number)
+{
+    std::optional<QString> text = textOf(number);
+    if (!text)
+        throw py::type_error("a number is given as a str");
+    return *text;
+}
+
+// info and to_bic: the bank of the bank code of a Belgian IBAN.
+void addBankLookup(py::module_ &module)
+{
+    module.def(
+        "info",
+        [](py::handle number) {
+            py::dict info;
+            if (const auto bank = bankOfBelgianAccount(requireText(number))) {
+                info["bic"] = bank->bic.isEmpty() ? py::object(py::none()) : pythonText(bank->bic);
+                info["bank"] = pythonText(bank->name);
+            }
+            return info;
+        },
+        py::arg("number"),
+        "The bank of a Belgian IBAN's bank code: {'bic': ... or None, 'bank': ...}, or {} when "
+        "the code is not in the National Bank's list. The check digits are not checked.");
+    module.def(
+        "to_bic",
+        [](py::handle number) -> py::object {
+            const auto bank = bankOfBelgianAccount(requireText(number));
+            if (!bank || bank->bic.isEmpty())
+                return py::none();
+            return pythonText(bank->bic);
+        },
+        py::arg("number"), "The BIC of a Belgian IBAN's bank, or None.");
 }
 
 void addSession(py::module_ &module)
@@ -55,5 +94,12 @@ PYBIND11_MODULE(_core, module)
     addNumberFunctions(nn, nationalNumber);
     py::module_ ogm = be.def_submodule("ogm", "Belgian structured payment references.");
     addNumberFunctions(ogm, structuredReference);
+    py::module_ beIban = be.def_submodule("iban", "Belgian IBANs and their banks.");
+    addNumberFunctions(beIban, belgianAccount);
+    addBankLookup(beIban);
+    py::module_ iban = module.def_submodule("iban", "International bank account numbers.");
+    addNumberFunctions(iban, internationalAccount);
+    py::module_ iso11649 = module.def_submodule("iso11649", "ISO 11649 creditor references.");
+    addNumberFunctions(iso11649, creditorReference);
     addSession(module);
 }

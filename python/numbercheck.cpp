@@ -1,5 +1,7 @@
 #include "python/numbercheck.h"
 
+#include <algorithm>
+
 namespace qor::python {
 
 namespace {
@@ -34,7 +36,7 @@ QString cleanNumber(QStringView number, QStringView removed)
     clean.reserve(number.size());
     for (QChar c : number) {
         const char16_t plain = plainCharacter(c.unicode());
-        if (!removed.contains(QChar(plain)))
+        if (std::find(removed.begin(), removed.end(), QChar(plain)) == removed.end())
             clean.append(QChar(plain));
     }
     qsizetype first = 0;

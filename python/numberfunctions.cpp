@@ -72,6 +72,39 @@ Fault faultOf(const NumberKind &kind, const QString &text, QString &compact)
     });
 }
 
+constexpr const char *kindCapsule = "qorgenlib.NumberKind";
+
+// is_valid runs in loops over many numbers, so it is a plain function of the
+// interpreter that takes its one argument as it comes, without pybind11's
+// handling of arguments; the capsule it is bound to holds its kind of number.
+PyObject *isValid(PyObject *capsule, PyObject *number)
+{
+    const auto *kind = static_cast<const NumberKind *>(PyCapsule_GetPointer(capsule, kindCapsule));
+    thread_local QString text; // keeps its buffer from number to number
+    try {
+        if (!kind || !readText(number, text))
+            Py_RETURN_FALSE;
+        QString compact;
+        if (faultOf(*kind, text, compact) == Fault::None)
+            Py_RETURN_TRUE;
+        Py_RETURN_FALSE;
+    } catch (const std::bad_alloc &) {
+        return PyErr_NoMemory();
+    }
+}
+
+PyMethodDef isValidDefinition { "is_valid", isValid, METH_O,
+    "is_valid(number)\n\nTrue when the number is valid; never raises." };
+
+void addIsValid(py::module_ &module, const NumberKind &kind)
+{
+    py::capsule capsule(static_cast<const void *>(&kind), kindCapsule);
+    PyObject *function = PyCFunction_NewEx(&isValidDefinition, capsule.ptr(), nullptr);
+    if (!function)
+        throw py::error_already_set();
+    module.attr("is_valid") = py::reinterpret_steal<py::object>(function);
+}
+
 } // namespace
 
 void addValidationErrors(py::module_ &module)
@@ -131,14 +164,7 @@ void addNumberFunctions(py::module_ &module, const NumberKind &kind)
         },
         py::arg("number"),
         "The compact number when it is valid; otherwise raises the ValidationError that says why.");
-    module.def(
-        "is_valid",
-        [&kind](py::handle number) {
-            const std::optional<QString> text = textOf(number);
-            QString compact;
-            return text && faultOf(kind, *text, compact) == Fault::None;
-        },
-        py::arg("number"), "True when the number is valid; never raises.");
+    addIsValid(module, kind);
     module.def(
         "format",
         [&kind](py::handle number) {

@@ -5,32 +5,49 @@
 
 namespace qor::python {
 
-std::optional<QString> textOf(pybind11::handle object)
+bool readText(PyObject *object, QString &storage)
 {
-    if (!PyUnicode_Check(object.ptr()))
-        return std::nullopt;
-    PyObject *text = object.ptr();
-    const Py_ssize_t length = PyUnicode_GET_LENGTH(text);
-    const void *data = PyUnicode_DATA(text);
-    switch (PyUnicode_KIND(text)) {
-    case PyUnicode_1BYTE_KIND: return QString::fromLatin1(static_cast<const char *>(data), length);
-    case PyUnicode_2BYTE_KIND: return QString(reinterpret_cast<const QChar *>(data), length);
+    if (!PyUnicode_Check(object))
+        return false;
+    const Py_ssize_t length = PyUnicode_GET_LENGTH(object);
+    const void *data = PyUnicode_DATA(object);
+    switch (PyUnicode_KIND(object)) {
+    case PyUnicode_1BYTE_KIND: {
+        // Resizing keeps the storage's buffer when it is large enough.
+        storage.resize(length);
+        const auto *bytes = static_cast<const unsigned char *>(data);
+        char16_t *write = reinterpret_cast<char16_t *>(storage.data());
+        for (Py_ssize_t i = 0; i < length; ++i)
+            write[i] = bytes[i];
+        return true;
+    }
+    case PyUnicode_2BYTE_KIND:
+        storage = QString(reinterpret_cast<const QChar *>(data), length);
+        return true;
     default: {
         // Code points beyond the first plane take a surrogate pair each.
         const auto *points = static_cast<const Py_UCS4 *>(data);
-        QString out;
-        out.reserve(length + length / 2);
+        storage.clear();
+        storage.reserve(length + length / 2);
         for (Py_ssize_t i = 0; i < length; ++i) {
             if (QChar::requiresSurrogates(points[i])) {
-                out.append(QChar(QChar::highSurrogate(points[i])));
-                out.append(QChar(QChar::lowSurrogate(points[i])));
+                storage.append(QChar(QChar::highSurrogate(points[i])));
+                storage.append(QChar(QChar::lowSurrogate(points[i])));
             } else {
-                out.append(QChar(char16_t(points[i])));
+                storage.append(QChar(char16_t(points[i])));
             }
         }
-        return out;
+        return true;
     }
     }
+}
+
+std::optional<QString> textOf(pybind11::handle object)
+{
+    QString text;
+    if (!readText(object.ptr(), text))
+        return std::nullopt;
+    return text;
 }
 
 pybind11::str pythonText(const QString &text)

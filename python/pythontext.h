@@ -11,6 +11,9 @@ namespace qor::python {
 // The text of a Python str as UTF-16, lone surrogates kept as they stand;
 // nothing for any other object.
 std::optional<QString> textOf(pybind11::handle object);
+// The same into storage the caller keeps from call to call; false, and the
+// storage untouched, for any other object.
+bool readText(PyObject *object, QString &storage);
 
 // A Python str of the UTF-16 text; a lone surrogate becomes that code point.
 pybind11::str pythonText(const QString &text);

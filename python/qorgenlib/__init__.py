@@ -16,14 +16,16 @@ import sys
 
 from . import _core
 from ._core import (InvalidChecksum, InvalidComponent, InvalidFormat, InvalidLength,
-                    ValidationError, be)
+                    ValidationError, be, iban, iso11649)
 
 __all__ = ["GenLib", "Ref", "Empty", "Missing", "RuntimeError", "ValidationError",
-           "InvalidLength", "InvalidFormat", "InvalidChecksum", "InvalidComponent", "be"]
+           "InvalidLength", "InvalidFormat", "InvalidChecksum", "InvalidComponent", "be", "iban",
+           "iso11649"]
 
 # `import qorgenlib.be.vat` and `from qorgenlib.be import vat` both work.
-for _module in (be, be.vat, be.nn, be.ogm):
-    sys.modules["qorgenlib." + _module.__name__.split("._core.", 1)[-1]] = _module
+for _module in (be, be.vat, be.nn, be.ogm, be.iban, iban, iso11649):
+    _module.__name__ = "qorgenlib." + _module.__name__.split("._core.", 1)[-1]
+    sys.modules[_module.__name__] = _module
 
 
 class RuntimeError(builtins.RuntimeError):
