@@ -41,20 +41,22 @@ std::optional<BelgianBank> bankOfCompactAccount(const QString &iban)
 // expect of these checks.
 Fault withKnownBank(Fault fault, const QString &compacted)
 {
-    if (fault == Fault::None && compacted.startsWith(QLatin1String("BE"))
-        && !bankOfCompactAccount(compacted))
+    if (fault == Fault::None && !bankOfCompactAccount(compacted))
         return Fault::Component;
     return fault;
-}
-
-Fault checkIban(const QString &compacted)
-{
-    return withKnownBank(faultOf(ibanValidity(compacted)), compacted);
 }
 
 Fault checkBelgianIban(const QString &compacted)
 {
     return withKnownBank(faultOf(belgianIbanValidity(compacted)), compacted);
+}
+
+// A Belgian IBAN is checked as Belgian: its account digits have their own check.
+Fault checkIban(const QString &compacted)
+{
+    if (compacted.startsWith(QLatin1String("BE")))
+        return checkBelgianIban(compacted);
+    return faultOf(ibanValidity(compacted));
 }
 
 QString formatIban(const QString &compacted)

@@ -4,6 +4,8 @@ import threading
 import pytest
 
 import qorgenlib
+from qorgenlib import iban, iso11649
+from qorgenlib.be import iban as beiban
 from qorgenlib.be import nn, ogm, vat
 
 OK = None  # the verdict of a valid number
@@ -41,6 +43,13 @@ VERDICTS = [
     (ogm, "999/9999/99990", qorgenlib.InvalidChecksum),  # beyond 32 bits: no Overflow here
     (ogm, "090/9337/5549", qorgenlib.InvalidLength),
     (ogm, "090/9337/5549a", qorgenlib.InvalidFormat),
+    (iban, "NL91 ABNA 0417 1643 00", OK),
+    (iban, "BE98 0961 2345 6768", qorgenlib.InvalidChecksum),  # the account's own check
+    (iban, "BE68 5390 0754 7034", qorgenlib.InvalidComponent),  # no bank has code 539
+    (beiban, "NL91ABNA0417164300", qorgenlib.InvalidComponent),
+    (beiban, "be71 0961 2345 6769", OK),
+    (iso11649, "RF18 5390 0754 7034", OK),
+    (iso11649, "RF18 5390 0754 7035", qorgenlib.InvalidChecksum),
 ]
 
 
@@ -59,6 +68,8 @@ FORMS = [
     (nn, "850730 033 28", "85073003328", "85.07.30-033.28"),
     (nn, "be85/07/30", "be85/07/30", "be.85./0-7/3.0"),     # nn keeps letters and slashes
     (ogm, "+++090/9337/55493+++", "090933755493", "+++090/9337/55493+++"),
+    (iban, " be71-0961.2345 6769\t", "BE71096123456769", "BE71 0961 2345 6769"),
+    (iso11649, "rf18:5390,0754/7034", "RF18539007547034", "RF18 5390 0754 7034"),
 ]
 
 
@@ -73,7 +84,8 @@ BAD_VALUES = [None, b"0403170701", 403170701, 4.0, ["0403170701"], object()]
 
 
 @pytest.mark.parametrize("value", BAD_VALUES, ids=[type(v).__name__ for v in BAD_VALUES])
-@pytest.mark.parametrize("module", [vat, nn, ogm], ids=["vat", "nn", "ogm"])
+@pytest.mark.parametrize("module", [vat, nn, ogm, iban, beiban, iso11649],
+                         ids=["vat", "nn", "ogm", "iban", "be.iban", "iso11649"])
 def test_value_that_is_no_text(module, value):
     assert module.is_valid(value) is False
     with pytest.raises(qorgenlib.InvalidFormat):
@@ -97,6 +109,25 @@ ODD_TEXTS = {
 def test_odd_text_is_judged_not_crashed(text, valid):
     assert vat.is_valid(text) is valid
     assert vat.compact(text)[:4] == text[:4]
+
+
+BANKS = {
+    # IBAN as typed: info
+    "known bank, check digits wrong": ("BE71 0961 2345 6768", {"bic": "GKCCBEBB"}),
+    "bank without a BIC of its own": ("BE00 9070 0000 0000", {"bic": None}),
+    "code no bank has": ("BE68 5390 0754 7034", {}),
+    "another country": ("NL91ABNA0417164300", {}),
+    "too short for a code": ("BE7", {}),
+}
+
+
+@pytest.mark.parametrize("number,info", BANKS.values(), ids=BANKS.keys())
+def test_bank_of_a_belgian_account(number, info):
+    found = beiban.info(number)
+    assert {key: found[key] for key in info} == info and bool(found) == bool(info)
+    assert beiban.to_bic(number) == info.get("bic")
+    if found:
+        assert found["bank"]
 
 
 def test_exceptions_are_value_errors_shared_by_every_module():
