@@ -32,21 +32,21 @@ bool isStrippedSpace(char16_t c)
 
 QString cleanNumber(QStringView number, QStringView removed)
 {
-    QString clean;
-    clean.reserve(number.size());
+    QString clean(number.size(), Qt::Uninitialized);
+    char16_t *const out = reinterpret_cast<char16_t *>(clean.data());
+    qsizetype kept = 0;
     for (QChar c : number) {
         const char16_t plain = plainCharacter(c.unicode());
         if (std::find(removed.begin(), removed.end(), QChar(plain)) == removed.end())
-            clean.append(QChar(plain));
+            out[kept++] = plain;
     }
     qsizetype first = 0;
-    qsizetype last = clean.size();
-    while (first < last && isStrippedSpace(clean[first].unicode()))
+    while (first < kept && isStrippedSpace(out[first]))
         ++first;
-    while (last > first && isStrippedSpace(clean[last - 1].unicode()))
-        --last;
-    if (first > 0 || last < clean.size())
-        return clean.mid(first, last - first);
+    while (kept > first && isStrippedSpace(out[kept - 1]))
+        --kept;
+    std::copy(out + first, out + kept, out);
+    clean.truncate(kept - first);
     return clean;
 }
 

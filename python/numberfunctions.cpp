@@ -72,14 +72,12 @@ Fault faultOf(const NumberKind &kind, const QString &text, QString &compact)
     });
 }
 
-constexpr const char *kindCapsule = "qorgenlib.NumberKind";
-
 // is_valid runs in loops over many numbers, so it is a plain function of the
 // interpreter that takes its one argument as it comes, without pybind11's
 // handling of arguments; the capsule it is bound to holds its kind of number.
 PyObject *isValid(PyObject *capsule, PyObject *number)
 {
-    const auto *kind = static_cast<const NumberKind *>(PyCapsule_GetPointer(capsule, kindCapsule));
+    const auto *kind = static_cast<const NumberKind *>(PyCapsule_GetPointer(capsule, nullptr));
     thread_local QString text; // keeps its buffer from number to number
     try {
         if (!kind || !readText(number, text))
@@ -98,7 +96,7 @@ PyMethodDef isValidDefinition { "is_valid", isValid, METH_O,
 
 void addIsValid(py::module_ &module, const NumberKind &kind)
 {
-    py::capsule capsule(static_cast<const void *>(&kind), kindCapsule);
+    py::capsule capsule(static_cast<const void *>(&kind));
     PyObject *function = PyCFunction_NewEx(&isValidDefinition, capsule.ptr(), nullptr);
     if (!function)
         throw py::error_already_set();
