@@ -2,6 +2,7 @@
 // the shape Python programs know, and the bridge's session behind GenLib.
 
 #include "python/belgiannumbers.h"
+#include "python/einvoicedocument.h"
 #include "python/numberfunctions.h"
 #include "python/paymentnumbers.h"
 #include "python/pythontext.h"
@@ -56,6 +57,27 @@ void addBankLookup(py::module_ &module)
         py::arg("number"), "The BIC of a Belgian IBAN's bank, or None.");
 }
 
+void addInvoiceWriting(py::module_ &module)
+{
+    module.def(
+        "einvoice_ubl",
+        [](py::bytes json) {
+            const std::string_view text(json);
+            UblDocument made;
+            {
+                py::gil_scoped_release release;
+                made = ublFromJson(QByteArray(text.data(), qsizetype(text.size())));
+            }
+            py::list errors;
+            for (const QString &error : made.errors)
+                errors.append(pythonText(error));
+            return py::make_tuple(bytesOf(made.document), errors);
+        },
+        py::arg("json"),
+        "(UBL document, []) of an invoice as UTF-8 JSON, or (b'', messages) naming the "
+        "members that cannot be taken.");
+}
+
 void addSession(py::module_ &module)
 {
     py::class_<SessionObject>(module, "Session",
@@ -101,5 +123,6 @@ PYBIND11_MODULE(_core, module)
     addNumberFunctions(iban, internationalAccount);
     py::module_ iso11649 = module.def_submodule("iso11649", "ISO 11649 creditor references.");
     addNumberFunctions(iso11649, creditorReference);
+    addInvoiceWriting(module);
     addSession(module);
 }

@@ -14,13 +14,13 @@ import datetime
 import json
 import sys
 
-from . import _core
+from . import _core, einvoice
 from ._core import (InvalidChecksum, InvalidComponent, InvalidFormat, InvalidLength,
                     ValidationError, be, iban, iso11649)
 
 __all__ = ["GenLib", "Ref", "Empty", "Missing", "RuntimeError", "ValidationError",
            "InvalidLength", "InvalidFormat", "InvalidChecksum", "InvalidComponent", "be", "iban",
-           "iso11649"]
+           "iso11649", "einvoice"]
 
 # `import qorgenlib.be.vat` and `from qorgenlib.be import vat` both work.
 for _module in (be, be.vat, be.nn, be.ogm, be.iban, iban, iso11649):

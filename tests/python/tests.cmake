@@ -5,5 +5,5 @@ if(QORGENLIB_BUILD_PYTHON)
            COMMAND ${Python3_EXECUTABLE} -m pytest -q -p no:cacheprovider
                    ${PROJECT_SOURCE_DIR}/python/tests)
   set_tests_properties(python_pytest PROPERTIES TIMEOUT 240
-                       ENVIRONMENT "PYTHONPATH=${QOR_PYTHON_PACKAGE_DIR}")
+                       ENVIRONMENT "PYTHONPATH=${QOR_PYTHON_PACKAGE_DIR};QORGENLIB_EINVOICE_RULES=${QORGENLIB_EINVOICE_RULES}")
 endif()
