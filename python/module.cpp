@@ -22,14 +22,6 @@ py::bytes bytesOf(const QByteArray &data)
     return py::bytes(data.constData(), size_t(data.size()));
 }
 
-QString requireText(py::handle number)
-{
-    std::optional<QString> text = textOf(number);
-    if (!text)
-        throw py::type_error("a number is given as a str");
-    return *text;
-}
-
 // info and to_bic: the bank of the bank code of a Belgian IBAN.
 void addBankLookup(py::module_ &module)
 {

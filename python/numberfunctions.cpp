@@ -43,14 +43,6 @@ py::object newError(py::module_ &module, const char *name, py::handle base, cons
     throw py::error_already_set();
 }
 
-QString requireText(py::handle number)
-{
-    std::optional<QString> text = textOf(number);
-    if (!text)
-        throw py::type_error("a number is given as a str");
-    return *text;
-}
-
 template <typename Work> auto withoutInterpreterWhenLong(const QString &text, Work work)
 {
     if (text.size() < longText)

@@ -50,6 +50,14 @@ std::optional<QString> textOf(pybind11::handle object)
     return text;
 }
 
+QString requireText(pybind11::handle object)
+{
+    std::optional<QString> text = textOf(object);
+    if (!text)
+        throw pybind11::type_error("a number is given as a str");
+    return *text;
+}
+
 pybind11::str pythonText(const QString &text)
 {
     const bool latin1

@@ -15,6 +15,9 @@ std::optional<QString> textOf(pybind11::handle object);
 // storage untouched, for any other object.
 bool readText(PyObject *object, QString &storage);
 
+// The text of a Python str; TypeError for any other object.
+QString requireText(pybind11::handle object);
+
 // A Python str of the UTF-16 text; a lone surrogate becomes that code point.
 pybind11::str pythonText(const QString &text);
 

@@ -106,3 +106,25 @@ def test_objects_of_one_thread_keep_their_own_records():
     assert first.MsgBoxE("Eerste", 4) == 6
     second.GetSystemDir()
     assert first.shown[0]["prompt"] == "Eerste" and second.shown == []
+
+
+def test_threads_each_with_their_own_object_keep_apart():
+    results = {}
+
+    def work(offset):
+        lib = qorgenlib.GenLib()
+        lib.Offset = offset
+        for answer in (6, 7) * 20:
+            lib.answers = [answer]
+            shown_alone = lib.MsgBoxE("?", 4) == answer and len(lib.shown) == 1
+            if not shown_alone or lib.Offset != offset:
+                results[offset] = "mixed up"
+                return
+        results[offset] = "apart"
+
+    threads = [threading.Thread(target=work, args=(offset,)) for offset in (0, 10000, 20000)]
+    for thread in threads:
+        thread.start()
+    for thread in threads:
+        thread.join()
+    assert results == {0: "apart", 10000: "apart", 20000: "apart"}
