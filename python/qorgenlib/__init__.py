@@ -4,7 +4,7 @@
     qorgenlib.be.vat.is_valid("BE 0403.170.701")      # True
     lib = qorgenlib.GenLib()
     land = qorgenlib.Ref("")
-    lib.ControleerVAT(qorgenlib.Ref("403170701"), False, land)   # '0403.170.701'; land.value == 'BE'
+    lib.ControleerVAT(qorgenlib.Ref("0403 170 701"), False, land)   # '0403.170.701'; land.value == 'BE'
 
 See docs/python.md.
 """
@@ -177,6 +177,8 @@ class GenLib:
             if name.lower() not in names:
                 raise TypeError("%s has no parameter %s" % (method["name"], name))
             at = names.index(name.lower())
+            if at < len(args) and args[at] is not Missing:
+                raise TypeError("%s got two values for %s" % (method["name"], name))
             args.extend([Missing] * (at + 1 - len(args)))
             args[at] = value
         response, error = self._request({"call": method["name"],

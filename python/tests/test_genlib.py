@@ -69,6 +69,7 @@ BAD_CALLS = {
     "bytes for a text": (lambda lib: lib.SCase(b"abc"), TypeError),
     "lone surrogate": (lambda lib: lib.SCase("a\ud800"), ValueError),
     "unknown keyword": (lambda lib: lib.SCase(Tekst="a"), TypeError),
+    "keyword for a place given": (lambda lib: lib.SCase("a", xText="b"), TypeError),
 }
 
 
