@@ -8,3 +8,5 @@ target_compile_definitions(tst_ublreader PRIVATE QOR_EINVOICE_TEST_DATA="${dir}"
 qor_add_test(tst_ublvalidation ${dir}/tst_ublvalidation.cpp TIMEOUT 400)
 target_compile_definitions(tst_ublvalidation PRIVATE
   QOR_EINVOICE_TEST_DATA="${dir}" QOR_EINVOICE_RULES="${QORGENLIB_EINVOICE_RULES}")
+qor_add_test(tst_peppolexamples ${dir}/tst_peppolexamples.cpp TIMEOUT 400)
+target_compile_definitions(tst_peppolexamples PRIVATE QOR_EINVOICE_RULES="${QORGENLIB_EINVOICE_RULES}")
