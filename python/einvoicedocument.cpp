@@ -1,6 +1,7 @@
 #include "python/einvoicedocument.h"
 
 #include "einvoice/invoicejson.h"
+#include "einvoice/ublreader.h"
 #include "einvoice/ublwriter.h"
 
 #include <QJsonDocument>
@@ -25,6 +26,20 @@ UblDocument ublFromJson(const QByteArray &json)
     made.errors = read.errors;
     if (made.errors.isEmpty())
         made.document = einvoice::writeUbl(read.invoice);
+    return made;
+}
+
+ReadDocument jsonFromUbl(const QByteArray &document)
+{
+    const einvoice::UblReadResult read = einvoice::readUbl(document);
+    ReadDocument made;
+    made.errors = read.errors;
+    made.dropped = read.dropped;
+    for (const einvoice::AmountDifference &difference : read.differences)
+        made.differences.append({ difference.place, difference.stated, difference.computed });
+    if (read.ok())
+        made.json
+            = QJsonDocument(einvoice::invoiceToJson(read.invoice)).toJson(QJsonDocument::Compact);
     return made;
 }
 

@@ -49,6 +49,14 @@ void addBankLookup(py::module_ &module)
         py::arg("number"), "The BIC of a Belgian IBAN's bank, or None.");
 }
 
+py::list pythonTexts(const QStringList &texts)
+{
+    py::list list;
+    for (const QString &text : texts)
+        list.append(pythonText(text));
+    return list;
+}
+
 void addInvoiceWriting(py::module_ &module)
 {
     module.def(
@@ -60,14 +68,32 @@ void addInvoiceWriting(py::module_ &module)
                 py::gil_scoped_release release;
                 made = ublFromJson(QByteArray(text.data(), qsizetype(text.size())));
             }
-            py::list errors;
-            for (const QString &error : made.errors)
-                errors.append(pythonText(error));
-            return py::make_tuple(bytesOf(made.document), errors);
+            return py::make_tuple(bytesOf(made.document), pythonTexts(made.errors));
         },
         py::arg("json"),
         "(UBL document, []) of an invoice as UTF-8 JSON, or (b'', messages) naming the "
         "members that cannot be taken.");
+}
+
+void addInvoiceReading(py::module_ &module)
+{
+    module.def(
+        "einvoice_read",
+        [](py::bytes document) {
+            const std::string_view bytes(document);
+            ReadDocument made;
+            {
+                py::gil_scoped_release release;
+                made = jsonFromUbl(QByteArray(bytes.data(), qsizetype(bytes.size())));
+            }
+            py::list differences;
+            for (const QStringList &difference : made.differences)
+                differences.append(py::tuple(pythonTexts(difference)));
+            return py::make_tuple(bytesOf(made.json), pythonTexts(made.errors),
+                pythonTexts(made.dropped), differences);
+        },
+        py::arg("document"),
+        "(model as UTF-8 JSON, errors, dropped elements, amount differences) of a UBL document.");
 }
 
 void addSession(py::module_ &module)
@@ -116,5 +142,6 @@ PYBIND11_MODULE(_core, module)
     py::module_ iso11649 = module.def_submodule("iso11649", "ISO 11649 creditor references.");
     addNumberFunctions(iso11649, creditorReference);
     addInvoiceWriting(module);
+    addInvoiceReading(module);
     addSession(module);
 }

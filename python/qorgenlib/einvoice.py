@@ -1,6 +1,7 @@
 """E-invoices: the invoice model as a dict, in the JSON shape of `qorgen einvoice`.
 
     from qorgenlib import einvoice
+    invoice = einvoice.read("invoice.xml") # or the document's bytes
     document = einvoice.write(invoice)     # bytes: UBL 2.1 (Peppol BIS Billing 3.0), UTF-8
     einvoice.check(invoice)                # [] or the members that cannot be taken
 
@@ -9,10 +10,11 @@ Amounts, quantities and rates are strings ("12.50") so that no digit is lost
 """
 
 import json
+import os
 
 from . import _core
 
-__all__ = ["write", "check"]
+__all__ = ["read", "read_report", "write", "check"]
 
 
 def _ubl(invoice):
@@ -40,3 +42,29 @@ def write(invoice):
     if errors:
         raise ValueError("; ".join(errors))
     return document
+
+
+def _document_of(source):
+    if isinstance(source, (bytes, bytearray, memoryview)):
+        return bytes(source)
+    if isinstance(source, (str, os.PathLike)):
+        with open(source, "rb") as file:
+            return file.read()
+    raise TypeError("a document is bytes or a path, not a %s" % type(source).__name__)
+
+
+def read_report(source):
+    """What reading a UBL document (bytes, or the path of a file) gave:
+    {"invoice": dict, "dropped": [elements the model does not hold],
+    "differences": [(place, stated, computed), ...]}. Raises ValueError naming
+    why the document cannot be read."""
+    model, errors, dropped, differences = _core.einvoice_read(_document_of(source))
+    if errors:
+        raise ValueError("; ".join(errors))
+    return {"invoice": json.loads(model), "dropped": dropped, "differences": differences}
+
+
+def read(source):
+    """The invoice of a UBL 2.1 Invoice or CreditNote (bytes, or the path of a
+    file) as a dict. Raises ValueError naming why the document cannot be read."""
+    return read_report(source)["invoice"]

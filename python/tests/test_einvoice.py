@@ -59,3 +59,25 @@ NO_INVOICE = {
 def test_what_is_no_invoice_raises(value, error):
     with pytest.raises(error):
         einvoice.write(value)
+
+
+def test_read_document_is_written_back_the_same():
+    example = RULES / "examples" / "peppol-base-example.xml"
+    invoice = einvoice.read(example)
+    assert einvoice.read(einvoice.write(invoice)) == invoice
+    assert einvoice.read(example.read_bytes()) == invoice
+    assert einvoice.read_report(example)["differences"] == []
+
+
+NO_DOCUMENT = {
+    "None": (None, TypeError),
+    "another XML document": (b"<x/>", ValueError),
+    "a DOCTYPE": (b'<!DOCTYPE x [<!ENTITY e "e">]><Invoice/>', ValueError),
+    "no XML": (b"\xff\xfe", ValueError),
+}
+
+
+@pytest.mark.parametrize("source,error", NO_DOCUMENT.values(), ids=NO_DOCUMENT.keys())
+def test_what_is_no_document_raises(source, error):
+    with pytest.raises(error):
+        einvoice.read(source)
