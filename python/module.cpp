@@ -22,6 +22,20 @@ py::bytes bytesOf(const QByteArray &data)
     return py::bytes(data.constData(), size_t(data.size()));
 }
 
+QByteArray byteArrayOf(const py::bytes &bytes)
+{
+    const std::string_view view(bytes);
+    return QByteArray(view.data(), qsizetype(view.size()));
+}
+
+// What work makes of the bytes, worked out without holding the interpreter.
+template <typename Work> auto withoutInterpreter(const py::bytes &bytes, Work work)
+{
+    const QByteArray input = byteArrayOf(bytes);
+    py::gil_scoped_release release;
+    return work(input);
+}
+
 // info and to_bic: the bank of the bank code of a Belgian IBAN.
 void addBankLookup(py::module_ &module)
 {
@@ -62,12 +76,7 @@ void addInvoiceWriting(py::module_ &module)
     module.def(
         "einvoice_ubl",
         [](py::bytes json) {
-            const std::string_view text(json);
-            UblDocument made;
-            {
-                py::gil_scoped_release release;
-                made = ublFromJson(QByteArray(text.data(), qsizetype(text.size())));
-            }
+            const UblDocument made = withoutInterpreter(json, ublFromJson);
             return py::make_tuple(bytesOf(made.document), pythonTexts(made.errors));
         },
         py::arg("json"),
@@ -80,12 +89,7 @@ void addInvoiceReading(py::module_ &module)
     module.def(
         "einvoice_read",
         [](py::bytes document) {
-            const std::string_view bytes(document);
-            ReadDocument made;
-            {
-                py::gil_scoped_release release;
-                made = jsonFromUbl(QByteArray(bytes.data(), qsizetype(bytes.size())));
-            }
+            const ReadDocument made = withoutInterpreter(document, jsonFromUbl);
             py::list differences;
             for (const QStringList &difference : made.differences)
                 differences.append(py::tuple(pythonTexts(difference)));
@@ -108,14 +112,8 @@ void addSession(py::module_ &module)
             [](SessionObject &session, py::bytes line) {
                 if (!session.isOwnThread())
                     throw py::value_error("a GenLib serves the thread that made it");
-                const std::string_view text(line);
-                const QByteArray request(text.data(), qsizetype(text.size()));
-                QByteArray response;
-                {
-                    py::gil_scoped_release release;
-                    response = session.request(request);
-                }
-                return bytesOf(response);
+                return bytesOf(withoutInterpreter(line,
+                    [&session](const QByteArray &request) { return session.request(request); }));
             },
             py::arg("line"))
         .def_static("type_information", [] { return bytesOf(SessionObject::typeInformation()); });
