@@ -9,6 +9,9 @@ qor_public_headers(
   platform/recordingplatform.h
   runtime/regionalsettings.h runtime/runtimeerror.h runtime/variant.h runtime/propertybag.h
   grid/gridcolumnwidths.h
+  einvoice/decimal.h einvoice/party.h einvoice/vatcategory.h einvoice/allowancecharge.h
+  einvoice/invoiceline.h einvoice/payment.h einvoice/invoiceamounts.h einvoice/invoice.h
+  einvoice/invoicetotals.h einvoice/invoicejson.h einvoice/ublwriter.h einvoice/ublreader.h
   host/*.h)
 set(QOR_PACKAGE_TARGETS qorGenLib)
 if(QORGENLIB_BUILD_WIDGETS)
@@ -59,7 +62,8 @@ foreach(pc IN LISTS QOR_PC_FILES)
           COMPONENT dev)
 endforeach()
 
-# Debian packages: libqorgenlib (libraries, qorgen, the demo) and libqorgenlib-dev.
+# Debian packages: libqorgenlib (libraries, qorgen, the demo), libqorgenlib-dev and
+# python3-qorgenlib.
 set(CPACK_PACKAGE_NAME libqorgenlib)
 set(CPACK_PACKAGE_VENDOR "qorGenLib developers")
 set(CPACK_PACKAGE_CONTACT "qorGenLib developers <qorgenlib@localhost>")
@@ -78,4 +82,13 @@ set(CPACK_DEBIAN_DEV_PACKAGE_DEPENDS
     "libqorgenlib${PROJECT_VERSION_MAJOR} (= ${PROJECT_VERSION}), qt6-base-dev (>= 6.4), qt6-multimedia-dev (>= 6.4)")
 set(CPACK_COMPONENT_DEV_DEPENDS runtime)
 set(CPACK_PACKAGING_INSTALL_PREFIX /usr)
+# python3-qorgenlib: the Python package, for the interpreter it was built for.
+if(QORGENLIB_BUILD_PYTHON)
+  list(APPEND CPACK_COMPONENTS_ALL python)
+  set(CPACK_DEBIAN_PYTHON_PACKAGE_NAME python3-qorgenlib)
+  set(CPACK_DEBIAN_PYTHON_PACKAGE_SECTION python)
+  math(EXPR qor_next_python_minor "${Python3_VERSION_MINOR} + 1")
+  set(CPACK_DEBIAN_PYTHON_PACKAGE_DEPENDS
+      "python3 (>= ${Python3_VERSION_MAJOR}.${Python3_VERSION_MINOR}), python3 (<< ${Python3_VERSION_MAJOR}.${qor_next_python_minor})")
+endif()
 include(CPack)

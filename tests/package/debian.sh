@@ -20,6 +20,20 @@ grep -q 'pkgconfig/qorgenlib.pc' <<<"$dev_files" || { echo "dev lacks the pkg-co
 grep -q 'libqt6core6' <<<"$(dpkg-deb -f "$runtime" Depends)" || { echo "runtime does not depend on Qt Core"; exit 1; }
 grep -q 'qt6-base-dev' <<<"$(dpkg-deb -f "$dev" Depends)" || { echo "dev does not depend on qt6-base-dev"; exit 1; }
 
+packages=("$runtime" "$dev")
+# The Python package, when the build made it.
+if grep -q '^QORGENLIB_BUILD_PYTHON:BOOL=ON' "$build/CMakeCache.txt"; then
+  python=$(ls "$work"/python3-qorgenlib*.deb)
+  python_files=$(dpkg-deb -c "$python")
+  grep -q 'usr/lib/python3/dist-packages/qorgenlib/__init__.py' <<<"$python_files" \
+    || { echo "python lacks the package"; exit 1; }
+  grep -q 'usr/lib/python3/dist-packages/qorgenlib/_core\..*\.so' <<<"$python_files" \
+    || { echo "python lacks the compiled module"; exit 1; }
+  grep -q 'python3 (>=' <<<"$(dpkg-deb -f "$python" Depends)" \
+    || { echo "python does not depend on python3"; exit 1; }
+  packages+=("$python")
+fi
+
 # apt resolves every dependency (nothing is installed).
-apt-get install --simulate -qq "$runtime" "$dev" >/dev/null
-echo "debian: both packages check out"
+apt-get install --simulate -qq "${packages[@]}" >/dev/null
+echo "debian: the packages check out"
