@@ -160,7 +160,7 @@ private slots:
             qPrintable(description));
         const auto next = session.handleLine(R"({"call": "GetWorkArea", "props": false})");
         QCOMPARE(JsonWriter::compact(*next.response.member(u"result")),
-            QByteArray(R"({"Left":0,"Top":0,"Width":12000,"Height":9000})"));
+            QByteArray(R"({"Left":0,"Top":0,"Right":12000,"Bottom":9000,"Width":12000,"Height":9000})"));
     }
 
     void soundGoesOutOnlyWhenAskedFor()
