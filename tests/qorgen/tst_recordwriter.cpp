@@ -16,10 +16,9 @@ namespace {
 
 // Makes the platform record one kind of record, through the library where the
 // library is what produces it.
-void produce(RecordingPlatform &machine, const QString &kind)
+void produce(RecordingPlatform &machine, const QString &kind, QObject *form)
 {
     clsqorGenLib lib;
-    Form form;
     if (kind == QLatin1String("MsgBoxE"))
         lib.MsgBoxE(QStringLiteral("Doorgaan ?"), 36, QStringLiteral("Titel"));
     else if (kind == QLatin1String("InputBoxE"))
@@ -39,7 +38,7 @@ void produce(RecordingPlatform &machine, const QString &kind)
     else if (kind == QLatin1String("shutdown"))
         machine.shutDown();
     else if (kind == QLatin1String("onTop"))
-        machine.keepOnTop(&form, 0);
+        machine.keepOnTop(form, 0);
     else if (kind == QLatin1String("mousePointer"))
         machine.setMousePointer(11);
     else if (kind == QLatin1String("key"))
@@ -94,7 +93,8 @@ private slots:
         const auto previous = Platform::install(machine);
         ModGenLib::reset();
         machine->setAnswers(answers);
-        produce(*machine, kind);
+        Form form; // outlives its record
+        produce(*machine, kind, &form);
         Platform::install(previous);
 
         QStringList kinds;
