@@ -73,10 +73,7 @@ public:
     double displayValue() const;
     QString displayText() const;
     bool isClosed() const { return m_closed; }
-    bool isError() const { return m_error; }
     bool showsFrancs() const { return m_francs; }
-    // False once a VAT key added VAT in this showing.
-    bool vatKeysEnabled() const { return m_vatEnabled; }
     bool digitTyped() const { return m_digitTyped; }
 
     // Called for every refused key; the standard beep by default.

@@ -1,6 +1,7 @@
 #include "dialogs/boxes.h"
 
 #include "lib/frame/catalogue.h"
+#include "lib/frame/dialogsound.h"
 #include "lib/frame/messageboxlogic.h"
 #include "lib/frame/modgenlib.h"
 #include "platform/platform.h"
@@ -33,6 +34,7 @@ QString inputBoxE(const QString &prompt, const QString &title, const QString &de
     request.maxLength = maxLength;
     request.okCaption = QStringLiteral("OK");
     request.cancelCaption = loadCatalogueText(cancelCaption);
+    request.firstShown = [] { playDialogSound(MessageBoxLogic::Question); };
     const InputBoxEAnswer answer = platform().inputBoxE(request);
     const QString result = answer.cancelled ? inputBoxCancelled : trimBlanks(answer.text);
     modGenLib().inputBoxResult = result;

@@ -1,86 +1,19 @@
 #include "dialogs/sound.h"
 
-#include "lib/frame/catalogue.h"
+#include "lib/frame/dialogsound.h"
 #include "lib/frame/modgenlib.h"
-#include "platform/platform.h"
-#include "runtime/callbyname.h"
-#include "runtime/runtimeerror.h"
-#include "system/paths.h"
-#include "system/stationflags.h"
 
 namespace qor {
-
-namespace {
-
-constexpr qint32 helpDeskText = 9700;
-constexpr int criticalIcon = 16;
-
-// The application's folder, or "" when no application was handed over or
-// it cannot tell.
-QString applicationPath()
-{
-    QObject *application = modGenLib().application;
-    if (!application)
-        return QString();
-    try {
-        return getProperty(application, "Path").toString();
-    } catch (const RuntimeError &) {
-        return QString();
-    }
-}
-
-void reportMissing(const QString &fullName)
-{
-    const QString paragraph = QStringLiteral("\r\r");
-    platform().systemMessageBox({ QStringLiteral("Cannot Find Sound :") + paragraph + fullName
-            + paragraph + loadCatalogueText(helpDeskText),
-        criticalIcon, QStringLiteral("qorSoft General Library") });
-}
-
-} // namespace
 
 void playSound(QString &fileName, bool continuous, QString &soundDirectory, qint32 offset)
 {
     useLanguage(offset);
-    if (fileName.isEmpty()) {
-        platform().stopSound();
-        return;
-    }
-    if (!getKlantPC())
-        soundDirectory = platform().developmentSoundDirectory();
-    else if (soundDirectory.isEmpty())
-        soundDirectory = pathRS(applicationPath()) + QStringLiteral("\\MultiMedia");
-    fileName = pathRS(soundDirectory) + QLatin1Char('\\') + fileName;
-    if (!platform().fileExists(fileName)) {
-        reportMissing(fileName);
-        return;
-    }
-    platform().playSound(fileName, continuous);
+    playSoundFile(fileName, continuous, soundDirectory);
 }
 
 void setSound(bool soundOff)
 {
     modGenLib().soundOff = soundOff;
-}
-
-QString typeSoundFile(int type)
-{
-    static const char *files[]
-        = { "Critical.wav", "Exclamation.wav", "Information.wav", "Question.wav", "Message.wav" };
-    return QString::fromLatin1(files[type >= 0 && type < 5 ? type : 4]);
-}
-
-void playDialogSound(const QString &fileName)
-{
-    if (modGenLib().soundOff)
-        return;
-    QString name = fileName;
-    QString folder;
-    try {
-        playSound(name, false, folder, modGenLib().languageOffset);
-    } catch (const RuntimeError &) {
-        // A dialog's sound never keeps the dialog from showing.
-    }
 }
 
 } // namespace qor

@@ -1,7 +1,5 @@
 #pragma once
 
-#include "qorgenlib_export.h"
-
 #include <QString>
 
 namespace qor {
@@ -17,10 +15,5 @@ void playSound(QString &fileName, bool continuous, QString &soundDirectory, qint
 // Switches the dialogs' own sounds off (True) or on; direct calls of
 // playSound always play.
 void setSound(bool soundOff);
-
-// The sound of a message type (0 Critical ... 4 Message), played by a dialog
-// when first shown unless sounds are off; errors ignored.
-QORGENLIB_EXPORT QString typeSoundFile(int type);
-QORGENLIB_EXPORT void playDialogSound(const QString &fileName);
 
 } // namespace qor

@@ -57,7 +57,7 @@ private:
     qint16 m_borderStyle = 0;
     double m_headLines = 1;
     bool m_recordSelectors = false;
-    bool m_partialRightColumn = false;
+    bool m_partialRightColumn = true; // the grid control's own default
     qint16 m_multipleLines = 0;
     qint32 m_marqueeStyle = 0;
     qint32 m_multiSelect = 0;

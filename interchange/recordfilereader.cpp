@@ -139,7 +139,6 @@ RecordFileReader::Status RecordFileReader::next()
     const qsizetype position = RecordReader::fields(frame.body, widths, widths.size(), m_raw);
     if (position > 0)
         return fail(RecordFileFault::Delimiter, position + (frame.body.data() - line.data()));
-    m_recordLineNumber = frame.lineNumber;
     return Status::Record;
 }
 

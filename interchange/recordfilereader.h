@@ -31,11 +31,8 @@ public:
     // The next line: a record, a fault, or the end of the file.
     Status next();
 
-    // After Record: the fields as views into the line (valid until the next
-    // call) and decoded; the line number in front of the record, when read.
-    const QList<QByteArrayView> &rawFields() const { return m_raw; }
+    // After Record: the fields, decoded.
     QStringList fields() const;
-    double recordLineNumber() const { return m_recordLineNumber; }
     // After Fault: what is wrong.
     const RecordFileFault &fault() const { return m_fault; }
     // The line of the file the last record or fault came from, from 1.
@@ -71,7 +68,6 @@ private:
     bool m_broken = false;
     qint64 m_line = 0;
     QList<QByteArrayView> m_raw;
-    double m_recordLineNumber = 0;
     RecordFileFault m_fault;
 };
 

@@ -26,7 +26,7 @@
 #include "runtime/conversion.h"
 #include "runtime/variant.h"
 #include "system/desktop.h"
-#include "system/paths.h"
+#include "lib/frame/paths.h"
 #include "system/processes.h"
 #include "system/screenhelpers.h"
 #include "system/settingsfile.h"

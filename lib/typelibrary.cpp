@@ -9,7 +9,9 @@
 #include <QVarLengthArray>
 
 #include <atomic>
+#include <cmath>
 #include <cstring>
+#include <limits>
 
 namespace qor {
 
@@ -23,6 +25,13 @@ QJsonObject optionalArguments(const QMetaObject *cls, const QByteArray &method)
     return QJsonDocument::fromJson(cls->classInfo(index).value()).object();
 }
 
+// A whole number within the Integer subtype's range.
+bool isIntegerValue(double number)
+{
+    return number >= std::numeric_limits<qint16>::min()
+        && number <= std::numeric_limits<qint16>::max() && number == std::trunc(number);
+}
+
 // A published default in the parameter's own type; whole numbers passed as a
 // Variant keep the Integer subtype an automation default has.
 QVariant defaultValueFor(const QJsonValue &json, QMetaType type)
@@ -31,7 +40,7 @@ QVariant defaultValueFor(const QJsonValue &json, QMetaType type)
         return {};
     QVariant value = json.toVariant();
     if (type.id() == QMetaType::QVariant) {
-        if (json.isDouble() && json.toDouble() == qint16(json.toDouble()))
+        if (json.isDouble() && isIntegerValue(json.toDouble()))
             return QVariant::fromValue<short>(qint16(json.toDouble()));
         return value;
     }

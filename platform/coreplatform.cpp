@@ -52,7 +52,16 @@ void CorePlatform::setRegionalSettings(const RegionalSettings &settings)
     m_settings = settings;
 }
 
+// Without a screen the box is shown to nobody, but runs its own first steps
+// as it would on a screen.
 int CorePlatform::messageBoxE(const MessageBoxERequest &request)
+{
+    if (request.firstShown)
+        request.firstShown();
+    return defaultAnswer(request);
+}
+
+int CorePlatform::defaultAnswer(const MessageBoxERequest &request)
 {
     const int result = request.resultForKey ? request.resultForKey(QStringLiteral("Enter")) : 0;
     if (result != 0)
@@ -67,6 +76,8 @@ int CorePlatform::systemMessageBox(const SystemMessageBoxRequest &)
 
 InputBoxEAnswer CorePlatform::inputBoxE(const InputBoxERequest &request)
 {
+    if (request.firstShown)
+        request.firstShown();
     return { false, request.defaultValue };
 }
 
@@ -261,13 +272,19 @@ struct Descriptor
     }
 };
 
-bool lockExclusive(int fd)
+// Waits for a lock (LOCK_EX or LOCK_SH) on the whole file.
+bool lockWhole(int fd, int operation)
 {
-    while (::flock(fd, LOCK_EX) != 0) {
+    while (::flock(fd, operation) != 0) {
         if (errno != EINTR)
             return false;
     }
     return true;
+}
+
+int openLockFile(const QString &path)
+{
+    return ::open(QFile::encodeName(path).constData(), O_RDWR | O_CREAT | O_CLOEXEC, 0600);
 }
 
 std::optional<QByteArray> readWhole(int fd)
@@ -340,7 +357,7 @@ bool CorePlatform::updateFile(const QString &path, const FileChange &change)
         Descriptor file { ::open(local.constData(), O_RDONLY | O_CLOEXEC) };
         if (file.fd < 0 && errno == ENOENT)
             file.fd = ::open(local.constData(), O_RDONLY | O_CREAT | O_CLOEXEC, 0666);
-        if (file.fd < 0 || !lockExclusive(file.fd))
+        if (file.fd < 0 || !lockWhole(file.fd, LOCK_EX))
             return false;
         struct stat locked, current;
         if (::fstat(file.fd, &locked) != 0)
@@ -366,8 +383,10 @@ bool CorePlatform::updateFile(const QString &path, const FileChange &change)
 bool CorePlatform::registerInstance(const QString &application)
 {
     // Every running copy holds a shared lock on one file per application; a
-    // copy that can take the lock exclusively is alone. The locks die with
-    // the process, however it ends.
+    // copy that can take the lock exclusively is alone. Turning the exclusive
+    // lock into a shared one lets go of it for a moment, so the test and the
+    // change happen under a second, exclusive lock that every starting copy
+    // takes first. The locks die with the process, however it ends.
     static QMutex mutex;
     static QHash<QString, int> held;
     const QMutexLocker locker(&mutex);
@@ -376,21 +395,22 @@ bool CorePlatform::registerInstance(const QString &application)
         if (!c.isLetterOrNumber() && c != QLatin1Char('.') && c != QLatin1Char('-'))
             c = QLatin1Char('_');
     }
+    QString folder = QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation);
+    if (folder.isEmpty())
+        folder = QDir::tempPath();
+    const QString base = folder + QStringLiteral("/qorgenlib-") + name;
+    const Descriptor gate { openLockFile(base + QStringLiteral(".gate")) };
+    if (gate.fd < 0 || !lockWhole(gate.fd, LOCK_EX))
+        return false;
     int fd = held.value(name, -1);
     if (fd < 0) {
-        QString folder = QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation);
-        if (folder.isEmpty())
-            folder = QDir::tempPath();
-        const QByteArray path = QFile::encodeName(
-            folder + QStringLiteral("/qorgenlib-") + name + QStringLiteral(".instance"));
-        fd = ::open(path.constData(), O_RDWR | O_CREAT | O_CLOEXEC, 0600);
+        fd = openLockFile(base + QStringLiteral(".instance"));
         if (fd < 0)
             return false;
         held.insert(name, fd);
     }
     const bool alone = ::flock(fd, LOCK_EX | LOCK_NB) == 0;
-    for (int attempt = 0; attempt < 1000 && ::flock(fd, LOCK_SH | LOCK_NB) != 0; ++attempt)
-        ::usleep(1000);
+    lockWhole(fd, LOCK_SH);
     return !alone;
 }
 

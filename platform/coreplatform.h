@@ -67,6 +67,8 @@ public:
 
     // A Windows-style path ("C:\data\x.ini") as a path of this machine.
     static QString localPath(const QString &path);
+    // The answer of a box nobody answered: Enter, else its first button.
+    static int defaultAnswer(const MessageBoxERequest &request);
 
 private:
     RegionalSettings m_settings;

@@ -44,6 +44,9 @@ struct QORGENLIB_EXPORT MessageBoxERequest
     QList<DialogButton> buttons; // visible buttons, left to right
     std::function<int(const QString &key)> resultForKey; // "Enter", "Escape", "J", ...
     std::function<int(const QString &scan)> resultForScan; // text typed by a scanner, e.g. "%[OK]"
+    // The box's own step when it is first shown (the sound of its type); every
+    // platform runs it once per box, before the box is answered.
+    std::function<void()> firstShown;
 };
 
 struct QORGENLIB_EXPORT SystemMessageBoxRequest
@@ -62,6 +65,9 @@ struct QORGENLIB_EXPORT InputBoxERequest
     int maxLength = 250;
     QString okCaption;
     QString cancelCaption;
+    // The box's own step when it is first shown (the question sound); every
+    // platform runs it once per box, before the box is answered.
+    std::function<void()> firstShown;
 };
 
 struct QORGENLIB_EXPORT InputBoxEAnswer

@@ -90,12 +90,14 @@ int RecordingPlatform::messageBoxEAnswer(const MessageBoxERequest &request)
         if (result != 0)
             return result;
     }
-    return CorePlatform::messageBoxE(request);
+    return defaultAnswer(request);
 }
 
+// The box is recorded as it appears; what its first showing plays follows it,
+// and its answer is filled in when it closes.
 int RecordingPlatform::messageBoxE(const MessageBoxERequest &request)
 {
-    const int answer = messageBoxEAnswer(request);
+    const qsizetype at = m_shown.size();
     // Dialogs: the visible buttons, left to right, as the user read them.
     QVariantList buttonsShown;
     for (const DialogButton &button : request.buttons)
@@ -105,14 +107,25 @@ int RecordingPlatform::messageBoxE(const MessageBoxERequest &request)
         { QStringLiteral("prompt"), request.prompt }, { QStringLiteral("buttons"), request.style },
         { QStringLiteral("title"), request.title }, { QStringLiteral("caption"), request.caption },
         { QStringLiteral("type"), request.typeName },
-        { QStringLiteral("buttonsShown"), buttonsShown }, { QStringLiteral("answer"), answer } });
+        { QStringLiteral("buttonsShown"), buttonsShown } });
+    if (request.firstShown)
+        request.firstShown();
+    const int answer = messageBoxEAnswer(request);
+    setAnswer(at, answer);
     return answer;
 }
 
 int RecordingPlatform::systemMessageBox(const SystemMessageBoxRequest &request)
 {
-    const auto scripted = takeAnswer();
-    const int answer = scripted && isNumber(*scripted) ? scripted->toInt() : 1;
+    // A box with OK alone can only be answered OK: it leaves the script to the
+    // dialogs that have a choice (the notice of a missing sound among them).
+    constexpr int buttonBits = 0xF;
+    int answer = 1;
+    if ((request.style & buttonBits) != 0) {
+        const auto scripted = takeAnswer();
+        if (scripted && isNumber(*scripted))
+            answer = scripted->toInt();
+    }
     record({ { QStringLiteral("kind"), QStringLiteral("MsgBox") },
         { QStringLiteral("prompt"), request.prompt }, { QStringLiteral("buttons"), request.style },
         { QStringLiteral("title"), request.title }, { QStringLiteral("answer"), answer } });
@@ -121,6 +134,13 @@ int RecordingPlatform::systemMessageBox(const SystemMessageBoxRequest &request)
 
 InputBoxEAnswer RecordingPlatform::inputBoxE(const InputBoxERequest &request)
 {
+    const qsizetype at = m_shown.size();
+    record({ { QStringLiteral("kind"), QStringLiteral("InputBoxE") },
+        { QStringLiteral("prompt"), request.prompt }, { QStringLiteral("title"), request.title },
+        { QStringLiteral("default"), request.defaultValue },
+        { QStringLiteral("maxLength"), request.maxLength } });
+    if (request.firstShown)
+        request.firstShown();
     InputBoxEAnswer answer { false, request.defaultValue };
     if (const auto scripted = takeAnswer()) {
         if (isCancel(*scripted))
@@ -131,14 +151,9 @@ InputBoxEAnswer RecordingPlatform::inputBoxE(const InputBoxERequest &request)
     // The field refuses what its maximum length does not hold.
     if (request.maxLength > 0 && answer.text.size() > request.maxLength)
         answer.text.truncate(request.maxLength);
-    QVariantMap event { { QStringLiteral("kind"), QStringLiteral("InputBoxE") },
-        { QStringLiteral("prompt"), request.prompt }, { QStringLiteral("title"), request.title },
-        { QStringLiteral("default"), request.defaultValue },
-        { QStringLiteral("maxLength"), request.maxLength } };
-    event.insert(QStringLiteral("answer"),
+    setAnswer(at,
         answer.cancelled ? QVariant(QVariantMap { { QStringLiteral("cancel"), true } })
                          : QVariant(answer.text));
-    record(event);
     return answer;
 }
 
@@ -203,6 +218,15 @@ CalculatorAnswer RecordingPlatform::calculator(const CalculatorRequest &request)
             answer.cancelled ? QVariant(QVariantMap { { QStringLiteral("cancel"), true } })
                              : QVariant(answer.result) } });
     return answer;
+}
+
+void RecordingPlatform::setAnswer(qsizetype at, const QVariant &answer)
+{
+    if (at >= m_shown.size())
+        return;
+    QVariantMap event = m_shown.at(at).toMap();
+    event.insert(QStringLiteral("answer"), answer);
+    m_shown[at] = event;
 }
 
 void RecordingPlatform::showNote(const NoteRequest &note)

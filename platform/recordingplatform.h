@@ -16,7 +16,8 @@ namespace qor {
 // Scripted answers, consumed in order by the dialogs:
 // - extended message box: a result number, a key name ("Enter", "Escape", "J")
 //   or a map {"scan": text} typed through its scanner field; default "Enter";
-// - plain message box: a result number; default 1;
+// - plain message box: a result number; default 1; a box with OK alone takes
+//   no answer;
 // - input box: a string typed into the field before OK, or {"cancel": true};
 //   default OK on the default value;
 // - calculator: a number left in its result register, {"keys": text} typed
@@ -72,6 +73,7 @@ private:
     void typeIntoCalculator(CalculatorSession &session, const QString &text);
     int messageBoxEAnswer(const MessageBoxERequest &request);
     void record(const QVariantMap &event) { m_shown.append(event); }
+    void setAnswer(qsizetype at, const QVariant &answer);
 
     QDateTime m_now;
     ScreenInfo m_screen;

@@ -53,7 +53,7 @@ sanitized_tests() {
   cmake --build build-asan
   (cd build-asan
    ASAN_OPTIONS=detect_leaks=1:strict_string_checks=1 UBSAN_OPTIONS=print_stacktrace=1:halt_on_error=1 \
-     QT_QPA_PLATFORM=offscreen ctest --output-on-failure -j2 -E '^(layers_|package_)')
+     QT_QPA_PLATFORM=offscreen ctest --output-on-failure -j2 -E '^(layers_|package_|demo_real_display$|tst_qorgenmemory$)')
 }
 
 # Every fuzz target over its corpus and then a few seconds of fuzzing, so that

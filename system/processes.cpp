@@ -1,9 +1,9 @@
 #include "system/processes.h"
 
 #include "lib/frame/messageboxlogic.h"
+#include "lib/frame/paths.h"
 #include "platform/platform.h"
 #include "runtime/runtimeerror.h"
-#include "system/paths.h"
 
 namespace qor {
 

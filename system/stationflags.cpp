@@ -17,15 +17,6 @@ QString twoDigits(int value)
 
 } // namespace
 
-bool getKlantPC()
-{
-    const QString systemFolder = platform().systemDirectory().left(255);
-    if (systemFolder.isEmpty())
-        return true;
-    static const QString marker = QStringLiteral("QorVelChip.dll");
-    return platform().listFiles(systemFolder + QLatin1Char('\\'), marker).isEmpty();
-}
-
 QString fieldExtOf(qint32 offset)
 {
     static const char *const suffixes[] = { "NL", "FR", "UK", "DE", "ES", "IT" };

@@ -1,12 +1,10 @@
 #pragma once
 
+#include "lib/frame/klantpc.h"
+
 #include <QString>
 
 namespace qor {
-
-// True on a customer workstation: the development set-up is recognised by a
-// marker file in the system folder (its name matched without regard to case).
-bool getKlantPC();
 
 // On a development machine: act as a customer station or not and, when not,
 // use another language; both choices are kept in the settings file. The

@@ -55,7 +55,6 @@ VatNoteForm *VatNoteForm::flash(const QString &text, QWidget *field)
 void VatNoteForm::showEvent(QShowEvent *event)
 {
     QWidget::showEvent(event);
-    m_shown.start();
     QTimer::singleShot(lifetimeMs, this, &QWidget::close);
 }
 

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <QElapsedTimer>
 #include <QWidget>
 
 class QLabel;
@@ -24,9 +23,6 @@ public:
     // Shows a note beside the field (or at the mouse when there is none); it deletes itself.
     static VatNoteForm *flash(const QString &text, QWidget *field);
 
-    // How long it has been shown.
-    qint64 shownForMs() const { return m_shown.isValid() ? m_shown.elapsed() : 0; }
-
 protected:
     void showEvent(QShowEvent *event) override;
 
@@ -34,7 +30,6 @@ private:
     void placeBeside(QWidget *field, const ScreenInfo &screen);
 
     QLabel *m_label = nullptr;
-    QElapsedTimer m_shown;
 };
 
 } // namespace qor

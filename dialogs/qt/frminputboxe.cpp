@@ -1,7 +1,6 @@
 #include "dialogs/qt/frminputboxe.h"
 
 #include "dialogs/qt/boxgeometry.h"
-#include "dialogs/sound.h"
 
 #include <QFrame>
 #include <QKeyEvent>
@@ -25,6 +24,7 @@ frmInputBoxE::frmInputBoxE(const InputBoxERequest &request, QWidget *parent)
     : QDialog(parent)
     , m_label(nullptr)
     , m_text(nullptr)
+    , m_firstShown(request.firstShown)
 {
     setObjectName(QStringLiteral("frmInputBoxE"));
     setModal(true);
@@ -126,7 +126,8 @@ void frmInputBoxE::showEvent(QShowEvent *event)
 void frmInputBoxE::firstShown()
 {
     platform().setMousePointer(0);
-    playDialogSound(typeSoundFile(questionType));
+    if (m_firstShown)
+        m_firstShown();
 }
 
 // OK is only what OK or Enter chose; everything else, the close button too, cancels.

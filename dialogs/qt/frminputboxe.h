@@ -4,6 +4,8 @@
 
 #include <QDialog>
 
+#include <functional>
+
 class QLabel;
 class QLineEdit;
 
@@ -12,8 +14,8 @@ namespace qor {
 // The extended input box window: the prompt wrapped to the screen as in the
 // message box, the question icon, one field with its default text and maximum
 // length, OK and Cancel. The box sees every key first: Enter is OK, Escape
-// (and the window's close button) Cancel. The question sound plays once when
-// first shown, unless sounds are off.
+// (and the window's close button) Cancel. When first shown it runs the box's
+// own first step (the question sound) once.
 class frmInputBoxE : public QDialog
 {
     Q_OBJECT
@@ -37,6 +39,7 @@ private:
     QLabel *m_label;
     QLineEdit *m_text;
     bool m_ok = false;
+    std::function<void()> m_firstShown;
     bool m_shown = false;
 };
 

@@ -2,7 +2,6 @@
 
 #include "dialogs/qt/boxgeometry.h"
 #include "dialogs/qt/scannerfield.h"
-#include "dialogs/sound.h"
 #include "input/scanbm.h"
 #include "lib/frame/modgenlib.h"
 #include "runtime/codepage.h"
@@ -139,7 +138,8 @@ void frmMsgBoxE::firstShown()
     m_scanner->clear();
     modGenLib().scannerBuffer.clear();
     platform().setMousePointer(0);
-    playDialogSound(typeSoundFile(m_request.type));
+    if (m_request.firstShown)
+        m_request.firstShown();
 }
 
 void frmMsgBoxE::keyPressEvent(QKeyEvent *event)

@@ -16,8 +16,8 @@ class ScannerField;
 // icon of its type, the buttons the style chose, and the hidden scanner field.
 // Every key goes first through the scanner routine and is then taken as an
 // answer by the box's key rules; every key is swallowed. The window's close
-// button counts as Escape. The type's sound plays once when first shown,
-// unless sounds are off.
+// button counts as Escape. When first shown it runs the box's own first step
+// (the type's sound) once.
 class frmMsgBoxE : public QDialog
 {
     Q_OBJECT

@@ -29,6 +29,19 @@ QString settingsFolder(const QStringList &args)
     return folder;
 }
 
+// The application's folder, which holds the dialog sounds in "MultiMedia":
+// the shared data folder of an installed demo, else the program's own folder
+// (a build folder).
+QString applicationFolder()
+{
+    const QDir program(QCoreApplication::applicationDirPath());
+    const QString installed
+        = QDir::cleanPath(program.absoluteFilePath(QStringLiteral("../share/qorgenlib")));
+    if (QDir(installed + QStringLiteral("/MultiMedia")).exists())
+        return installed;
+    return program.path();
+}
+
 } // namespace
 
 // The host application: install the on-screen platform with Belgian regional
@@ -48,7 +61,7 @@ int main(int argc, char *argv[])
     qor::Platform::install(machine);
 
     DemoApp demo;
-    if (!demo.start(QCoreApplication::applicationDirPath()))
+    if (!demo.start(applicationFolder()))
         return 1;
     demo.show();
     if (option(args, QStringLiteral("--fill")) == QLatin1String("demo"))

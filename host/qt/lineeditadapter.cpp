@@ -21,7 +21,7 @@ QLineEdit *require(const QPointer<QLineEdit> &field)
 } // namespace
 
 LineEditAdapter::LineEditAdapter(QLineEdit *field, QObject *parent)
-    : QObject(parent)
+    : WidgetAdapter(field, parent)
     , m_field(field)
 { }
 
@@ -79,38 +79,6 @@ bool LineEditAdapter::enabled() const
 void LineEditAdapter::setEnabled(bool enabled)
 {
     require(m_field)->setEnabled(enabled);
-}
-int LineEditAdapter::left() const
-{
-    return require(m_field)->x();
-}
-void LineEditAdapter::setLeft(int left)
-{
-    require(m_field)->move(left, top());
-}
-int LineEditAdapter::top() const
-{
-    return require(m_field)->y();
-}
-void LineEditAdapter::setTop(int top)
-{
-    require(m_field)->move(left(), top);
-}
-int LineEditAdapter::width() const
-{
-    return require(m_field)->width();
-}
-void LineEditAdapter::setWidth(int width)
-{
-    require(m_field)->resize(width, height());
-}
-int LineEditAdapter::height() const
-{
-    return require(m_field)->height();
-}
-void LineEditAdapter::setHeight(int height)
-{
-    require(m_field)->resize(width(), height);
 }
 void LineEditAdapter::SetFocus()
 {

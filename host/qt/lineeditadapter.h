@@ -2,6 +2,8 @@
 
 #include "qorgenlib_export.h"
 
+#include "host/qt/widgetadapter.h"
+
 #include <QObject>
 #include <QPointer>
 
@@ -10,9 +12,10 @@
 namespace qor {
 
 // Gives a QLineEdit the names of an edit control, so the library can work on
-// a real field: Text, SelStart, SelLength, MaxLength, Enabled, the position
-// and size, and the operation SetFocus. The adapter does not own the field.
-class QORGENLIB_WIDGETS_EXPORT LineEditAdapter : public QObject
+// a real field: Text, SelStart, SelLength, MaxLength, Enabled and the
+// operation SetFocus, besides the position and size in twips of every placed
+// control. The adapter does not own the field.
+class QORGENLIB_WIDGETS_EXPORT LineEditAdapter : public WidgetAdapter
 {
     Q_OBJECT
     Q_PROPERTY(QString Text READ text WRITE setText)
@@ -20,10 +23,6 @@ class QORGENLIB_WIDGETS_EXPORT LineEditAdapter : public QObject
     Q_PROPERTY(int SelLength READ selLength WRITE setSelLength)
     Q_PROPERTY(int MaxLength READ maxLength WRITE setMaxLength)
     Q_PROPERTY(bool Enabled READ enabled WRITE setEnabled)
-    Q_PROPERTY(int Left READ left WRITE setLeft)
-    Q_PROPERTY(int Top READ top WRITE setTop)
-    Q_PROPERTY(int Width READ width WRITE setWidth)
-    Q_PROPERTY(int Height READ height WRITE setHeight)
 
 public:
     explicit LineEditAdapter(QLineEdit *field, QObject *parent = nullptr);
@@ -41,14 +40,6 @@ public:
     void setMaxLength(int length);
     bool enabled() const;
     void setEnabled(bool enabled);
-    int left() const;
-    void setLeft(int left);
-    int top() const;
-    void setTop(int top);
-    int width() const;
-    void setWidth(int width);
-    int height() const;
-    void setHeight(int height);
 
     Q_INVOKABLE void SetFocus();
 

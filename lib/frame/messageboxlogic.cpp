@@ -1,6 +1,7 @@
 #include "lib/frame/messageboxlogic.h"
 
 #include "lib/frame/catalogue.h"
+#include "lib/frame/dialogsound.h"
 #include "lib/frame/modgenlib.h"
 
 namespace qor {
@@ -167,6 +168,7 @@ MessageBoxERequest prepare(const QString &prompt, int style, const QString &titl
             data = data.mid(2, data.size() - 3);
         return resultForScannedText(buttons, data);
     };
+    request.firstShown = [type] { playDialogSound(type); };
     return request;
 }
 

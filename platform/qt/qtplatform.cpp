@@ -84,7 +84,7 @@ int QtPlatform::messageBoxE(const MessageBoxERequest &request)
     // Dialogs: the box answers Escape when closed from its title bar.
     frmMsgBoxE dialog(request, QApplication::activeWindow());
     dialog.exec();
-    return dialog.answer() != 0 ? dialog.answer() : CorePlatform::messageBoxE(request);
+    return dialog.answer() != 0 ? dialog.answer() : defaultAnswer(request);
 }
 
 int QtPlatform::systemMessageBox(const SystemMessageBoxRequest &request)

@@ -8,11 +8,14 @@
 namespace qor::test {
 
 // A fresh module state and a recording platform installed as the machine the
-// library sees; an empty locale keeps the platform's default settings.
+// library sees; an empty locale keeps the platform's default settings. The
+// dialogs' own sounds are off, so that a box records only what it shows; the
+// sound tests switch them on.
 inline std::shared_ptr<RecordingPlatform> installRecordingPlatform(
     const QString &locale = QString())
 {
     ModGenLib::reset();
+    modGenLib().soundOff = true;
     auto machine = std::make_shared<RecordingPlatform>();
     if (!locale.isEmpty())
         machine->setLocale(locale);

@@ -6,3 +6,10 @@ if(TARGET qorgenlib-demo-form)
   add_test(NAME tst_demo COMMAND tst_demo)
   set_tests_properties(tst_demo PROPERTIES TIMEOUT 120 ENVIRONMENT "QT_QPA_PLATFORM=offscreen")
 endif()
+
+# The same demo on a real X display, typed into through the X server.
+if(TARGET qorgenlib-demo)
+  add_test(NAME demo_real_display
+           COMMAND bash ${CMAKE_CURRENT_LIST_DIR}/realdisplay.sh $<TARGET_FILE:qorgenlib-demo>)
+  set_tests_properties(demo_real_display PROPERTIES TIMEOUT 120)
+endif()

@@ -1,4 +1,5 @@
 #include "grid/gridpicture.h"
+#include "host/grid.h"
 #include "host/qt/comboboxadapter.h"
 #include "host/qt/formadapter.h"
 #include "host/qt/frameadapter.h"
@@ -91,6 +92,24 @@ class TestGridWidgets : public QObject
 
 private slots:
     void init() { installRecordingPlatform(QStringLiteral("nl_BE")); }
+
+    // A host sees the same grid before any set-up, whether it is the model
+    // control or a real table.
+    void modelAndRealGridStartAlike_data()
+    {
+        QTest::addColumn<QByteArray>("property");
+        for (const char *name :
+            { "PartialRightColumn", "HeadLines", "MultipleLines", "DeadAreaBackColor" })
+            QTest::newRow(name) << QByteArray(name);
+    }
+    void modelAndRealGridStartAlike()
+    {
+        QFETCH(QByteArray, property);
+        Grid model;
+        QTableView view;
+        TableViewAdapter real(&view);
+        QCOMPARE(real.property(property.constData()), model.property(property.constData()));
+    }
 
     void sizeFitsTheTableIntoItsFrameInPixels()
     {

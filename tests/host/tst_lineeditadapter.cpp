@@ -55,6 +55,34 @@ private slots:
         QCOMPARE(field.maxLength(), 4);
     }
 
+    // The field's position is in twips, as for every control, so the pointer is
+    // measured from the field's own corner: a cursor at (400, 300) pixels, a
+    // field at (100, 50) moved there through its twips.
+    void mousePointerRelativeToARealField_data()
+    {
+        QTest::addColumn<QString>("axis");
+        QTest::addColumn<int>("twips");
+        QTest::newRow("across") << "X" << (400 - 100) * 15;
+        QTest::newRow("down") << "y" << (300 - 50) * 15;
+    }
+    void mousePointerRelativeToARealField()
+    {
+        QFETCH(QString, axis);
+        auto machine = std::make_shared<RecordingPlatform>();
+        ScreenInfo screen;
+        screen.cursor = QPoint(400, 300);
+        machine->setScreen(screen);
+        const auto previous = Platform::install(machine);
+        QLineEdit field;
+        LineEditAdapter adapter(&field);
+        adapter.setProperty("Left", 1500);
+        adapter.setProperty("Top", 750);
+        QCOMPARE(field.pos(), QPoint(100, 50));
+        clsqorGenLib lib;
+        QTEST(int(lib.GetMousePointerPos(axis, &adapter)), "twips");
+        Platform::install(previous);
+    }
+
     void aFieldThatIsGoneRaisesAnError()
     {
         auto *field = new QLineEdit;

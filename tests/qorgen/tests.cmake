@@ -11,8 +11,16 @@ qor_add_test(tst_hostobjects ${dir}/tst_hostobjects.cpp)
 qor_add_test(tst_session ${dir}/tst_session.cpp)
 target_link_libraries(tst_session PRIVATE qorgenbridge)
 
-foreach(process_test tst_qorgenbatch tst_qorgencall)
-  qor_add_test(${process_test} ${dir}/${process_test}.cpp ${dir}/qorgenprocess.h)
+# A million requests pass through the memory test.
+set(tst_qorgenbatch_timeout 60)
+set(tst_qorgencall_timeout 60)
+set(tst_qorgenmemory_timeout 90)
+foreach(process_test tst_qorgenbatch tst_qorgencall tst_qorgenmemory)
+  qor_add_test(${process_test} ${dir}/${process_test}.cpp ${dir}/qorgenprocess.h
+               TIMEOUT ${${process_test}_timeout})
   target_compile_definitions(${process_test} PRIVATE QORGEN_PATH="$<TARGET_FILE:qorgen>")
   add_dependencies(${process_test} qorgen)
 endforeach()
+
+qor_add_test(tst_recordwriter ${dir}/tst_recordwriter.cpp)
+target_link_libraries(tst_recordwriter PRIVATE qorgenbridge)

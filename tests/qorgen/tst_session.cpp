@@ -51,7 +51,7 @@ private slots:
         QTest::newRow("number id, properties left out") << QByteArray(R"({"id": 7, "call": "FilterNumeric", "args": ["a1b2"], "props": false})") << QByteArray(R"({"id":7,"result":"12","resultType":"String","args":["a1b2"],"argTypes":["String"],"shown":[]})");
         QTest::newRow("id given last") << QByteArray(R"({"call": "SCase", "args": ["x"], "props": false, "id": "x-1"})") << QByteArray(R"({"id":"x-1","result":"X","args":["x"],"shown":[]})");
         QTest::newRow("properties by default, all, in the order of the type information") << QByteArray(R"({"call": "Offset"})") << QByteArray(R"({"result":0,"args":[],"props":{"msg":"","SQL":"","FlowCTL":{"$empty":true},"UserCancel":false,"FrmAct":false,"AnEd":false,"HoldSysData":{"$empty":true},"HoldErr":0,"HoldErrDes":"","vbCr2":"\r\r","vbSplit":")" "\xc2\xad\xc2\xad" R"(","vbRequery":true,"vbSee":false,"Offset":0,"FieldExt":"NL","DataCH":false,"KlantPC":true,"BtwTar1":0,"BtwTar2":0,"NbrDec":0,"NbrDecFmt":""},"shown":[]})");
-        QTest::newRow("a message box answered as asked") << QByteArray(R"({"call": "ControleerBankNr", "args": ["123"], "answers": [2, 2], "props": false})") << QByteArray(R"({"result":"","args":["123"],"shown":[{"kind":"MsgBoxE","prompt":"Ongeldig Bankrekeningnummer :\r\rSchrijfwijze  000000000000  of  000-0000000-00","buttons":48,"title":"Fout !","caption":"Fout !","type":"Exclamation","answer":2,"buttonsShown":[""]}]})");
+        QTest::newRow("a message box answered as asked, then its sound") << QByteArray(R"({"call": "ControleerBankNr", "args": ["123"], "answers": [2, 2], "props": false})") << QByteArray(R"({"result":"","args":["123"],"shown":[{"kind":"MsgBoxE","prompt":"Ongeldig Bankrekeningnummer :\r\rSchrijfwijze  000000000000  of  000-0000000-00","buttons":48,"title":"Fout !","caption":"Fout !","type":"Exclamation","answer":2,"buttonsShown":[{"caption":"OK","name":"cmdOK"}]},{"kind":"MsgBox","prompt":"Cannot Find Sound :\r\r\\MultiMedia\\Exclamation.wav\r\rNeem contact op met Velantis Help-Desk.","buttons":16,"title":"qorSoft General Library","answer":1}]})");
         QTest::newRow("an answer left over, and what was shown, do not carry to the next request") << QByteArray(R"({"call": "ControleerBankNr", "args": ["123"], "answers": [2, 2]})" "\n" R"({"call": "ControleerBankNr", "args": ["123"], "props": false})") << QByteArray(R"({"result":"","args":["123"],"shown":[{"kind":"MsgBoxE","prompt":"Ongeldig Bankrekeningnummer :\r\rSchrijfwijze  000000000000  of  000-0000000-00","buttons":48,"title":"Fout !","caption":"Fout !","type":"Exclamation","answer":1,)");
         QTest::newRow("a shut-down asked") << QByteArray(R"({"call": "ShutDownPC", "props": false})") << QByteArray(R"({"args":[],"shown":[],"actions":[{"kind":"shutdown"}]})");
         QTest::newRow("a program started, only by this request") << QByteArray(R"({"call": "ShutDownPC"})" "\n" R"({"call": "ShellAndWait", "args": ["true", 6], "props": false})") << QByteArray(R"({"result":0,"args":["true",6],"shown":[],"actions":[{"command":"true","kind":"start","windowStyle":6}]})");
@@ -126,6 +126,41 @@ private slots:
         QCOMPARE(platform.screen().cursor, QPoint(5, 6));
         session.handleLine(R"({"env": {"screen": {"taskbar": null}}})");
         QVERIFY(!platform.screen().taskbar);
+    }
+
+    // Screen values no pixel count can hold are refused by name, and the
+    // screen stays as it was for the requests that follow.
+    void screenValuesOutOfRange_data()
+    {
+        QTest::addColumn<QByteArray>("screen");
+        QTest::addColumn<QString>("field");
+        // clang-format off
+        QTest::newRow("width beyond every integer") << QByteArray(R"({"width": 1e300})") << "screen.width";
+        QTest::newRow("height far below") << QByteArray(R"({"height": -1e300})") << "screen.height";
+        QTest::newRow("width one past the largest int") << QByteArray(R"({"width": 2147483648})") << "screen.width";
+        QTest::newRow("cursor beyond every integer") << QByteArray(R"({"cursor": [1e300, 0]})") << "screen.cursor";
+        QTest::newRow("taskbar from the smallest to the largest int") << QByteArray(R"({"taskbar": {"left": -2147483648, "top": 0, "right": 2147483647, "bottom": 30}})") << "screen.taskbar.right";
+        QTest::newRow("taskbar upside down") << QByteArray(R"({"taskbar": {"left": 0, "top": 600, "right": 800, "bottom": 570}})") << "screen.taskbar.bottom";
+        QTest::newRow("taskbar edge beyond every integer") << QByteArray(R"({"taskbar": {"left": 0, "top": -1e300, "right": 800, "bottom": 600}})") << "screen.taskbar.top";
+        // clang-format on
+    }
+    void screenValuesOutOfRange()
+    {
+        QFETCH(QByteArray, screen);
+        QFETCH(QString, field);
+        Session session;
+        session.handleLine(
+            R"({"env": {"screen": {"width": 800, "height": 600, "taskbar": null}}})");
+        const auto refused = session.handleLine(
+            R"({"call": "GetWorkArea", "env": {"screen": )" + screen + R"(}, "props": false})");
+        QCOMPARE(refused.outcome, Session::Outcome::Unreadable);
+        const QString description
+            = refused.response.member(u"error")->member(u"description")->toString();
+        QVERIFY2(description.startsWith(QStringLiteral("env.") + field + QLatin1Char(':')),
+            qPrintable(description));
+        const auto next = session.handleLine(R"({"call": "GetWorkArea", "props": false})");
+        QCOMPARE(JsonWriter::compact(*next.response.member(u"result")),
+            QByteArray(R"({"Left":0,"Top":0,"Right":12000,"Bottom":9000,"Width":12000,"Height":9000})"));
     }
 
     void soundGoesOutOnlyWhenAskedFor()

@@ -1,6 +1,7 @@
 // A small program the system tests start as a separate process:
 //   write FILE SECTION KEY COUNT   sets KEY to "KEY-1" ... "KEY-COUNT" (0: for ever)
 //   hold APPLICATION               registers as a running copy, prints "ready", waits
+//   race APPLICATION AT            the same at AT (ms since the epoch), prints "alone" or "second"
 //   exit CODE                      ends at once with that exit code
 //   sleep MILLISECONDS             ends after that time
 #include "platform/platform.h"
@@ -11,6 +12,7 @@
 
 #include <cstdio>
 #include <cstdlib>
+#include <ctime>
 
 int main(int argc, char *argv[])
 {
@@ -27,6 +29,16 @@ int main(int argc, char *argv[])
     if (mode == QLatin1String("hold") && argc == 3) {
         qor::platform().registerInstance(QString::fromLocal8Bit(argv[2]));
         std::printf("ready\n");
+        std::fflush(stdout);
+        for (;;)
+            QThread::sleep(1);
+    }
+    if (mode == QLatin1String("race") && argc == 4) {
+        const long long at = std::atoll(argv[3]);
+        const timespec instant { time_t(at / 1000), long(at % 1000) * 1000000L };
+        while (clock_nanosleep(CLOCK_REALTIME, TIMER_ABSTIME, &instant, nullptr) != 0) { }
+        const bool second = qor::platform().registerInstance(QString::fromLocal8Bit(argv[2]));
+        std::printf(second ? "second\n" : "alone\n");
         std::fflush(stdout);
         for (;;)
             QThread::sleep(1);

@@ -122,6 +122,27 @@ private slots:
         QVERIFY(machine->shown().isEmpty());
     }
 
+    // Two copies started at the same instant: exactly one of them runs alone.
+    void copiesStartedTogether()
+    {
+        for (int pair = 0; pair < 20; ++pair) {
+            const QString name
+                = QStringLiteral("race-%1-%2").arg(QCoreApplication::applicationPid()).arg(pair);
+            const QString at = QString::number(QDateTime::currentMSecsSinceEpoch() + 150);
+            QProcess first;
+            QProcess second;
+            first.start(helper, { "race", name, at });
+            second.start(helper, { "race", name, at });
+            QVERIFY(first.waitForReadyRead(10000) && second.waitForReadyRead(10000));
+            const QByteArray answers = first.readAll().trimmed() + ' ' + second.readAll().trimmed();
+            first.kill();
+            second.kill();
+            first.waitForFinished();
+            second.waitForFinished();
+            QVERIFY2(answers == "alone second" || answers == "second alone", answers);
+        }
+    }
+
     void aCustomerPCHasNoMarker()
     {
         clsqorGenLib customer;

@@ -6,6 +6,7 @@
 
 #include <QLocale>
 
+#include <cmath>
 #include <limits>
 
 namespace qor {
@@ -24,11 +25,13 @@ QString text(const JsonValue &json, const QString &field)
     return json.toString();
 }
 
+// A whole number from minimum to the largest int; the range is tested before
+// anything is converted, so that no value (1e300, -1e300) can wrap.
 int whole(const JsonValue &json, const QString &field, int minimum)
 {
     const double number = json.toDouble();
-    if (!json.isNumber() || number != double(qint64(number)) || number < minimum
-        || number > std::numeric_limits<int>::max())
+    if (!json.isNumber() || !(number >= minimum && number <= std::numeric_limits<int>::max())
+        || number != std::trunc(number))
         throw badField(
             field, QStringLiteral("a whole number of at least %1 is wanted").arg(minimum));
     return int(number);
@@ -49,8 +52,19 @@ QRect taskbarRect(const JsonValue &json)
         edge[i] = whole(*value, QStringLiteral("screen.taskbar.") + QString::fromUtf16(names[i]),
             std::numeric_limits<int>::min());
     }
-    // Right and bottom are the first pixel past the edge, as the system reports them.
-    return QRect(edge[0], edge[1], edge[2] - edge[0], edge[3] - edge[1]);
+    // Right and bottom are the first pixel past the edge, as the system reports them;
+    // the strip's size must be a pixel count too.
+    const qint64 width = qint64(edge[2]) - edge[0];
+    const qint64 height = qint64(edge[3]) - edge[1];
+    if (width < 0 || width > std::numeric_limits<int>::max())
+        throw badField(QStringLiteral("screen.taskbar.right"),
+            QStringLiteral("from left to at most %1 pixels right of it is wanted")
+                .arg(std::numeric_limits<int>::max()));
+    if (height < 0 || height > std::numeric_limits<int>::max())
+        throw badField(QStringLiteral("screen.taskbar.bottom"),
+            QStringLiteral("from top to at most %1 pixels below it is wanted")
+                .arg(std::numeric_limits<int>::max()));
+    return QRect(edge[0], edge[1], int(width), int(height));
 }
 
 QPoint cursorPoint(const JsonValue &json)

@@ -1,6 +1,5 @@
 #include "tools/qorgen/request.h"
 
-#include "tools/qorgen/jsonreader.h"
 #include "tools/qorgen/requesterror.h"
 
 namespace qor {
@@ -27,11 +26,6 @@ QVariant plain(const JsonValue &json)
 }
 
 } // namespace
-
-Request Request::fromLine(QByteArrayView utf8)
-{
-    return fromJson(JsonReader::parse(utf8));
-}
 
 Request Request::fromJson(const JsonValue &json)
 {

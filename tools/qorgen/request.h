@@ -28,7 +28,6 @@ struct Request
     bool withProperties = true;
 
     static Request fromJson(const JsonValue &json);
-    static Request fromLine(QByteArrayView utf8);
     // A dialog answer as the recording platform takes it.
     static QVariant answer(const JsonValue &json, int index);
     // The id of a request object, whatever else is wrong with it.

@@ -7,11 +7,13 @@
 #include "runtime/variant.h"
 #include "tools/qorgen/jsonbuilder.h"
 #include "tools/qorgen/jsonreader.h"
+#include "tools/qorgen/recordwriter.h"
 #include "tools/qorgen/requesterror.h"
 #include "tools/qorgen/valuecodec.h"
 
 #include <QMetaProperty>
 
+#include <algorithm>
 #include <new>
 
 namespace qor {
@@ -27,53 +29,6 @@ void writeError(JsonSink &out, const RuntimeError &error)
     out.integer(error.number());
     out.key(u"description");
     out.string(error.description());
-    out.endObject();
-}
-
-// A plain value of a record of the platform as JSON (texts, numbers, flags, maps).
-void writePlain(JsonSink &out, const QVariant &value)
-{
-    switch (value.typeId()) {
-    case QMetaType::Bool: return out.boolean(value.toBool());
-    case QMetaType::Int:
-    case QMetaType::LongLong:
-    case QMetaType::Short: return out.integer(value.toLongLong());
-    case QMetaType::Double:
-    case QMetaType::Float: return out.number(value.toDouble());
-    case QMetaType::QVariantMap: {
-        out.beginObject();
-        const QVariantMap map = value.toMap();
-        for (auto it = map.begin(); it != map.end(); ++it) {
-            out.key(it.key());
-            writePlain(out, it.value());
-        }
-        return out.endObject();
-    }
-    default: return ValueCodec::write(out, value);
-    }
-}
-
-// The fields of a shown record in the order people read them.
-void writeShownRecord(JsonSink &out, const QVariantMap &record)
-{
-    static const QStringList order { QStringLiteral("kind"), QStringLiteral("prompt"),
-        QStringLiteral("text"), QStringLiteral("buttons"), QStringLiteral("title"),
-        QStringLiteral("caption"), QStringLiteral("type"), QStringLiteral("default"),
-        QStringLiteral("maxLength"), QStringLiteral("start"), QStringLiteral("file"),
-        QStringLiteral("continuous"), QStringLiteral("answer") };
-    out.beginObject();
-    for (const QString &field : order) {
-        if (const auto it = record.find(field); it != record.end()) {
-            out.key(field);
-            writePlain(out, it.value());
-        }
-    }
-    for (auto it = record.begin(); it != record.end(); ++it) {
-        if (!order.contains(it.key())) {
-            out.key(it.key());
-            writePlain(out, it.value());
-        }
-    }
     out.endObject();
 }
 
@@ -365,13 +320,13 @@ Session::Outcome Session::run(Call &call, JsonSink &out)
     out.key(u"shown");
     out.beginArray();
     for (const QVariant &record : m_platform->shown())
-        writeShownRecord(out, record.toMap());
+        RecordWriter::writeShown(out, record.toMap());
     out.endArray();
     if (!m_platform->actions().isEmpty()) {
         out.key(u"actions");
         out.beginArray();
         for (const QVariant &record : m_platform->actions())
-            writePlain(out, record);
+            RecordWriter::writeAction(out, record.toMap());
         out.endArray();
     }
     if (error) {
@@ -428,6 +383,15 @@ void Session::keepHeldObjects(QObject *owner)
     for (QObject *object : held) {
         if (isWithin(object, owner))
             object->setParent(m_keeper.get());
+    }
+    // What no property holds any more goes, so that a long batch stays as
+    // small as its last request left it.
+    const QObjectList kept = m_keeper->children();
+    for (QObject *object : kept) {
+        const bool stillHeld = std::any_of(
+            held.begin(), held.end(), [object](const QObject *h) { return isWithin(h, object); });
+        if (!stillHeld)
+            delete object;
     }
 }
 

@@ -73,6 +73,8 @@ private:
     Outcome run(Call &call, JsonSink &out);
     void writeArguments(const Call &call, JsonSink &out) const;
     void writeProperties(JsonSink &out) const;
+    // Keeps the host objects the library holds (Variant properties, the
+    // application) past the request, and releases those it holds no more.
     void keepHeldObjects(QObject *owner);
 
     std::shared_ptr<RecordingPlatform> m_platform;

@@ -1,4 +1,4 @@
-#include "system/paths.h"
+#include "lib/frame/paths.h"
 
 namespace qor {
 

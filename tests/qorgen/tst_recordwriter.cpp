@@ -1,0 +1,127 @@
+#include "host/form.h"
+#include "lib/clsqorgenlib.h"
+#include "lib/frame/modgenlib.h"
+#include "platform/recordingplatform.h"
+#include "tools/qorgen/jsonwriter.h"
+#include "tools/qorgen/recordwriter.h"
+
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QTest>
+
+using namespace qor;
+
+namespace {
+
+// Makes the platform record one kind of record, through the library where the
+// library is what produces it.
+void produce(RecordingPlatform &machine, const QString &kind, QObject *form)
+{
+    clsqorGenLib lib;
+    if (kind == QLatin1String("MsgBoxE"))
+        lib.MsgBoxE(QStringLiteral("Doorgaan ?"), 36, QStringLiteral("Titel"));
+    else if (kind == QLatin1String("InputBoxE"))
+        lib.InputBoxE(QStringLiteral("Naam ?"), QStringLiteral("Klant"), QStringLiteral("Jan"), 8);
+    else if (kind == QLatin1String("CalculatorHelp"))
+        lib.ShowCalculator(12);
+    else if (kind == QLatin1String("Note"))
+        machine.showNote({ QStringLiteral("+ 21 %"), nullptr });
+    else if (kind == QLatin1String("beep"))
+        machine.beep();
+    else if (kind == QLatin1String("sound"))
+        machine.playSound(QStringLiteral("/x/Ding.wav"), true);
+    else if (kind == QLatin1String("stopSound"))
+        machine.stopSound();
+    else if (kind == QLatin1String("start"))
+        machine.waitForProcess(machine.startProcess(QStringLiteral("true"), 6));
+    else if (kind == QLatin1String("shutdown"))
+        machine.shutDown();
+    else if (kind == QLatin1String("onTop"))
+        machine.keepOnTop(form, 0);
+    else if (kind == QLatin1String("mousePointer"))
+        machine.setMousePointer(11);
+    else if (kind == QLatin1String("key"))
+        lib.SendAKey(65);
+}
+
+QJsonObject written(const QVariantMap &record, bool shown)
+{
+    QByteArray text;
+    JsonWriter out(text);
+    if (shown)
+        RecordWriter::writeShown(out, record);
+    else
+        RecordWriter::writeAction(out, record);
+    return QJsonDocument::fromJson(text).object();
+}
+
+} // namespace
+
+// Every record the platform keeps reaches the response whole: each field,
+// with the lists and maps inside it, as the platform holds it.
+class TestRecordWriter : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void everyFieldOfEveryRecord_data()
+    {
+        QTest::addColumn<QString>("kind");
+        QTest::addColumn<QVariantList>("answers");
+        const QVariantMap cancel { { "cancel", true } };
+        // clang-format off
+        QTest::newRow("message box, its buttons, the notice of its missing sound") << "MsgBoxE" << QVariantList { "N" };
+        QTest::newRow("input box cancelled, with its sound notice") << "InputBoxE" << QVariantList { cancel };
+        QTest::newRow("calculator and its help card") << "CalculatorHelp" << QVariantList { QVariantMap { { "keys", "{Help}x5{Enter}" } } };
+        QTest::newRow("VAT note") << "Note" << QVariantList {};
+        QTest::newRow("beep") << "beep" << QVariantList {};
+        QTest::newRow("looping sound") << "sound" << QVariantList {};
+        QTest::newRow("sound stopped") << "stopSound" << QVariantList {};
+        QTest::newRow("program started") << "start" << QVariantList {};
+        QTest::newRow("shut-down") << "shutdown" << QVariantList {};
+        QTest::newRow("form on top") << "onTop" << QVariantList {};
+        QTest::newRow("mouse pointer") << "mousePointer" << QVariantList {};
+        QTest::newRow("key sent") << "key" << QVariantList {};
+        // clang-format on
+    }
+    void everyFieldOfEveryRecord()
+    {
+        QFETCH(QString, kind);
+        QFETCH(QVariantList, answers);
+        auto machine = std::make_shared<RecordingPlatform>();
+        const auto previous = Platform::install(machine);
+        ModGenLib::reset();
+        machine->setAnswers(answers);
+        Form form; // outlives its record
+        produce(*machine, kind, &form);
+        Platform::install(previous);
+
+        QStringList kinds;
+        for (const bool shown : { true, false }) {
+            for (const QVariant &entry : shown ? machine->shown() : machine->actions()) {
+                const QVariantMap record = entry.toMap();
+                kinds.append(record.value("kind").toString());
+                const QJsonObject json = written(record, shown);
+                QCOMPARE(json.keys(), record.keys());
+                for (auto it = record.begin(); it != record.end(); ++it) {
+                    const QJsonValue actual = json.value(it.key());
+                    // A host object is written whole, as the codec writes every object.
+                    const QJsonValue expected = it.value().typeId() == QMetaType::QObjectStar
+                        ? QJsonValue(QStringLiteral("Form"))
+                        : QJsonValue::fromVariant(it.value());
+                    const QJsonValue compared = it.value().typeId() == QMetaType::QObjectStar
+                        ? actual.toObject().value("$object")
+                        : actual;
+                    QVERIFY2(compared == expected,
+                        qPrintable(kind + "." + it.key() + ": "
+                            + QJsonDocument(QJsonArray { actual }).toJson(QJsonDocument::Compact)));
+                }
+            }
+        }
+        QVERIFY2(kinds.contains(kind), qPrintable(kinds.join(", ")));
+    }
+};
+
+QTEST_GUILESS_MAIN(TestRecordWriter)
+#include "tst_recordwriter.moc"
