@@ -8,7 +8,7 @@
 namespace qor {
 
 /// The electronic form of a creditor reference as typed: without blanks,
-/// letters in upper case.
+/// dashes and dots, letters in upper case.
 QString creditorReferenceElectronicForm(QStringView reference);
 
 /// Checks an ISO 11649 creditor reference in electronic form, in this order:
@@ -21,7 +21,7 @@ PaymentCheck creditorReferenceValidity(QStringView electronic);
 PaymentCheck checkCreditorReference(QStringView reference);
 
 /// The creditor reference of the creditor's own reference (1 to 21 letters
-/// and digits; blanks are ignored, letters taken in upper case), in electronic
+/// and digits; blanks, dashes and dots are ignored, letters taken in upper case), in electronic
 /// form: "RF", two check digits (02 to 98), the reference. "" when the
 /// reference is empty, too long or holds another character.
 QString makeCreditorReference(QStringView reference);

@@ -33,6 +33,10 @@ QString ibanPrintForm(QStringView electronic);
 /// last two). A bank code missing from the National Bank's list is not refused.
 PaymentCheck belgianIbanValidity(QStringView electronic);
 
+/// An IBAN in electronic form as the library's IBAN check takes it:
+/// belgianIbanValidity for a Belgian IBAN, ibanValidity for any other.
+PaymentCheck ibanAndAccountValidity(QStringView electronic);
+
 /// The Belgian account number in the notation before IBAN (twelve digits;
 /// blanks, dashes, dots and slashes between them are allowed) to its IBAN in
 /// electronic form ("BE71096123456769"). "" when the number is not twelve

@@ -10,6 +10,9 @@ namespace qor {
 /// The IBAN is four characters longer than the BBAN.
 const char *ibanBbanClasses(QStringView country);
 
+/// The BBAN length of an IBAN country, 0 for a country outside the registry.
+int ibanBbanLength(QStringView country);
+
 /// The number of countries in the registry.
 int ibanCountryCount();
 

@@ -36,15 +36,6 @@ QString refused(bool mbox, qint32 whatId, qint32 notationId)
     return QString();
 }
 
-// An IBAN as the checks accept it: right for its country, and for Belgium
-// also right for the account's own check digits.
-bool isAcceptedIban(const QString &electronic)
-{
-    if (electronic.startsWith(u"BE"))
-        return belgianIbanValidity(electronic) == PaymentCheck::Valid;
-    return ibanValidity(electronic) == PaymentCheck::Valid;
-}
-
 } // namespace
 
 QString controleerIBAN(QString &iban, bool mbox, qint32 offset)
@@ -53,7 +44,7 @@ QString controleerIBAN(QString &iban, bool mbox, qint32 offset)
     if (isBlankText(iban))
         return QString();
     iban = ibanElectronicForm(iban);
-    if (!isAcceptedIban(iban))
+    if (ibanAndAccountValidity(iban) != PaymentCheck::Valid)
         return refused(mbox, IbanWrong, IbanNotation);
     return ibanPrintForm(iban);
 }

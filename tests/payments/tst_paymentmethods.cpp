@@ -19,7 +19,7 @@ private slots:
     void controleerIBAN_data()
     {
         test::addMethodCallColumns();
-        
+
         const QVariantMap wrong = messageBox("Ongeldig IBAN-rekeningnummer :" + cr2
                 + "Schrijfwijze  BE00 0000 0000 0000  of  BE00000000000000",
             48, "Fout !");
