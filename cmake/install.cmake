@@ -9,6 +9,8 @@ qor_public_headers(
   platform/recordingplatform.h
   runtime/regionalsettings.h runtime/runtimeerror.h runtime/variant.h runtime/propertybag.h
   grid/gridcolumnwidths.h
+  payments/paymentcheck.h payments/iban.h payments/ibanregistry.h payments/bic.h
+  payments/belgianbanks.h payments/creditorreference.h payments/epcpayload.h payments/qrcode.h
   host/*.h)
 set(QOR_PACKAGE_TARGETS qorGenLib)
 if(QORGENLIB_BUILD_WIDGETS)

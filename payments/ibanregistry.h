@@ -1,5 +1,7 @@
 #pragma once
 
+#include "qorgenlib_export.h"
+
 #include <QStringView>
 
 namespace qor {
@@ -11,9 +13,9 @@ namespace qor {
 const char *ibanBbanClasses(QStringView country);
 
 /// The BBAN length of an IBAN country, 0 for a country outside the registry.
-int ibanBbanLength(QStringView country);
+QORGENLIB_EXPORT int ibanBbanLength(QStringView country);
 
 /// The number of countries in the registry.
-int ibanCountryCount();
+QORGENLIB_EXPORT int ibanCountryCount();
 
 } // namespace qor

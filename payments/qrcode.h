@@ -1,5 +1,7 @@
 #pragma once
 
+#include "qorgenlib_export.h"
+
 #include <QByteArray>
 #include <QString>
 
@@ -27,19 +29,19 @@ constexpr int defaultQrModule = 4;
 /// The QR code of a text (its UTF-8 bytes, error correction level M, the
 /// smallest version that holds them). Empty for an empty text, a text with a
 /// lone surrogate, or one too long for any QR code.
-QrMatrix encodeQrCode(const QString &payload);
+QORGENLIB_EXPORT QrMatrix encodeQrCode(const QString &payload);
 
 /// The code as a black-and-white PNG image with the quiet zone, moduleSize
 /// pixels per module.
-QByteArray qrCodePng(const QrMatrix &code, int moduleSize);
+QORGENLIB_EXPORT QByteArray qrCodePng(const QrMatrix &code, int moduleSize);
 /// The code as an SVG image with the quiet zone, moduleSize units per module.
-QByteArray qrCodeSvg(const QrMatrix &code, int moduleSize);
+QORGENLIB_EXPORT QByteArray qrCodeSvg(const QrMatrix &code, int moduleSize);
 
 /// Saves the QR code of a text as PNG or SVG, by the file's extension (upper
 /// or lower case), through the platform's file door, which writes the whole
 /// file or leaves the old one. False for another extension, a module size
 /// outside 1 to 20, a text encodeQrCode refuses, or a file that cannot be
 /// written.
-bool saveQrCode(const QString &payload, const QString &file, int moduleSize);
+QORGENLIB_EXPORT bool saveQrCode(const QString &payload, const QString &file, int moduleSize);
 
 } // namespace qor
