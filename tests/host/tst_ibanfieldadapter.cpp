@@ -93,6 +93,7 @@ private slots:
         QWidget form;
         auto *layout = new QFormLayout(&form);
         auto *field = new QLineEdit;
+        field->setMinimumWidth(200);
         auto *bic = new QLabel;
         layout->addRow(QStringLiteral("IBAN :"), field);
         layout->addRow(QStringLiteral("BIC :"), bic);
