@@ -1,4 +1,5 @@
 #include "payments/qrcode.h"
+#include "tests/common/qrdecoder.h"
 #include "tests/common/recordingmachine.h"
 
 #include <QDir>
@@ -15,26 +16,14 @@ class TestQrCode : public QObject
 
     QTemporaryDir m_dir;
 
-    static QByteArray run(const QString &program, const QStringList &arguments)
-    {
-        QProcess process;
-        process.start(program, arguments);
-        if (!process.waitForFinished(20000))
-            return program.toUtf8() + " did not finish";
-        return process.readAllStandardOutput();
-    }
-
-    // What zbarimg reads in a file; an SVG file is drawn by rsvg-convert first.
+    // An SVG file is drawn by rsvg-convert first.
     static QString decoded(const QString &file)
     {
-        QString image = file;
-        if (file.endsWith(QLatin1String(".svg"))) {
-            image = file + QStringLiteral(".drawn.png");
-            run(QStringLiteral("rsvg-convert"), { QStringLiteral("-o"), image, file });
-        }
-        return QString::fromUtf8(run(QStringLiteral("zbarimg"),
-            { QStringLiteral("--quiet"), QStringLiteral("--raw"), QStringLiteral("-Sbinary"),
-                image }));
+        if (!file.endsWith(QLatin1String(".svg")))
+            return test::decodedQrCode(file);
+        const QString image = file + QStringLiteral(".drawn.png");
+        QProcess::execute(QStringLiteral("rsvg-convert"), { QStringLiteral("-o"), image, file });
+        return test::decodedQrCode(image);
     }
 
 private slots:
