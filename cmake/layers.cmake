@@ -63,14 +63,15 @@ function(qor_layer name)
   endif()
 endfunction()
 
-# qor_subsystem(folder [USES sibling...])
+# qor_subsystem(folder [USES sibling...] [LIBS library...])
 # A subsystem: the layer qor_<folder>, which sees the frame services and the
-# sibling subsystems it names, and no other. The subsystems and what each may
-# use are kept for the façade, the libraries and the layer test.
+# sibling subsystems it names, and no other; LIBS are outside libraries it
+# needs. The subsystems and what each may use are kept for the façade, the
+# libraries and the layer test.
 function(qor_subsystem folder)
-  cmake_parse_arguments(S "" "" "USES" ${ARGN})
+  cmake_parse_arguments(S "" "" "USES;LIBS" ${ARGN})
   list(TRANSFORM S_USES PREPEND qor_ OUTPUT_VARIABLE uses)
-  qor_layer(qor_${folder} DIRS ${folder} DEPENDS qor_frame USES ${uses})
+  qor_layer(qor_${folder} DIRS ${folder} DEPENDS qor_frame USES ${uses} LIBS ${S_LIBS})
   set_property(GLOBAL APPEND PROPERTY QOR_SUBSYSTEMS ${folder})
   set_property(GLOBAL PROPERTY QOR_SUBSYSTEM_USES_${folder} ${S_USES})
 endfunction()
