@@ -1,4 +1,3 @@
-#include "lib/clsqorgenlib.h"
 #include "tools/qorgen/batchcommand.h"
 #include "tools/qorgen/callcommand.h"
 #include "tools/qorgen/helptext.h"
@@ -55,7 +54,7 @@ int main(int argc, char *argv[])
     if (command == QLatin1String("records"))
         return RecordsCommand::run(arguments.mid(1), stdin, stdout, stderr);
     if (command == QLatin1String("methods") && arguments.size() == 1) {
-        print(stdout, JsonWriter::indented(TypeInfoJson::describe(clsqorGenLib::typeLibrary())));
+        print(stdout, JsonWriter::indented(TypeInfoJson::describeAll()));
         return 0;
     }
     if (command == QLatin1String("--help") || command == QLatin1String("-h")
