@@ -58,6 +58,26 @@ struct VatExemption
     bool operator==(const VatExemption &) const = default;
 };
 
+/// A document that supports the invoice (BG-24): a time sheet, a
+/// specification, a delivery note, given by reference or attached.
+struct SupportingDocument
+{
+    /// BT-122: the document's identifier; required.
+    QString id;
+    /// BT-123: what it is.
+    QString description;
+    /// BT-124: where it can be found.
+    QString externalUri;
+    /// BT-125: the attached document, base64 encoded as in the UBL document.
+    QString attachmentBase64;
+    /// BT-125-1: the attachment's MIME type ("application/pdf").
+    QString attachmentMimeCode;
+    /// BT-125-2: the attachment's file name.
+    QString attachmentFilename;
+
+    bool operator==(const SupportingDocument &) const = default;
+};
+
 /// Where and when the goods or services were delivered (BG-13).
 struct Delivery
 {
@@ -116,6 +136,9 @@ struct Invoice
     QString despatchAdviceReference;
     /// BT-17.
     QString tenderReference;
+    /// BT-18 with scheme BT-18-1: an object the invoice is for (a
+    /// subscription, a meter, a call).
+    Identifier invoicedObject;
     /// BT-20: the payment terms as text.
     QString paymentTerms;
     /// BT-22: free text notes, one per entry.
@@ -137,6 +160,8 @@ struct Invoice
     QList<AllowanceCharge> allowanceCharges;
     /// BG-25: the lines; at least one.
     QList<InvoiceLine> lines;
+    /// BG-24: supporting documents.
+    QList<SupportingDocument> supportingDocuments;
     /// BT-120 / BT-121 per VAT category.
     QList<VatExemption> vatExemptions;
     /// BT-113: the amount already paid.
