@@ -1,5 +1,6 @@
 #include "tools/qorgen/automationclass.h"
 
+#include "lib/clsqoreinvoice.h"
 #include "lib/clsqorgenlib.h"
 #include "lib/typelibrary.h"
 
@@ -24,6 +25,7 @@ const QList<AutomationClass> &AutomationClass::all()
 {
     static const QList<AutomationClass> classes {
         classOf<clsqorGenLib>(QStringLiteral("clsqorGenLib")),
+        classOf<clsqorEInvoice>(QStringLiteral("clsqorEInvoice")),
     };
     return classes;
 }

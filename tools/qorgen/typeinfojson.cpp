@@ -90,7 +90,8 @@ JsonValue TypeInfoJson::describeAll()
     JsonValue classes = JsonValue::array();
     for (const AutomationClass &cls : AutomationClass::all().mid(1)) {
         JsonValue entry = JsonValue::object().insert(QStringLiteral("name"), cls.name);
-        for (const auto &[field, value] : describe(cls.typeLibrary()).toObject())
+        const JsonValue type = describe(cls.typeLibrary());
+        for (const auto &[field, value] : type.toObject())
             entry.insert(field, value);
         classes.append(std::move(entry));
     }
