@@ -1,0 +1,5 @@
+qor_add_test(tst_iban ${dir}/tst_iban.cpp)
+qor_add_test(tst_bic ${dir}/tst_bic.cpp)
+qor_add_test(tst_belgianbanks ${dir}/tst_belgianbanks.cpp)
+qor_add_test(tst_creditorreference ${dir}/tst_creditorreference.cpp)
+qor_add_test(tst_epcpayload ${dir}/tst_epcpayload.cpp)
