@@ -6,6 +6,8 @@
 #include "einvoice/vatcategory.h"
 #include "lib/frame/catalogue.h"
 #include "lib/frame/modgenlib.h"
+#include "payments/bic.h"
+#include "payments/iban.h"
 #include "validate/vatnumber.h"
 
 #include <QLocale>
@@ -407,6 +409,13 @@ void RuleCheck::checkPayment()
             report(Rule::PaymentMeansCode, PaymentCodeMissing);
         if (isCreditTransfer(means.code) && isBlank(means.accountId))
             report(Rule::CreditTransferAccount, TransferAccountMissing);
+        // An account that starts with two letters is taken for an IBAN.
+        const bool iban = means.accountId.size() > 2 && means.accountId.at(0).isLetter()
+            && means.accountId.at(1).isLetter();
+        if (iban && checkIban(means.accountId) != PaymentCheck::Valid)
+            report(Rule::AccountIban, QString(), text(IbanInvalid).arg(means.accountId));
+        if (!means.bic.isEmpty() && checkBic(means.bic) != PaymentCheck::Valid)
+            report(Rule::AccountBic, QString(), text(BicInvalid).arg(means.bic));
         if (means.code == PaymentMeansCode::SepaDirectDebit && isBlank(means.mandateReference))
             report(Rule::DirectDebitMandate, MandateMissing);
     }
