@@ -2,3 +2,7 @@ qor_add_test(tst_decimal ${dir}/tst_decimal.cpp)
 qor_add_test(tst_invoicetotals ${dir}/tst_invoicetotals.cpp)
 qor_add_test(tst_invoicejson ${dir}/tst_invoicejson.cpp)
 target_compile_definitions(tst_invoicejson PRIVATE QOR_EINVOICE_TEST_DATA="${dir}/data")
+# Runs the official rules (Java) on every document written: one call per test.
+qor_add_test(tst_ublvalidation ${dir}/tst_ublvalidation.cpp TIMEOUT 400)
+target_compile_definitions(tst_ublvalidation PRIVATE
+  QOR_EINVOICE_TEST_DATA="${dir}" QOR_EINVOICE_RULES="${QORGENLIB_EINVOICE_RULES}")

@@ -1,0 +1,21 @@
+#pragma once
+
+#include "einvoice/invoice.h"
+
+#include <QByteArray>
+
+namespace qor::einvoice {
+
+/// Writes the invoice as a UBL 2.1 Invoice or CreditNote (by its kind) with
+/// the Peppol BIS Billing 3.0 customization and profile identifiers, UTF-8,
+/// indented.
+///
+/// The amounts written are amountsToWrite(): those a document read states,
+/// otherwise the library's computation. The model is written as it is, even
+/// when it breaks the rules of the norm or of Peppol, so that such a document
+/// can be shown to the official validation: a host should check the model
+/// with the library's rule check first and write only a model without
+/// findings. Empty fields are left out.
+QByteArray writeUbl(const Invoice &invoice);
+
+} // namespace qor::einvoice
