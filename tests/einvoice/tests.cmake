@@ -6,3 +6,7 @@ target_compile_definitions(tst_invoicejson PRIVATE QOR_EINVOICE_TEST_DATA="${dir
 qor_add_test(tst_ublvalidation ${dir}/tst_ublvalidation.cpp TIMEOUT 400)
 target_compile_definitions(tst_ublvalidation PRIVATE
   QOR_EINVOICE_TEST_DATA="${dir}" QOR_EINVOICE_RULES="${QORGENLIB_EINVOICE_RULES}")
+# The library's own rule check, each broken model proved by the official rules in one run.
+qor_add_test(tst_rulecheck ${dir}/tst_rulecheck.cpp TIMEOUT 300)
+target_compile_definitions(tst_rulecheck PRIVATE
+  QOR_EINVOICE_TEST_DATA="${dir}" QOR_EINVOICE_RULES="${QORGENLIB_EINVOICE_RULES}")
