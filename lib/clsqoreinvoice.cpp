@@ -107,12 +107,13 @@ struct clsqorEInvoice::PartyProperties
         party.address.streetName = street;
         party.address.postalZone = postalCode;
         party.address.cityName = city;
-        party.address.countryCode = compact(country);
+        party.address.countryCode = country.trimmed().toUpper();
         party.vatIdentifier = compact(vat);
         const QString enterprise = compact(enterpriseNr);
-        party.legalRegistration = enterprise.isEmpty()
-            ? Identifier()
-            : Identifier { enterprise, QString::fromUtf16(Scheme::BelgianEnterpriseNumber) };
+        if (enterprise != party.legalRegistration.id)
+            party.legalRegistration = enterprise.isEmpty()
+                ? Identifier()
+                : Identifier { enterprise, QString::fromUtf16(Scheme::BelgianEnterpriseNumber) };
         party.electronicAddress
             = peppolId.isEmpty() ? party.legalRegistration : identifierOf(peppolId);
         party.contact = { contact, phone, email };
@@ -168,10 +169,12 @@ clsqorEInvoice::PartyProperties clsqorEInvoice::partyProperties(bool seller)
 
 Invoice clsqorEInvoice::document()
 {
+    // Fields the properties leave as they were keep what a loaded document said.
     Invoice invoice = *m_rest;
     invoice.kind
         = m_DocumentType == TypeCode::CreditNote ? DocumentKind::CreditNote : DocumentKind::Invoice;
-    invoice.typeCode = m_DocumentType;
+    if (m_DocumentType != m_rest->effectiveTypeCode())
+        invoice.typeCode = m_DocumentType;
     invoice.number = m_Number;
     invoice.issueDate = dateOf(m_IssueDate);
     invoice.dueDate = dateOf(m_DueDate);
@@ -179,25 +182,38 @@ Invoice clsqorEInvoice::document()
     invoice.currency = m_Currency;
     invoice.buyerReference = m_BuyerReference;
     invoice.purchaseOrderReference = m_OrderReference;
-    invoice.notes = m_Note.isEmpty() ? QStringList() : QStringList { m_Note };
-    invoice.precedingInvoices.clear();
+    if (m_Note != m_rest->notes.join(QLatin1Char('\n')))
+        invoice.notes = m_Note.isEmpty() ? QStringList() : QStringList { m_Note };
+    if (!invoice.precedingInvoices.isEmpty())
+        invoice.precedingInvoices.removeFirst();
     if (!m_PrecedingInvoice.isEmpty())
-        invoice.precedingInvoices.append({ m_PrecedingInvoice, QDate() });
+        invoice.precedingInvoices.prepend({ m_PrecedingInvoice,
+            m_rest->precedingInvoices.value(0).number == m_PrecedingInvoice
+                ? m_rest->precedingInvoices.first().issueDate
+                : QDate() });
     invoice.paymentTerms = m_PaymentTerms;
-    invoice.paymentMeans.clear();
-    if (!m_IBAN.isEmpty() || !m_PaymentReference.isEmpty()) {
-        PaymentMeans means;
-        means.code = m_PaymentMeansCode;
-        means.accountId = compact(m_IBAN);
-        means.bic = compact(m_BIC);
-        means.remittanceInformation = remittanceOf(m_PaymentReference);
-        invoice.paymentMeans.append(means);
-    }
-    invoice.paidAmount
-        = m_PaidAmount == 0 ? std::nullopt : std::optional(decimalFromHost(m_PaidAmount));
+    writePaymentMeans(invoice);
+    if (!m_rest->paidAmount || amountOf(*m_rest->paidAmount) != m_PaidAmount)
+        invoice.paidAmount
+            = m_PaidAmount == 0 ? std::nullopt : std::optional(decimalFromHost(m_PaidAmount));
     partyProperties(true).writeTo(invoice.seller);
     partyProperties(false).writeTo(invoice.buyer);
     return invoice;
+}
+
+void clsqorEInvoice::writePaymentMeans(Invoice &invoice) const
+{
+    PaymentMeans means = invoice.paymentMeans.value(0, PaymentMeans());
+    if (!invoice.paymentMeans.isEmpty())
+        invoice.paymentMeans.removeFirst();
+    if (m_IBAN.isEmpty() && m_PaymentReference.isEmpty())
+        return;
+    means.code = m_PaymentMeansCode;
+    means.accountId = compact(m_IBAN);
+    means.bic = compact(m_BIC);
+    if (m_PaymentReference != means.remittanceInformation)
+        means.remittanceInformation = remittanceOf(m_PaymentReference);
+    invoice.paymentMeans.prepend(means);
 }
 
 void clsqorEInvoice::setDocument(const Invoice &invoice)

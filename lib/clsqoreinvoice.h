@@ -145,6 +145,7 @@ public:
 private:
     struct PartyProperties;
     PartyProperties partyProperties(bool seller);
+    void writePaymentMeans(qor::einvoice::Invoice &invoice) const;
 
     qint32 m_Offset = 0;
     qint32 m_DocumentType = 380;
