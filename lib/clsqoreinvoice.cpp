@@ -4,12 +4,14 @@
 #include "einvoice/invoicejson.h"
 #include "einvoice/invoicetotals.h"
 #include "einvoice/rulecheck.h"
+#include "einvoice/ublwriter.h"
 #include "einvoice/vatcategory.h"
 #include "lib/latebinding.h"
 #include "lib/typelibrary.h"
 #include "runtime/dates.h"
 #include "runtime/runtimeerror.h"
 
+#include <QFile>
 #include <QJsonDocument>
 
 using namespace qor;
@@ -17,6 +19,7 @@ using namespace qor::einvoice;
 
 namespace {
 
+constexpr int pathFileAccessError = 75;
 const Decimal standardBelgianRate = Decimal::fromInt(21);
 const QString structuredMark = QStringLiteral("+++");
 
@@ -296,6 +299,23 @@ QVariant clsqorEInvoice::Check()
     for (const RuleBreach &breach : checkRules(document(), m_Offset))
         found.append(QVariant(QVariantList { breach.ruleId, breach.message }));
     return found;
+}
+
+bool clsqorEInvoice::SaveUBL(const QString &FileName)
+{
+    const Invoice invoice = document();
+    if (!checkRules(invoice, m_Offset).isEmpty())
+        return false;
+    const QByteArray ubl = writeUbl(invoice);
+    QFile file(FileName);
+    if (!file.open(QIODevice::WriteOnly) || file.write(ubl) != ubl.size())
+        throw RuntimeError(pathFileAccessError, QStringLiteral("Path/File access error"));
+    return true;
+}
+
+QString clsqorEInvoice::GetUBL()
+{
+    return QString::fromUtf8(writeUbl(document()));
 }
 
 QString clsqorEInvoice::GetJSON()

@@ -128,6 +128,13 @@ public:
     /// The rules the document breaks as an array of [rule id, message] pairs
     /// in the language of Offset; an empty array when it may be sent.
     Q_INVOKABLE QVariant Check();
+    /// Checks the document and, when no rule is broken, writes it as a Peppol
+    /// BIS 3.0 UBL file: True. False when rules are broken (nothing is
+    /// written; Check tells which). A file that cannot be written raises
+    /// run-time error 75.
+    Q_INVOKABLE bool SaveUBL(const QString &FileName);
+    /// The document as Peppol BIS 3.0 UBL text, written as it is, unchecked.
+    Q_INVOKABLE QString GetUBL();
     /// The document as JSON (the shape of docs/einvoice.md).
     Q_INVOKABLE QString GetJSON();
     /// Takes a document as JSON; a text that is not such a document raises
