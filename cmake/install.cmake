@@ -9,6 +9,9 @@ qor_public_headers(
   platform/recordingplatform.h
   runtime/regionalsettings.h runtime/runtimeerror.h runtime/variant.h runtime/propertybag.h
   grid/gridcolumnwidths.h
+  einvoice/decimal.h einvoice/party.h einvoice/vatcategory.h einvoice/allowancecharge.h
+  einvoice/invoiceline.h einvoice/payment.h einvoice/invoiceamounts.h einvoice/invoice.h
+  einvoice/invoicetotals.h einvoice/invoicejson.h einvoice/ublwriter.h einvoice/ublreader.h
   host/*.h)
 set(QOR_PACKAGE_TARGETS qorGenLib)
 if(QORGENLIB_BUILD_WIDGETS)

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "qorgenlib_export.h"
 #include <QString>
 #include <QtGlobal>
 
@@ -16,7 +17,7 @@ namespace qor::einvoice {
 /// An operation whose result does not fit (more than 18 significant digits,
 /// or a scale above maxScale) gives an invalid decimal, which every further
 /// operation passes on; isValid() tells it. Nothing ever wraps around.
-class Decimal
+class QORGENLIB_EXPORT Decimal
 {
 public:
     /// The largest number of digits after the point.

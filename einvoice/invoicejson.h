@@ -1,6 +1,7 @@
 #pragma once
 
 #include "einvoice/invoice.h"
+#include "qorgenlib_export.h"
 
 #include <QJsonObject>
 
@@ -11,7 +12,7 @@ namespace qor::einvoice {
 /// are strings ("12.50") so that no digit is lost, dates are "YYYY-MM-DD",
 /// the kind is "invoice" or "creditNote". Empty texts, invalid dates,
 /// absent optionals and empty lists are left out.
-QJsonObject invoiceToJson(const Invoice &invoice);
+QORGENLIB_EXPORT QJsonObject invoiceToJson(const Invoice &invoice);
 
 /// What invoiceFromJson() made of a JSON object.
 struct InvoiceFromJson
@@ -27,6 +28,6 @@ struct InvoiceFromJson
 /// type, a date that does not exist or an amount that is not a plain decimal
 /// of at most 18 digits is reported in errors and otherwise left at its
 /// default. Never throws.
-InvoiceFromJson invoiceFromJson(const QJsonObject &json);
+QORGENLIB_EXPORT InvoiceFromJson invoiceFromJson(const QJsonObject &json);
 
 } // namespace qor::einvoice

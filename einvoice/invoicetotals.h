@@ -1,6 +1,7 @@
 #pragma once
 
 #include "einvoice/invoice.h"
+#include "qorgenlib_export.h"
 
 namespace qor::einvoice {
 
@@ -10,7 +11,7 @@ inline constexpr int amountDecimals = 2;
 /// BT-131: quantity × (net price ÷ base quantity) rounded to two decimals,
 /// plus the line's charges, minus its allowances. A base quantity of zero or
 /// an amount too large gives an invalid decimal.
-Decimal lineNetAmount(const InvoiceLine &line);
+QORGENLIB_EXPORT Decimal lineNetAmount(const InvoiceLine &line);
 
 /// The line net amounts, the VAT breakdown and the document totals of the
 /// invoice as the norm defines them (BR-CO-10 to BR-CO-17 and the
@@ -24,11 +25,11 @@ Decimal lineNetAmount(const InvoiceLine &line);
 ///   BT-109 = BT-106 − BT-107 + BT-108, BT-110 = Σ BT-117,
 ///   BT-112 = BT-109 + BT-110, BT-115 = BT-112 − BT-113 + BT-114.
 /// The invoice's statedAmounts are ignored. Every amount has two decimals.
-InvoiceAmounts computeAmounts(const Invoice &invoice);
+QORGENLIB_EXPORT InvoiceAmounts computeAmounts(const Invoice &invoice);
 
 /// The amounts a writer puts in the document: those the invoice states when
 /// it was read from one, otherwise the computed ones.
-InvoiceAmounts amountsToWrite(const Invoice &invoice);
+QORGENLIB_EXPORT InvoiceAmounts amountsToWrite(const Invoice &invoice);
 
 /// One amount a document states differently from the library's computation.
 struct AmountDifference
@@ -45,7 +46,7 @@ struct AmountDifference
 
 /// Where the stated amounts differ from the computed ones (values compared,
 /// not texts: 5 equals 5.00). Breakdowns are matched by category and rate.
-QList<AmountDifference> compareAmounts(
+QORGENLIB_EXPORT QList<AmountDifference> compareAmounts(
     const InvoiceAmounts &stated, const InvoiceAmounts &computed);
 
 } // namespace qor::einvoice

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "einvoice/invoice.h"
+#include "qorgenlib_export.h"
 
 #include <QByteArray>
 
@@ -16,6 +17,6 @@ namespace qor::einvoice {
 /// can be shown to the official validation: a host should check the model
 /// with the library's rule check first and write only a model without
 /// findings. Empty fields are left out.
-QByteArray writeUbl(const Invoice &invoice);
+QORGENLIB_EXPORT QByteArray writeUbl(const Invoice &invoice);
 
 } // namespace qor::einvoice

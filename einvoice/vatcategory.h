@@ -1,5 +1,6 @@
 #pragma once
 
+#include "qorgenlib_export.h"
 #include <QString>
 
 namespace qor::einvoice {
@@ -28,13 +29,13 @@ inline const QString CanaryIslands = QStringLiteral("L");
 inline const QString CeutaMelilla = QStringLiteral("M");
 
 /// True for the categories whose VAT amount is always zero (Z, E, AE, K, G, O).
-bool hasZeroVat(const QString &category);
+QORGENLIB_EXPORT bool hasZeroVat(const QString &category);
 /// True for the categories that carry a rate (all but O).
-bool hasRate(const QString &category);
+QORGENLIB_EXPORT bool hasRate(const QString &category);
 /// The exemption reason code (BT-121) the category always has, if any:
 /// "VATEX-EU-AE", "VATEX-EU-IC", "VATEX-EU-G", "VATEX-EU-O"; empty for the
 /// others (an exempt category E needs the host's own reason).
-QString defaultExemptionCode(const QString &category);
+QORGENLIB_EXPORT QString defaultExemptionCode(const QString &category);
 } // namespace VatCategory
 
 } // namespace qor::einvoice
