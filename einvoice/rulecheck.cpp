@@ -409,15 +409,18 @@ void RuleCheck::checkPayment()
             report(Rule::PaymentMeansCode, PaymentCodeMissing);
         if (isCreditTransfer(means.code) && isBlank(means.accountId))
             report(Rule::CreditTransferAccount, TransferAccountMissing);
-        // An account that starts with two letters is taken for an IBAN.
-        const bool iban = means.accountId.size() > 2 && means.accountId.at(0).isLetter()
-            && means.accountId.at(1).isLetter();
-        if (iban && checkIban(means.accountId) != PaymentCheck::Valid)
+        if (means.code == PaymentMeansCode::SepaDirectDebit && isBlank(means.mandateReference))
+            report(Rule::DirectDebitMandate, MandateMissing);
+        // A SEPA transfer pays to an IBAN, and so does any Belgian account;
+        // other accounts of a plain transfer may be numbered otherwise.
+        const bool sepa = means.code == PaymentMeansCode::SepaCreditTransfer
+            || means.accountId.startsWith(countryBelgium);
+        if (!sepa)
+            continue;
+        if (!isBlank(means.accountId) && checkIban(means.accountId) != PaymentCheck::Valid)
             report(Rule::AccountIban, QString(), text(IbanInvalid).arg(means.accountId));
         if (!means.bic.isEmpty() && checkBic(means.bic) != PaymentCheck::Valid)
             report(Rule::AccountBic, QString(), text(BicInvalid).arg(means.bic));
-        if (means.code == PaymentMeansCode::SepaDirectDebit && isBlank(means.mandateReference))
-            report(Rule::DirectDebitMandate, MandateMissing);
     }
 }
 

@@ -20,7 +20,7 @@ struct RuleBreach
 /// allowances and charges, payment means, and for a document that was read
 /// the amounts it states. Belgian identifiers are checked too: the enterprise
 /// number of every scheme-0208 identifier, the check digits of a Belgian VAT
-/// number, the IBAN and BIC of a credit transfer.
+/// number, the IBAN and BIC of a SEPA credit transfer or a Belgian account.
 ///
 /// The messages are catalogue texts in the language of the offset (0 Dutch,
 /// 10000 French, 20000 English). An empty list means no known rule is broken.

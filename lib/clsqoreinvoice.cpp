@@ -4,6 +4,7 @@
 #include "einvoice/invoicejson.h"
 #include "einvoice/invoicetotals.h"
 #include "einvoice/rulecheck.h"
+#include "einvoice/ublreader.h"
 #include "einvoice/ublwriter.h"
 #include "einvoice/vatcategory.h"
 #include "lib/latebinding.h"
@@ -19,6 +20,7 @@ using namespace qor::einvoice;
 
 namespace {
 
+constexpr int invalidArgument = 5;
 constexpr int pathFileAccessError = 75;
 const Decimal standardBelgianRate = Decimal::fromInt(21);
 const QString structuredMark = QStringLiteral("+++");
@@ -313,6 +315,17 @@ bool clsqorEInvoice::SaveUBL(const QString &FileName)
     return true;
 }
 
+void clsqorEInvoice::LoadUBL(const QString &FileName)
+{
+    QFile file(FileName);
+    if (!file.open(QIODevice::ReadOnly))
+        throw RuntimeError::fileNotFound();
+    const UblReadResult read = readUbl(file.read(maxUblDocumentSize + 1));
+    if (!read.ok())
+        throw RuntimeError(invalidArgument, read.errors.first());
+    setDocument(read.invoice);
+}
+
 QString clsqorEInvoice::GetUBL()
 {
     return QString::fromUtf8(writeUbl(document()));
@@ -332,7 +345,7 @@ void clsqorEInvoice::SetJSON(const QString &Text)
             5, QStringLiteral("Not a JSON object at character %1").arg(parseError.offset));
     const InvoiceFromJson read = invoiceFromJson(json.object());
     if (!read.errors.isEmpty())
-        throw RuntimeError(5, read.errors.first());
+        throw RuntimeError(invalidArgument, read.errors.first());
     setDocument(read.invoice);
 }
 

@@ -133,6 +133,11 @@ public:
     /// written; Check tells which). A file that cannot be written raises
     /// run-time error 75.
     Q_INVOKABLE bool SaveUBL(const QString &FileName);
+    /// Takes a UBL invoice or credit note from a file. A file that cannot be
+    /// opened raises run-time error 53; a document that cannot be read raises
+    /// 5, its description naming the place. Amounts the document states are
+    /// kept and written back as they are.
+    Q_INVOKABLE void LoadUBL(const QString &FileName);
     /// The document as Peppol BIS 3.0 UBL text, written as it is, unchecked.
     Q_INVOKABLE QString GetUBL();
     /// The document as JSON (the shape of docs/einvoice.md).

@@ -2,6 +2,7 @@
 
 #include "einvoice/invoicejson.h"
 #include "einvoice/rulecheck.h"
+#include "einvoice/ublreader.h"
 #include "einvoice/ublwriter.h"
 
 #include <QFile>
@@ -53,8 +54,8 @@ Options parse(const QStringList &arguments, std::FILE *err)
 {
     Options options;
     const QString action = arguments.value(0);
-    if (action != u"write" && action != u"check") {
-        complain(err, QStringLiteral("write or check is wanted (see qorgen --help)"));
+    if (action != u"write" && action != u"check" && action != u"read") {
+        complain(err, QStringLiteral("write, read or check is wanted (see qorgen --help)"));
         return options;
     }
     for (qsizetype i = 1; i < arguments.size(); ++i) {
@@ -100,7 +101,22 @@ std::optional<QByteArray> readInput(const QString &name, std::FILE *in, std::FIL
 }
 
 // The model of a JSON text; every member that cannot be taken is said on err.
-std::optional<einvoice::Invoice> modelOf(
+// The model of a UBL document; what it cannot read is said on err, and so is
+// what the model drops.
+std::optional<einvoice::Invoice> modelOfUbl(
+    const QByteArray &text, const QString &name, std::FILE *err)
+{
+    const einvoice::UblReadResult read = einvoice::readUbl(text);
+    for (const QString &error : read.errors)
+        complain(err, name + QStringLiteral(": ") + error);
+    for (const QString &dropped : read.dropped)
+        complain(err, name + QStringLiteral(": dropped ") + dropped);
+    if (!read.ok())
+        return std::nullopt;
+    return read.invoice;
+}
+
+std::optional<einvoice::Invoice> modelOfJson(
     const QByteArray &text, const QString &name, std::FILE *err)
 {
     QJsonParseError parseError;
@@ -146,9 +162,20 @@ int EInvoiceCommand::run(
     const std::optional<QByteArray> text = readInput(options.input, in, err);
     if (!text)
         return cannotRun;
-    const std::optional<einvoice::Invoice> invoice = modelOf(*text, options.input, err);
+    // A document starts with "<", a JSON model with "{".
+    const bool isUbl = text->trimmed().startsWith('<');
+    if (isUbl && options.action == u"write") {
+        complain(err, QStringLiteral("write takes a JSON model, not XML"));
+        return cannotRun;
+    }
+    const std::optional<einvoice::Invoice> invoice
+        = isUbl ? modelOfUbl(*text, options.input, err) : modelOfJson(*text, options.input, err);
     if (!invoice)
         return cannotRun;
+    if (options.action == u"read") {
+        write(out, QJsonDocument(einvoice::invoiceToJson(*invoice)).toJson());
+        return done;
+    }
     const QList<einvoice::RuleBreach> found
         = einvoice::checkRules(*invoice, options.languageOffset);
     std::FILE *report = options.action == u"check" ? out : err;
