@@ -11,8 +11,10 @@ qor_add_test(tst_hostobjects ${dir}/tst_hostobjects.cpp)
 qor_add_test(tst_session ${dir}/tst_session.cpp)
 target_link_libraries(tst_session PRIVATE qorgenbridge)
 
-foreach(process_test tst_qorgenbatch tst_qorgencall)
+foreach(process_test tst_qorgenbatch tst_qorgencall tst_qorgeneinvoice)
   qor_add_test(${process_test} ${dir}/${process_test}.cpp ${dir}/qorgenprocess.h)
   target_compile_definitions(${process_test} PRIVATE QORGEN_PATH="$<TARGET_FILE:qorgen>")
   add_dependencies(${process_test} qorgen)
 endforeach()
+target_compile_definitions(tst_qorgeneinvoice PRIVATE
+  QOR_EINVOICE_TEST_DATA="${PROJECT_SOURCE_DIR}/tests/einvoice" QOR_EINVOICE_RULES="${QORGENLIB_EINVOICE_RULES}")
