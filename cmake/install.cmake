@@ -12,6 +12,8 @@ qor_public_headers(
   einvoice/decimal.h einvoice/party.h einvoice/vatcategory.h einvoice/allowancecharge.h
   einvoice/invoiceline.h einvoice/payment.h einvoice/invoiceamounts.h einvoice/invoice.h
   einvoice/invoicetotals.h einvoice/invoicejson.h einvoice/ublwriter.h einvoice/ublreader.h
+  payments/paymentcheck.h payments/iban.h payments/ibanregistry.h payments/bic.h
+  payments/belgianbanks.h payments/creditorreference.h payments/epcpayload.h payments/qrcode.h
   host/*.h)
 set(QOR_PACKAGE_TARGETS qorGenLib)
 if(QORGENLIB_BUILD_WIDGETS)

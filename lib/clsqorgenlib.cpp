@@ -22,6 +22,9 @@
 #include "lib/frame/modgenlib.h"
 #include "lib/typelibrary.h"
 #include "lib/frame/windowsize.h"
+#include "payments/epcpayload.h"
+#include "payments/paymentmethods.h"
+#include "payments/qrcode.h"
 #include "platform/platform.h"
 #include "runtime/conversion.h"
 #include "runtime/variant.h"
@@ -171,6 +174,54 @@ QString clsqorGenLib::GetOGM(QString &ReferentieNummer)
 QString clsqorGenLib::ControleerOGM(QString &OGM, bool MBox)
 {
     return controleerOGM(OGM, MBox, m_Offset);
+}
+
+// Payments
+
+QString clsqorGenLib::ControleerIBAN(QString &IBAN, bool MBox)
+{
+    return controleerIBAN(IBAN, MBox, m_Offset);
+}
+
+QString clsqorGenLib::GetIBAN(const QString &BankNr)
+{
+    return getIBAN(BankNr);
+}
+
+QString clsqorGenLib::GetBBAN(const QString &IBAN)
+{
+    return getBBAN(IBAN);
+}
+
+QString clsqorGenLib::GetBIC(const QString &Account)
+{
+    return getBIC(Account);
+}
+
+QString clsqorGenLib::ControleerBIC(QString &BIC, bool MBox)
+{
+    return controleerBIC(BIC, MBox, m_Offset);
+}
+
+QString clsqorGenLib::GetRF(const QString &Reference)
+{
+    return getRF(Reference);
+}
+
+QString clsqorGenLib::ControleerRF(QString &RF, bool MBox)
+{
+    return controleerRF(RF, MBox, m_Offset);
+}
+
+QString clsqorGenLib::GetEPCQR(const QString &Name, const QString &IBAN, double Amount,
+    const QString &BIC, const QString &Reference, const QString &Text)
+{
+    return epcPayload({ Name, IBAN, Amount, BIC, Reference, Text });
+}
+
+bool clsqorGenLib::SaveQRCode(const QString &Payload, const QString &File, qint32 ModuleSize)
+{
+    return saveQrCode(Payload, File, ModuleSize);
 }
 
 // End of identifier checks

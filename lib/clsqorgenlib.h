@@ -104,6 +104,49 @@ public:
     Q_INVOKABLE QString ControleerOGM(QString &OGM, bool MBox = true);
     // End of identifier checks.
 
+    // Payments: IBAN, BIC, creditor reference and the payment QR code.
+    Q_CLASSINFO("ControleerIBAN", "{\"MBox\": true}")
+    Q_CLASSINFO("ControleerBIC", "{\"MBox\": true}")
+    Q_CLASSINFO("ControleerRF", "{\"MBox\": true}")
+    Q_CLASSINFO("GetEPCQR", "{\"BIC\": \"\", \"Reference\": \"\", \"Text\": \"\"}")
+    Q_CLASSINFO("SaveQRCode", "{\"ModuleSize\": 4}")
+    /// Checks an IBAN of any country of the IBAN registry (for Belgium also the
+    /// account's own check digits). IBAN becomes its electronic form ("BE71096123456769");
+    /// returns the print form ("BE71 0961 2345 6769"), or "" with, when MBox, the
+    /// message of a wrong IBAN. A blank IBAN is left as it is and returns "".
+    Q_INVOKABLE QString ControleerIBAN(QString &IBAN, bool MBox = true);
+    /// A Belgian account in the notation before IBAN ("096-1234567-69" or its twelve
+    /// digits) to its IBAN in print form; "" when the account is wrong.
+    Q_INVOKABLE QString GetIBAN(const QString &BankNr);
+    /// A Belgian IBAN to the notation before IBAN ("096-1234567-69"); "" for another
+    /// country or a wrong IBAN.
+    Q_INVOKABLE QString GetBBAN(const QString &IBAN);
+    /// The BIC of a Belgian IBAN or account in the notation before IBAN, from the
+    /// National Bank's list of bank codes; "" when the account is wrong or its bank
+    /// has no BIC in the list.
+    Q_INVOKABLE QString GetBIC(const QString &Account);
+    /// Checks a BIC (8 or 11 characters, a country ISO 3166 assigns). BIC becomes its
+    /// electronic form, which is returned; "" with, when MBox, the message of a wrong BIC.
+    Q_INVOKABLE QString ControleerBIC(QString &BIC, bool MBox = true);
+    /// The creditor reference of the creditor's own reference (1 to 21 letters and
+    /// digits, blanks ignored) in print form ("RF85 2024 0017"); "" when it cannot be made.
+    Q_INVOKABLE QString GetRF(const QString &Reference);
+    /// Checks a creditor reference. RF becomes its electronic form; returns the print
+    /// form, or "" with, when MBox, the message of a wrong reference.
+    Q_INVOKABLE QString ControleerRF(QString &RF, bool MBox = true);
+    /// The text of the payment QR code of a SEPA credit transfer (EPC069-12). Reference
+    /// is a creditor reference or a Belgian structured communication; a reference and
+    /// a Text do not go together. "" when something is wrong (see docs/payments.md).
+    Q_INVOKABLE QString GetEPCQR(const QString &Name, const QString &IBAN, double Amount,
+        const QString &BIC = QString(), const QString &Reference = QString(),
+        const QString &Text = QString());
+    /// Saves the QR code of Payload as PNG or SVG, by the extension of File, with
+    /// ModuleSize (1 to 20) pixels or units per module. False when it cannot be drawn
+    /// or written; a file is written whole or not at all.
+    Q_INVOKABLE bool SaveQRCode(
+        const QString &Payload, const QString &File, qint32 ModuleSize = 4);
+    // End of payments.
+
     // Dialogs, scanner input and sound.
     // MsgBoxE returns 1, 2, 6 or 7; Buttons -1 is the identity-number box.
     Q_CLASSINFO("MsgBoxE", "{\"Buttons\": 0, \"Title\": \"\"}")

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "qorgenlib_export.h"
+
 #include <QString>
 #include <QStringView>
 
@@ -18,11 +20,11 @@ struct BelgianBank
 
 /// The bank of a bank identification code (the first three BBAN digits, 0 to
 /// 999); nothing for a code the list does not hold.
-std::optional<BelgianBank> belgianBankOfCode(int code);
+QORGENLIB_EXPORT std::optional<BelgianBank> belgianBankOfCode(int code);
 
 /// The bank of a Belgian account: a Belgian IBAN (as typed) or an account in
 /// the notation before IBAN (twelve digits, separators allowed). Nothing when
 /// the account is wrong or its bank code is not in the list.
-std::optional<BelgianBank> belgianBankOf(QStringView account);
+QORGENLIB_EXPORT std::optional<BelgianBank> belgianBankOf(QStringView account);
 
 } // namespace qor

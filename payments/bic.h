@@ -1,5 +1,7 @@
 #pragma once
 
+#include "qorgenlib_export.h"
+
 #include "payments/paymentcheck.h"
 
 #include <QString>
@@ -9,7 +11,7 @@ namespace qor {
 
 /// The electronic form of a BIC as typed: without blanks and dashes, letters
 /// in upper case.
-QString bicElectronicForm(QStringView bic);
+QORGENLIB_EXPORT QString bicElectronicForm(QStringView bic);
 
 /// Checks a BIC (ISO 9362) in electronic form, in this order:
 /// - not 8 or 11 characters: InvalidLength;
@@ -18,12 +20,12 @@ QString bicElectronicForm(QStringView bic);
 ///   InvalidFormat;
 /// - a country code that ISO 3166 does not assign (XK, Kosovo, is taken as
 ///   the banks use it): InvalidComponent.
-PaymentCheck bicValidity(QStringView electronic);
+QORGENLIB_EXPORT PaymentCheck bicValidity(QStringView electronic);
 
 /// The same for a BIC as typed (bicElectronicForm first).
-PaymentCheck checkBic(QStringView bic);
+QORGENLIB_EXPORT PaymentCheck checkBic(QStringView bic);
 
 /// True for a country code ISO 3166-1 assigns, and XK.
-bool isCountryCode(QStringView code);
+QORGENLIB_EXPORT bool isCountryCode(QStringView code);
 
 } // namespace qor

@@ -14,7 +14,7 @@ constexpr qsizetype longestOwnReference = longestReference - 4;
 
 QString creditorReferenceElectronicForm(QStringView reference)
 {
-    return compactedText(reference, {});
+    return compactedText(reference, u"-.");
 }
 
 PaymentCheck creditorReferenceValidity(QStringView electronic)

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "qorgenlib_export.h"
+
 #include "payments/paymentcheck.h"
 
 #include <QString>
@@ -8,26 +10,26 @@
 namespace qor {
 
 /// The electronic form of a creditor reference as typed: without blanks,
-/// letters in upper case.
-QString creditorReferenceElectronicForm(QStringView reference);
+/// dashes and dots, letters in upper case.
+QORGENLIB_EXPORT QString creditorReferenceElectronicForm(QStringView reference);
 
 /// Checks an ISO 11649 creditor reference in electronic form, in this order:
 /// - fewer than 5 or more than 25 characters: InvalidLength;
 /// - not "RF", or a character other than 0-9 and A-Z: InvalidFormat;
 /// - the mod 97-10 check of the rearranged reference: InvalidChecksum.
-PaymentCheck creditorReferenceValidity(QStringView electronic);
+QORGENLIB_EXPORT PaymentCheck creditorReferenceValidity(QStringView electronic);
 
 /// The same for a reference as typed (creditorReferenceElectronicForm first).
-PaymentCheck checkCreditorReference(QStringView reference);
+QORGENLIB_EXPORT PaymentCheck checkCreditorReference(QStringView reference);
 
 /// The creditor reference of the creditor's own reference (1 to 21 letters
-/// and digits; blanks are ignored, letters taken in upper case), in electronic
+/// and digits; blanks, dashes and dots are ignored, letters taken in upper case), in electronic
 /// form: "RF", two check digits (02 to 98), the reference. "" when the
 /// reference is empty, too long or holds another character.
-QString makeCreditorReference(QStringView reference);
+QORGENLIB_EXPORT QString makeCreditorReference(QStringView reference);
 
 /// The print form of a creditor reference in electronic form: groups of four
 /// separated by one space ("RF18 5390 0754 7034"). Not checked.
-QString creditorReferencePrintForm(QStringView electronic);
+QORGENLIB_EXPORT QString creditorReferencePrintForm(QStringView electronic);
 
 } // namespace qor

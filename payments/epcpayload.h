@@ -1,5 +1,7 @@
 #pragma once
 
+#include "qorgenlib_export.h"
+
 #include <QString>
 
 namespace qor {
@@ -35,11 +37,11 @@ struct CreditTransfer
 ///
 /// "" when the name, IBAN, BIC, amount, reference or text is wrong, or when a
 /// reference and a text are both given.
-QString epcPayload(const CreditTransfer &transfer);
+QORGENLIB_EXPORT QString epcPayload(const CreditTransfer &transfer);
 
 /// The Belgian structured communication of a text ("+++", "/", blanks
 /// allowed around twelve digits whose first ten modulo 97, 0 counting as 97,
 /// equal the last two) as "+++000/0000/00000+++"; "" for another text.
-QString belgianStructuredCommunication(const QString &reference);
+QORGENLIB_EXPORT QString belgianStructuredCommunication(const QString &reference);
 
 } // namespace qor

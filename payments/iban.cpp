@@ -3,8 +3,6 @@
 #include "payments/ibanregistry.h"
 #include "payments/paymenttext.h"
 
-#include <cstring>
-
 namespace qor {
 
 namespace {
@@ -21,10 +19,11 @@ bool fitsClass(QChar c, char characterClass)
     }
 }
 
-bool fitsStructure(QStringView bban, const char *classes)
+bool fitsStructure(QStringView bban, QStringView country)
 {
-    if (bban.size() != qsizetype(std::strlen(classes)))
+    if (bban.size() != ibanBbanLength(country))
         return false;
+    const char *classes = ibanBbanClasses(country);
     for (qsizetype i = 0; i < bban.size(); ++i) {
         if (!fitsClass(bban[i], classes[i]))
             return false;
@@ -58,10 +57,10 @@ PaymentCheck ibanValidity(QStringView electronic)
         return PaymentCheck::InvalidFormat;
     if (remainder != 1)
         return PaymentCheck::InvalidChecksum;
-    const char *classes = ibanBbanClasses(electronic.first(2));
-    if (!classes)
+    const QStringView country = electronic.first(2);
+    if (!ibanBbanClasses(country))
         return PaymentCheck::InvalidComponent;
-    if (!fitsStructure(electronic.sliced(ibanHead), classes))
+    if (!fitsStructure(electronic.sliced(ibanHead), country))
         return PaymentCheck::InvalidFormat;
     return PaymentCheck::Valid;
 }
@@ -99,6 +98,13 @@ PaymentCheck belgianIbanValidity(QStringView electronic)
     if (!belgianAccountDigitsMatch(electronic.sliced(ibanHead)))
         return PaymentCheck::InvalidChecksum;
     return PaymentCheck::Valid;
+}
+
+PaymentCheck ibanAndAccountValidity(QStringView electronic)
+{
+    if (electronic.startsWith(u"BE"))
+        return belgianIbanValidity(electronic);
+    return ibanValidity(electronic);
 }
 
 QString ibanFromBelgianAccount(QStringView account)

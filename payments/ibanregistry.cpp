@@ -11,9 +11,10 @@ struct IbanCountry
 {
     const char *code;
     const char *bbanClasses;
+    int bbanLength;
 };
 
-#define QOR_IBAN_COUNTRY(code, classes) { code, classes },
+#define QOR_IBAN_COUNTRY(code, classes) { code, classes, int(sizeof(classes)) - 1 },
 constexpr IbanCountry registry[] = {
 #include "ibanregistrytable.inc"
 };
@@ -27,28 +28,40 @@ int letterIndex(QChar c)
 }
 
 // The registry indexed by the two letters of the country code.
-using CountryIndex = std::array<const char *, letters * letters>;
+using CountryIndex = std::array<const IbanCountry *, letters * letters>;
 
 CountryIndex makeCountryIndex()
 {
     CountryIndex index {};
     for (const IbanCountry &country : registry)
-        index[(country.code[0] - 'A') * letters + (country.code[1] - 'A')] = country.bbanClasses;
+        index[(country.code[0] - 'A') * letters + (country.code[1] - 'A')] = &country;
     return index;
+}
+
+const IbanCountry *countryOf(QStringView code)
+{
+    static const CountryIndex index = makeCountryIndex();
+    if (code.size() != 2)
+        return nullptr;
+    const int first = letterIndex(code[0]);
+    const int second = letterIndex(code[1]);
+    if (first < 0 || second < 0)
+        return nullptr;
+    return index[first * letters + second];
 }
 
 } // namespace
 
 const char *ibanBbanClasses(QStringView country)
 {
-    static const CountryIndex index = makeCountryIndex();
-    if (country.size() != 2)
-        return nullptr;
-    const int first = letterIndex(country[0]);
-    const int second = letterIndex(country[1]);
-    if (first < 0 || second < 0)
-        return nullptr;
-    return index[first * letters + second];
+    const IbanCountry *known = countryOf(country);
+    return known ? known->bbanClasses : nullptr;
+}
+
+int ibanBbanLength(QStringView country)
+{
+    const IbanCountry *known = countryOf(country);
+    return known ? known->bbanLength : 0;
 }
 
 int ibanCountryCount()

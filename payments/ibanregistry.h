@@ -1,5 +1,7 @@
 #pragma once
 
+#include "qorgenlib_export.h"
+
 #include <QStringView>
 
 namespace qor {
@@ -10,7 +12,10 @@ namespace qor {
 /// The IBAN is four characters longer than the BBAN.
 const char *ibanBbanClasses(QStringView country);
 
+/// The BBAN length of an IBAN country, 0 for a country outside the registry.
+QORGENLIB_EXPORT int ibanBbanLength(QStringView country);
+
 /// The number of countries in the registry.
-int ibanCountryCount();
+QORGENLIB_EXPORT int ibanCountryCount();
 
 } // namespace qor

@@ -4,15 +4,17 @@ namespace qor {
 
 QString compactedText(QStringView text, QStringView separators)
 {
-    QString compact;
-    compact.reserve(text.size());
+    // Written into a buffer of the text's size, cut to what was kept.
+    QString compact(text.size(), Qt::Uninitialized);
+    QChar *write = compact.data();
     for (QChar c : text) {
         if (c == u' ' || c == QChar(0xA0) || separators.contains(c))
             continue;
         if (c >= u'a' && c <= u'z')
             c = QChar(c.unicode() - u'a' + u'A');
-        compact.append(c);
+        *write++ = c;
     }
+    compact.truncate(write - compact.constData());
     return compact;
 }
 
@@ -30,16 +32,21 @@ QString groupsOfFour(QStringView text)
 
 int remainder97(QStringView text, int start)
 {
-    int remainder = start;
+    // The number grows digit by digit in 64 bits and is reduced only when one
+    // more step could overflow: the remainder is the same, the divisions fewer.
+    constexpr quint64 reduceAbove = 10'000'000'000'000'000ull;
+    quint64 number = quint64(start);
     for (QChar c : text) {
+        if (number >= reduceAbove)
+            number %= 97;
         if (isAsciiDigit(c))
-            remainder = (remainder * 10 + (c.unicode() - u'0')) % 97;
+            number = number * 10 + (c.unicode() - u'0');
         else if (isUpperLetter(c))
-            remainder = (remainder * 100 + (c.unicode() - u'A' + 10)) % 97;
+            number = number * 100 + (c.unicode() - u'A' + 10);
         else
             return -1;
     }
-    return remainder;
+    return int(number % 97);
 }
 
 int rearrangedRemainder97(QStringView text)

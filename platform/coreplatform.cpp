@@ -7,6 +7,7 @@
 #include <QCoreApplication>
 #include <QDir>
 #include <QFile>
+#include <QSaveFile>
 #include <QFileInfo>
 #include <QLocale>
 #include <QMutex>
@@ -138,10 +139,15 @@ std::optional<QByteArray> CorePlatform::readFile(const QString &path) const
 
 bool CorePlatform::writeFile(const QString &path, const QByteArray &contents)
 {
-    QFile file(localPath(path));
-    if (!file.open(QIODevice::WriteOnly | QIODevice::Truncate))
+    // Written beside the file and renamed over it when complete.
+    QSaveFile file(localPath(path));
+    if (!file.open(QIODevice::WriteOnly))
         return false;
-    return file.write(contents) == contents.size();
+    if (file.write(contents) != contents.size()) {
+        file.cancelWriting();
+        return false;
+    }
+    return file.commit();
 }
 
 std::unique_ptr<QIODevice> CorePlatform::openFile(const QString &path, QIODevice::OpenMode mode)

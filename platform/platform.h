@@ -132,6 +132,8 @@ public:
     virtual bool makeDirectory(const QString &path) = 0;
     virtual QList<FileEntry> listFiles(const QString &directory, const QString &wildcard) const = 0;
     virtual std::optional<QByteArray> readFile(const QString &path) const = 0;
+    // Writes the whole file or nothing: a reader sees the old file or the new
+    // one, and a failed write leaves no part of the new contents behind.
     virtual bool writeFile(const QString &path, const QByteArray &contents) = 0;
     virtual QString systemDirectory() const = 0;
     // Sound: the folder a station that is not a customer station plays its

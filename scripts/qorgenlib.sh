@@ -10,7 +10,7 @@ cd "$(dirname "$0")/.."
 job="${1:-main}"
 packages=(cmake ninja-build g++ qt6-base-dev qt6-multimedia-dev libgl-dev pkg-config dpkg-dev file clang libclang-rt-14-dev
           fonts-dejavu-core pulseaudio ccache
-          libqrencode-dev zbar-tools                                  # payment QR codes and their decoder
+          libqrencode-dev zbar-tools librsvg2-bin                     # payment QR codes, their decoder and an SVG renderer
           python3-dev pybind11-dev python3-pytest python3-stdnum      # the Python module and its peer
           default-jre-headless libsaxonhe-java                        # the official e-invoice rules
           xvfb openbox xdotool doxygen)

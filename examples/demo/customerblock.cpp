@@ -3,6 +3,7 @@
 #include "catalogueword.h"
 #include "formfield.h"
 
+#include <qorgenlib/host/qt/ibanfieldadapter.h>
 #include <qorgenlib/host/qt/keyfilteradapter.h>
 
 #include <QFormLayout>
@@ -18,12 +19,18 @@ CustomerBlock::CustomerBlock(clsqorGenLib &lib, QWidget *parent)
     m_name = addFormField(m_form, this, "txtNaam");
     m_vat = addFormField(m_form, this, "txtBtwNr");
     m_account = addFormField(m_form, this, "txtBankNr");
+    m_bic = new QLabel(this);
+    m_bic->setObjectName(QStringLiteral("lblBIC"));
+    m_form->addRow(QStringLiteral("BIC :"), m_bic);
     m_nationalNumber = addFormField(m_form, this, "txtNatNr");
     // Quotes never reach a name: the library turns them into the acute accent.
     qor::KeyFilterAdapter::attachKeyPress(m_name, &m_lib, QString());
     connect(m_name, &QLineEdit::editingFinished, this, &CustomerBlock::checkName);
     connect(m_vat, &QLineEdit::editingFinished, this, &CustomerBlock::checkVat);
-    connect(m_account, &QLineEdit::editingFinished, this, &CustomerBlock::checkAccount);
+    // The account is an IBAN, grouped in fours as it is typed and checked on leaving;
+    // the bank's BIC shows beside it.
+    connect(qor::IbanFieldAdapter::attach(m_account, &m_lib), &qor::IbanFieldAdapter::checked, this,
+        [this](const QString &iban) { m_bic->setText(m_lib.GetBIC(iban)); });
     connect(
         m_nationalNumber, &QLineEdit::editingFinished, this, &CustomerBlock::checkNationalNumber);
     retranslate();
@@ -54,13 +61,6 @@ void CustomerBlock::checkVat()
     QString country;
     const QString checked = m_lib.ControleerVAT(typed, true, country);
     m_vat->setText(checked.isEmpty() ? typed : checked);
-}
-
-void CustomerBlock::checkAccount()
-{
-    QString typed = m_account->text();
-    const QString checked = m_lib.ControleerBankNr(typed);
-    m_account->setText(checked.isEmpty() ? typed : checked);
 }
 
 void CustomerBlock::checkNationalNumber()

@@ -3,10 +3,11 @@
 #include <QGroupBox>
 
 class QFormLayout;
+class QLabel;
 class QLineEdit;
 class clsqorGenLib;
 
-// The customer of the invoice: name, VAT number, bank account and national
+// The customer of the invoice: name, VAT number, IBAN (with its bank's BIC) and national
 // number, each checked by the library when the user leaves the field. A wrong
 // number is reported by the library's message box; the field keeps the digits
 // the check left, so the user can correct them.
@@ -21,7 +22,6 @@ public:
 private:
     void checkName();
     void checkVat();
-    void checkAccount();
     void checkNationalNumber();
 
     clsqorGenLib &m_lib;
@@ -29,5 +29,6 @@ private:
     QLineEdit *m_name;
     QLineEdit *m_vat;
     QLineEdit *m_account;
+    QLabel *m_bic;
     QLineEdit *m_nationalNumber;
 };

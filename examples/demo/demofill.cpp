@@ -32,7 +32,7 @@ void DemoFill::fill()
 {
     type("txtNaam", QStringLiteral("bakkerij janssens-de smet"));
     type("txtBtwNr", QStringLiteral("0123456749"));
-    type("txtBankNr", QStringLiteral("539007510153"));
+    type("txtBankNr", QStringLiteral("BE53539007510153"));
     type("txtNatNr", QStringLiteral("85031512369"));
     type("txtFactuurNr", QStringLiteral("20260117"));
     type("txtDatum", QDate::currentDate().toString(QStringLiteral("ddMMyy")));

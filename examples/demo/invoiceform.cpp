@@ -50,6 +50,7 @@ InvoiceForm::InvoiceForm(clsqorGenLib &lib, DemoSettings &settings, QWidget *par
     layOut();
     connect(m_entry, &LineEntry::lineEntered, m_grid, &LineGrid::append);
     connect(m_grid, &LineGrid::linesChanged, this, &InvoiceForm::showTotals);
+    connect(m_header, &InvoiceHeader::referenceChanged, m_totals, &TotalsBlock::setReference);
     connect(m_language, &QComboBox::currentIndexChanged, this,
         [this](int index) { setLanguage(m_language->itemData(index).toInt()); });
     retranslate();

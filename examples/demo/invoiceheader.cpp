@@ -68,6 +68,7 @@ void InvoiceHeader::makeReference()
     QString number = m_number->text().trimmed();
     m_reference->setText(
         number.isEmpty() ? QString() : QStringLiteral("+++%1+++").arg(m_lib.GetOGM(number)));
+    emit referenceChanged(m_reference->text());
 }
 
 void InvoiceHeader::checkDate()

@@ -23,6 +23,10 @@ public:
     QString date() const;
     QString reference() const;
 
+signals:
+    // The structured reference made from a new invoice number ("" for none).
+    void referenceChanged(const QString &reference);
+
 private:
     void makeReference();
     void checkDate();

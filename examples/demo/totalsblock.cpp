@@ -2,6 +2,8 @@
 
 #include "catalogueword.h"
 
+#include <qorgenlib/host/qt/paymentqrlabel.h>
+
 #include <QFormLayout>
 #include <QLabel>
 #include <QLineEdit>
@@ -13,6 +15,10 @@ double cents(double amount)
 {
     return std::round(amount * 100.0) / 100.0;
 }
+
+// The shop the demo invoices for.
+const QString shopName = QStringLiteral("Qorsoft Demo BV");
+const QString shopIban = QStringLiteral("BE71 0961 2345 6769");
 } // namespace
 
 TotalsBlock::TotalsBlock(clsqorGenLib &lib, QWidget *parent)
@@ -24,6 +30,10 @@ TotalsBlock::TotalsBlock(clsqorGenLib &lib, QWidget *parent)
     m_exclVat = addTotal("txtTotaalExcl");
     m_vat = addTotal("txtTotaalBtw");
     m_inclVat = addTotal("txtTotaalIncl");
+    auto *code = new QLabel(this);
+    code->setObjectName(QStringLiteral("imgBetaalcode"));
+    m_form->addRow(code);
+    m_paymentCode = qor::PaymentQrLabel::attach(code, shopName, shopIban, m_lib.GetBIC(shopIban));
     retranslate();
     showTotals({});
 }
@@ -61,4 +71,10 @@ void TotalsBlock::showTotals(const QList<InvoiceLine> &lines)
     m_exclVat->setText(m_lib.SetEuro(float(exclVat), qorGenLib::vbSymbolEuro));
     m_vat->setText(m_lib.SetEuro(float(inclVat - exclVat), qorGenLib::vbSymbolEuro));
     m_inclVat->setText(m_lib.SetEuro(float(inclVat), qorGenLib::vbSymbolEuro));
+    m_paymentCode->setAmount(inclVat);
+}
+
+void TotalsBlock::setReference(const QString &reference)
+{
+    m_paymentCode->setReference(reference);
 }

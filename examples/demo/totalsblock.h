@@ -7,9 +7,14 @@
 class QFormLayout;
 class QLineEdit;
 class clsqorGenLib;
+namespace qor {
+class PaymentQrLabel;
+}
 
-// The totals of the invoice in euro: excluding VAT, the VAT, and including VAT.
-// They are read-only fields, so that the form's change check sees the lines change.
+// The totals of the invoice in euro: excluding VAT, the VAT, and including VAT,
+// and the payment QR code of the total to the shop's account with the invoice's
+// structured reference. The totals are read-only fields, so that the form's
+// change check sees the lines change.
 class TotalsBlock : public QGroupBox
 {
     Q_OBJECT
@@ -18,6 +23,7 @@ public:
     explicit TotalsBlock(clsqorGenLib &lib, QWidget *parent = nullptr);
     void retranslate();
     void showTotals(const QList<InvoiceLine> &lines);
+    void setReference(const QString &reference);
 
 private:
     QLineEdit *addTotal(const char *objectName);
@@ -27,4 +33,5 @@ private:
     QLineEdit *m_exclVat;
     QLineEdit *m_vat;
     QLineEdit *m_inclVat;
+    qor::PaymentQrLabel *m_paymentCode;
 };

@@ -146,7 +146,7 @@ private slots:
         // clang-format off
         QTest::newRow("name in proper case") << "txtNaam" << "bakkerij janssens-de smet" << 0 << "Bakkerij Janssens-De Smet";
         QTest::newRow("VAT number") << "txtBtwNr" << "BE 0123 456 749" << 0 << "0123.456.749";
-        QTest::newRow("bank account") << "txtBankNr" << "539007510153" << 0 << "539-0075101-53";
+        QTest::newRow("IBAN in groups of four") << "txtBankNr" << "be53539007510153" << 0 << "BE53 5390 0751 0153";
         QTest::newRow("national number") << "txtNatNr" << "85031512369" << 0 << "850315.123.69";
         QTest::newRow("date a day up") << "txtDatum" << "201126" << int(Qt::Key_Up) << "21/11/2026";
         QTest::newRow("letters never reach the date") << "txtDatum" << "2x01y126" << 0 << "20/11/2026";
@@ -172,11 +172,11 @@ private slots:
     {
         QString prompt;
         answerMessageBox("cmdOK", &prompt);
-        typeAndLeave("txtBankNr", QStringLiteral("123-4567890-12"));
+        typeAndLeave("txtBankNr", QStringLiteral("BE54 5390 0751 0153"));
         QTRY_VERIFY(!prompt.isEmpty());
-        QVERIFY2(prompt.contains(QStringLiteral("000-0000000-00")), qPrintable(prompt));
-        // The digits the check left stay for the user to correct.
-        QCOMPARE(field("txtBankNr")->text(), QStringLiteral("123456789012"));
+        QVERIFY2(prompt.contains(QStringLiteral("BE00 0000 0000 0000")), qPrintable(prompt));
+        // The IBAN stays in electronic form for the user to correct.
+        QCOMPARE(field("txtBankNr")->text(), QStringLiteral("BE54539007510153"));
     }
 
     void invoiceNumberGivesTheReference()

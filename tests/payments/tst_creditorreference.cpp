@@ -27,7 +27,8 @@ private slots:
         QTest::newRow("four characters") << "RF02" << InvalidLength << "";
         QTest::newRow("twenty-six characters") << "RF401234567890123456789012" << InvalidLength << "";
         QTest::newRow("not RF") << "RX18539007547034" << InvalidFormat << "";
-        QTest::newRow("a dash") << "RF18-5390-0754" << InvalidFormat << "";
+        QTest::newRow("dashes and dots as separators") << "RF18-5390.0754 7034" << Valid << "RF18 5390 0754 7034";
+        QTest::newRow("a slash") << "RF18/5390/0754/7034" << InvalidFormat << "";
         QTest::newRow("accented letter") << "RF18539007547034\u00E9" << InvalidFormat << "";
         QTest::newRow("one digit changed") << "RF18539007547035" << InvalidChecksum << "";
         QTest::newRow("check digits 00 never match") << "RF00 1" << InvalidChecksum << "";
@@ -55,7 +56,8 @@ private slots:
         QTest::newRow("one letter") << "a" << "RF25A";
         QTest::newRow("twenty-one characters") << "123456789012345678901" << "RF40123456789012345678901";
         QTest::newRow("twenty-two characters") << "1234567890123456789012" << "";
-        QTest::newRow("a dash") << "2024-0017" << "";
+        QTest::newRow("dash ignored") << "2024-0017" << "RF8520240017";
+        QTest::newRow("a slash") << "2024/0017" << "";
         QTest::newRow("blanks only") << "   " << "";
         // clang-format on
     }
