@@ -4,7 +4,7 @@
 include(CMakePackageConfigHelpers)
 
 qor_public_headers(
-  lib/clsqorgenlib.h lib/typelibrary.h lib/frame/qorenums.h lib/frame/windowsize.h
+  lib/clsqorgenlib.h lib/clsqoreinvoice.h lib/typelibrary.h lib/frame/qorenums.h lib/frame/windowsize.h
   platform/platform.h platform/calculatorsession.h platform/coreplatform.h
   platform/recordingplatform.h
   runtime/regionalsettings.h runtime/runtimeerror.h runtime/variant.h runtime/propertybag.h

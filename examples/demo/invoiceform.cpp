@@ -3,6 +3,7 @@
 #include "catalogueword.h"
 #include "customerblock.h"
 #include "demosettings.h"
+#include "einvoiceexport.h"
 #include "invoiceheader.h"
 #include "lineentry.h"
 #include "linefile.h"
@@ -17,6 +18,7 @@
 #include <QGridLayout>
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QLineEdit>
 #include <QPushButton>
 
 namespace {
@@ -63,11 +65,14 @@ void InvoiceForm::createButtons()
     m_export->setObjectName(QStringLiteral("cmdExport"));
     m_import = new QPushButton(QStringLiteral("Import"), this);
     m_import->setObjectName(QStringLiteral("cmdImport"));
+    m_einvoice = new QPushButton(QStringLiteral("E-factuur"), this);
+    m_einvoice->setObjectName(QStringLiteral("cmdEFactuur"));
     m_status = new QLabel(this);
     m_status->setObjectName(QStringLiteral("lblStatus"));
     connect(m_save, &QPushButton::clicked, this, &InvoiceForm::save);
     connect(m_export, &QPushButton::clicked, this, &InvoiceForm::exportLines);
     connect(m_import, &QPushButton::clicked, this, &InvoiceForm::importLines);
+    connect(m_einvoice, &QPushButton::clicked, this, &InvoiceForm::writeEInvoice);
 }
 
 void InvoiceForm::layOut()
@@ -83,7 +88,7 @@ void InvoiceForm::layOut()
     buttons->addWidget(m_languageCaption);
     buttons->addWidget(m_language);
     buttons->addStretch();
-    for (QPushButton *button : { m_save, m_export, m_import })
+    for (QPushButton *button : { m_save, m_export, m_import, m_einvoice })
         buttons->addWidget(button);
     auto *left = new QVBoxLayout;
     left->addWidget(m_status);
@@ -188,6 +193,37 @@ void InvoiceForm::importLines()
     }
     m_grid->setLines(m_grid->lines() + read.lines);
     showStatus(QStringLiteral("Import: %1 OK, %2 NOK").arg(read.lines.size()).arg(read.refused));
+}
+
+void InvoiceForm::writeEInvoice()
+{
+    EInvoiceSource source;
+    source.number = m_header->number();
+    // The date field shows the Belgian notation, with slashes, dashes or dots.
+    for (const QString &format : { QStringLiteral("dd/MM/yyyy"), QStringLiteral("dd-MM-yyyy"),
+             QStringLiteral("dd.MM.yyyy") }) {
+        if (!source.date.isValid())
+            source.date = QDate::fromString(m_header->date(), format);
+    }
+    if (!source.date.isValid())
+        source.date = QDate::currentDate();
+    source.reference = m_header->reference();
+    source.customerName = findChild<QLineEdit *>(QStringLiteral("txtNaam"))->text();
+    QVariant vatDigits = findChild<QLineEdit *>(QStringLiteral("txtBtwNr"))->text();
+    source.customerVat = m_lib.FilterNumeric(vatDigits).toString();
+    source.lines = m_grid->lines();
+    const QString path = QDir(m_settings.value(QStringLiteral("ExportMap"), QDir::homePath()))
+                             .filePath(QStringLiteral("factuur-%1.xml").arg(source.number));
+    const QVariantList broken = saveEInvoice(source, path, m_lib.property("Offset").toInt());
+    if (broken.isEmpty()) {
+        showStatus(QStringLiteral("E-factuur: %1").arg(path));
+        return;
+    }
+    QStringList lines;
+    for (const QVariant &rule : broken)
+        lines.append(rule.toList().value(0).toString() + QStringLiteral(": ")
+            + rule.toList().value(1).toString());
+    m_lib.MsgBoxE(lines.join(QChar(13)), 48, QStringLiteral("E-factuur"));
 }
 
 void InvoiceForm::closeEvent(QCloseEvent *event)

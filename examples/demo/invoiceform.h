@@ -32,6 +32,7 @@ public:
     void save();
     void exportLines();
     void importLines();
+    void writeEInvoice();
     // The file Export writes for the current invoice.
     QString exportPath() const;
 
@@ -61,6 +62,7 @@ private:
     QPushButton *m_save;
     QPushButton *m_export;
     QPushButton *m_import;
+    QPushButton *m_einvoice;
     QLabel *m_status;
     qor::FormAdapter *m_form;
 };

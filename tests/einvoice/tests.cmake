@@ -10,3 +10,7 @@ target_compile_definitions(tst_ublvalidation PRIVATE
   QOR_EINVOICE_TEST_DATA="${dir}" QOR_EINVOICE_RULES="${QORGENLIB_EINVOICE_RULES}")
 qor_add_test(tst_peppolexamples ${dir}/tst_peppolexamples.cpp TIMEOUT 400)
 target_compile_definitions(tst_peppolexamples PRIVATE QOR_EINVOICE_RULES="${QORGENLIB_EINVOICE_RULES}")
+# The library's own rule check, each broken model proved by the official rules in one run.
+qor_add_test(tst_rulecheck ${dir}/tst_rulecheck.cpp TIMEOUT 400)
+target_compile_definitions(tst_rulecheck PRIVATE
+  QOR_EINVOICE_TEST_DATA="${dir}" QOR_EINVOICE_RULES="${QORGENLIB_EINVOICE_RULES}")

@@ -329,6 +329,19 @@ private slots:
         QCOMPARE(caption("lblStatus"), QStringLiteral("Import: 3 OK, 0 NOK"));
     }
 
+    // The invoice as a Peppol e-invoice: its lines at 21 % and 6 %, the
+    // structured communication, the shop's IBAN and BIC.
+    void eInvoiceOfTheCurrentInvoice()
+    {
+        QTest::mouseClick(child<QPushButton>("cmdEFactuur"), Qt::LeftButton);
+        QFile written(folder.filePath(QStringLiteral("factuur-20260117.xml")));
+        QVERIFY2(written.open(QIODevice::ReadOnly), qPrintable(caption("lblStatus")));
+        const QByteArray ubl = written.readAll();
+        for (const char *part : { "<cbc:Percent>21</cbc:Percent>", "<cbc:Percent>6</cbc:Percent>",
+                 "+++002/0260/11718+++", "BE71096123456769", "GKCCBEBB", "BE0123456749" })
+            QVERIFY2(ubl.contains(part), part);
+    }
+
     void importReportsBadLines()
     {
         // The second record's checksum no longer matches its text.

@@ -105,14 +105,15 @@ private slots:
         QTest::addColumn<int>("offset");
         QTest::addColumn<int>("messages");
         QTest::addColumn<int>("dictionary");
+        QTest::addColumn<int>("einvoice"); // the e-invoice rule messages
         QTest::addColumn<QString>("listTitle"); // empty: no list blocks
         // clang-format off
-        QTest::newRow("dutch") << 0 << 146 << 286 << "Lijst ";
-        QTest::newRow("french") << 10000 << 142 << 285 << "Liste ";
-        QTest::newRow("english") << 20000 << 63 << 81 << "";
-        QTest::newRow("german") << 30000 << 0 << 61 << "";
-        QTest::newRow("spanish") << 40000 << 0 << 61 << "";
-        QTest::newRow("italian") << 50000 << 0 << 61 << "";
+        QTest::newRow("dutch") << 0 << 146 << 286 << 50 << "Lijst ";
+        QTest::newRow("french") << 10000 << 142 << 285 << 50 << "Liste ";
+        QTest::newRow("english") << 20000 << 63 << 81 << 50 << "";
+        QTest::newRow("german") << 30000 << 0 << 61 << 0 << "";
+        QTest::newRow("spanish") << 40000 << 0 << 61 << 0 << "";
+        QTest::newRow("italian") << 50000 << 0 << 61 << 0 << "";
         // clang-format on
     }
     // How many texts each language holds, none outside its messages and its dictionary,
@@ -122,10 +123,12 @@ private slots:
         QFETCH(int, offset);
         QFETCH(int, messages);
         QFETCH(int, dictionary);
+        QFETCH(int, einvoice);
         QFETCH(QString, listTitle);
         QCOMPARE(Catalogue::count(offset + 1000, offset + 1239), messages);
         QCOMPARE(Catalogue::count(offset + 9500, offset + 9999), dictionary);
-        QCOMPARE(Catalogue::count(offset, offset + 9999), messages + dictionary);
+        QCOMPARE(Catalogue::count(offset + 4000, offset + 4099), einvoice);
+        QCOMPARE(Catalogue::count(offset, offset + 9999), messages + einvoice + dictionary);
         const auto text = [&](int id) { return Catalogue::text(offset + id).value_or(QString()); };
         // Reserved messages and the "nothing" rows of the code and payment lists are one blank.
         const QList<int> blanks = range(1006, 1009) + QList<int> { 9810, 9900 };

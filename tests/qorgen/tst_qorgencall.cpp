@@ -145,10 +145,10 @@ private slots:
     {
         const QorgenRun run = runQorgen({ QStringLiteral("--help") });
         QCOMPARE(run.exitCode, 0);
-        for (const char *command :
-            { "qorgen call", "qorgen batch", "qorgen methods", "qorgen records", "--version" })
+        for (const char *command : { "qorgen call", "qorgen batch", "qorgen methods",
+                 "qorgen records", "qorgen einvoice", "--version" })
             QVERIFY2(run.out.contains(command), command);
-        QCOMPARE(run.out.count("Example"), 4);
+        QCOMPARE(run.out.count("Example"), 5);
         for (const QString &command : { QStringLiteral("call"), QStringLiteral("batch") }) {
             const QorgenRun part = runQorgen({ command, QStringLiteral("--help") });
             QCOMPARE(part.exitCode, 0);

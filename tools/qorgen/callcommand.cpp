@@ -47,6 +47,7 @@ CallCommand::Parsed CallCommand::parse(const QStringList &arguments)
     JsonValue set = JsonValue::object();
     JsonValue env = JsonValue::object();
     JsonValue answers = JsonValue::array();
+    QString object;
     qsizetype i = 0;
     for (; i < arguments.size() && arguments[i].startsWith(QLatin1String("--")); ++i) {
         const QString &word = arguments[i];
@@ -66,6 +67,8 @@ CallCommand::Parsed CallCommand::parse(const QStringList &arguments)
         } else if (isOption(word, QStringLiteral("--locale"))) {
             env.insert(
                 QStringLiteral("locale"), optionValue(arguments, i, QStringLiteral("--locale")));
+        } else if (isOption(word, QStringLiteral("--object"))) {
+            object = optionValue(arguments, i, QStringLiteral("--object"));
         } else if (isOption(word, QStringLiteral("--now"))) {
             env.insert(QStringLiteral("now"), optionValue(arguments, i, QStringLiteral("--now")));
         } else if (isOption(word, QStringLiteral("--answer"))) {
@@ -86,6 +89,8 @@ CallCommand::Parsed CallCommand::parse(const QStringList &arguments)
                          .insert(QStringLiteral("set"), std::move(set))
                          .insert(QStringLiteral("env"), std::move(env))
                          .insert(QStringLiteral("answers"), std::move(answers));
+    if (!object.isEmpty())
+        parsed.request.insert(QStringLiteral("object"), object);
     return parsed;
 }
 

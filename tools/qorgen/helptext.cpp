@@ -60,6 +60,24 @@ Usage:
       Example:
         echo '["AB","7"]' | qorgen records write --widths 4,3 out.txt
 
+  qorgen einvoice write|read|check [OPTIONS] FILE
+      E-invoices as the JSON shape of docs/einvoice.md (FILE "-" is standard
+      input). write checks a JSON model against the rules of the e-invoice
+      norm and the Peppol profile and writes it as a Peppol BIS 3.0 UBL
+      document; read prints a UBL document as that JSON (what the model
+      drops is said on standard error); check prints the rules a UBL
+      document or JSON model breaks, one "RULE: message" per line.
+      Options:
+        -o OUT.xml              where write puts the document (default: standard output)
+        --language nl|fr|en     the language of the rule messages (default nl)
+      Exit status: 0 done, no rule broken; 1 rules broken (write then writes
+                   nothing and says why on standard error);
+                   2 the command could not run (bad option, unreadable FILE,
+                   XML or JSON).
+      Examples:
+        qorgen einvoice write invoice.json -o invoice.xml
+        qorgen einvoice read invoice.xml > invoice.json
+
   qorgen --help       this text
   qorgen --version    the version
 

@@ -1,6 +1,6 @@
-#include "lib/clsqorgenlib.h"
 #include "tools/qorgen/batchcommand.h"
 #include "tools/qorgen/callcommand.h"
+#include "tools/qorgen/einvoicecommand.h"
 #include "tools/qorgen/helptext.h"
 #include "tools/qorgen/jsonwriter.h"
 #include "tools/qorgen/recordscommand.h"
@@ -23,8 +23,8 @@ void print(std::FILE *stream, const QByteArray &bytes)
 
 int usage()
 {
-    print(
-        stderr, "Usage: qorgen call|batch|methods|records|--help|--version (see qorgen --help)\n");
+    print(stderr,
+        "Usage: qorgen call|batch|methods|records|einvoice|--help|--version (see qorgen --help)\n");
     return 2;
 }
 
@@ -52,10 +52,12 @@ int main(int argc, char *argv[])
         return CallCommand::run(arguments.mid(1), stdout, stderr);
     if (command == QLatin1String("batch") && arguments.size() == 1)
         return BatchCommand::run(stdin, stdout);
+    if (command == QLatin1String("einvoice"))
+        return EInvoiceCommand::run(arguments.mid(1), stdin, stdout, stderr);
     if (command == QLatin1String("records"))
         return RecordsCommand::run(arguments.mid(1), stdin, stdout, stderr);
     if (command == QLatin1String("methods") && arguments.size() == 1) {
-        print(stdout, JsonWriter::indented(TypeInfoJson::describe(clsqorGenLib::typeLibrary())));
+        print(stdout, JsonWriter::indented(TypeInfoJson::describeAll()));
         return 0;
     }
     if (command == QLatin1String("--help") || command == QLatin1String("-h")

@@ -38,6 +38,10 @@ Request Request::fromJson(const JsonValue &json)
             if (!value.isString() || value.toString().isEmpty())
                 throw wrongField(field, QStringLiteral("a method or property name"), value);
             request.call = value.toString();
+        } else if (field == QLatin1String("object")) {
+            if (!value.isString() || value.toString().isEmpty())
+                throw wrongField(field, QStringLiteral("a class name"), value);
+            request.object = value.toString();
         } else if (field == QLatin1String("args")) {
             if (!value.isArray())
                 throw wrongField(field, QStringLiteral("an array"), value);
@@ -65,10 +69,11 @@ Request Request::fromJson(const JsonValue &json)
                 throw wrongField(field, QStringLiteral("true or false"), value);
             request.withProperties = value.toBool();
         } else {
-            throw RequestError::unreadable(QStringLiteral("unknown request field \"%1\" (known: "
-                                                          "call, args, set, env, answers, new, id, "
-                                                          "props)")
-                                               .arg(field));
+            throw RequestError::unreadable(
+                QStringLiteral("unknown request field \"%1\" (known: "
+                               "call, object, args, set, env, answers, new, "
+                               "id, props)")
+                    .arg(field));
         }
     }
     if (request.call.isEmpty() && !request.args.empty())

@@ -17,6 +17,7 @@ namespace qor {
 struct Request
 {
     QString call; // empty: nothing to call
+    QString object; // the class whose object is called; empty: the library object
     JsonValue::Array args;
     JsonValue::Object set;
     Environment env;

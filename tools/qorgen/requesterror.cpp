@@ -22,5 +22,9 @@ RequestError RequestError::wrongCount(const QString &what)
 {
     return RequestError(450, what);
 }
+RequestError RequestError::cannotCreate(const QString &what)
+{
+    return RequestError(429, what);
+}
 
 } // namespace qor

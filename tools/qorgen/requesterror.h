@@ -8,7 +8,8 @@ namespace qor {
 // know, arguments of the wrong number or shape. Nothing of it was run. The
 // numbers follow what an automation caller would see where one fits:
 // 438 unknown name, 449 argument not optional, 450 wrong number of arguments,
-// 13 a value of the wrong shape, 5 anything else that cannot be read.
+// 13 a value of the wrong shape, 429 an object of a class the bridge does
+// not have, 5 anything else that cannot be read.
 class RequestError : public RuntimeError
 {
 public:
@@ -19,6 +20,7 @@ public:
     static RequestError unknownName(const QString &what); // 438
     static RequestError notOptional(const QString &what); // 449
     static RequestError wrongCount(const QString &what); // 450
+    static RequestError cannotCreate(const QString &what); // 429
 };
 
 } // namespace qor

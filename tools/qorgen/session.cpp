@@ -2,9 +2,11 @@
 
 #include "lib/clsqorgenlib.h"
 #include "lib/frame/modgenlib.h"
+#include "lib/latebinding.h"
 #include "lib/typelibrary.h"
 #include "platform/recordingplatform.h"
 #include "runtime/variant.h"
+#include "tools/qorgen/automationclass.h"
 #include "tools/qorgen/jsonbuilder.h"
 #include "tools/qorgen/jsonreader.h"
 #include "tools/qorgen/recordwriter.h"
@@ -62,24 +64,11 @@ void collectObjects(const QVariant &value, QList<QObject *> &found, int depth = 
     }
 }
 
-// The published properties with their meta-object property, in type library order.
-const QList<std::pair<const PropertyInfo *, QMetaProperty>> &publishedProperties()
-{
-    static const QList<std::pair<const PropertyInfo *, QMetaProperty>> properties = [] {
-        QList<std::pair<const PropertyInfo *, QMetaProperty>> list;
-        const QMetaObject &meta = clsqorGenLib::staticMetaObject;
-        for (const PropertyInfo &property : clsqorGenLib::typeLibrary().properties())
-            list.append({ &property,
-                meta.property(meta.indexOfProperty(property.name.toLatin1().constData())) });
-        return list;
-    }();
-    return properties;
-}
-
 } // namespace
 
 struct Session::Call
 {
+    const AutomationClass *cls = &AutomationClass::library();
     const MethodInfo *method = nullptr;
     const PropertyInfo *property = nullptr;
     QVariantList args;
@@ -116,6 +105,7 @@ Session::Session()
 
 Session::~Session()
 {
+    m_objects.clear();
     m_library.reset();
     m_keeper.reset();
     Platform::install(m_previous);
@@ -198,22 +188,28 @@ Session::Outcome Session::handle(const Request &request, JsonSink &out)
 
 Session::Call Session::prepare(const Request &request, QObject *owner) const
 {
-    const TypeLibrary &library = clsqorGenLib::typeLibrary();
     Call call;
+    if (!request.object.isEmpty()) {
+        call.cls = AutomationClass::find(request.object);
+        if (!call.cls)
+            throw RequestError::cannotCreate(
+                QStringLiteral("qorgen has no class \"%1\"").arg(request.object));
+    }
+    const TypeLibrary &library = call.cls->typeLibrary();
     if (!request.call.isEmpty()) {
         const TypeLibrary::Member member = library.findMember(request.call);
         call.method = member.method;
         call.property = member.property;
         if (!call.method && !call.property)
-            throw RequestError::unknownName(
-                QStringLiteral("the library has no method or property \"%1\"").arg(request.call));
+            throw RequestError::unknownName(QStringLiteral("%1 has no method or property \"%2\"")
+                                                .arg(call.cls->name, request.call));
         prepareArguments(call, request, owner);
     }
     for (const auto &[name, json] : request.set) {
         const PropertyInfo *property = library.findProperty(name);
         if (!property)
             throw RequestError::unknownName(
-                QStringLiteral("set: the library has no property \"%1\"").arg(name));
+                QStringLiteral("set: %1 has no property \"%2\"").arg(call.cls->name, name));
         call.set.append(
             { property->name, ValueCodec::decode(json, owner, QStringLiteral("set.") + name) });
     }
@@ -271,8 +267,21 @@ void Session::applyPlatform(const Request &request)
     m_platform->setAnswers(request.answers);
 }
 
+QObject &Session::objectOf(const AutomationClass &cls)
+{
+    const size_t index = size_t(cls.index());
+    if (index == 0)
+        return *m_library;
+    if (m_objects.size() <= index)
+        m_objects.resize(index + 1);
+    if (!m_objects[index])
+        m_objects[index] = cls.create();
+    return *m_objects[index];
+}
+
 void Session::startFresh()
 {
+    m_objects.clear();
     m_library.reset();
     m_keeper = std::make_unique<QObject>();
     ModGenLib::reset();
@@ -284,10 +293,13 @@ Session::Outcome Session::run(Call &call, JsonSink &out)
     QVariant result;
     std::optional<RuntimeError> error;
     try {
-        for (const auto &[name, value] : call.set)
-            m_library->Invoke(name, QVariantList { value });
+        const LateBinding target(&objectOf(*call.cls), call.cls->typeLibrary());
+        for (const auto &[name, value] : call.set) {
+            QVariantList assigned { value };
+            target.invoke(name, assigned);
+        }
         if (call.method || call.property)
-            result = m_library->Invoke(call.name(), call.args);
+            result = target.invoke(call.name(), call.args);
     } catch (const RuntimeError &e) {
         error = e;
     } catch (const std::bad_alloc &) {
@@ -315,7 +327,7 @@ Session::Outcome Session::run(Call &call, JsonSink &out)
     writeArguments(call, out);
     if (call.withProperties) {
         out.key(u"props");
-        writeProperties(out);
+        writeProperties(call, out);
     }
     out.key(u"shown");
     out.beginArray();
@@ -361,12 +373,14 @@ void Session::writeArguments(const Call &call, JsonSink &out) const
     out.endArray();
 }
 
-void Session::writeProperties(JsonSink &out) const
+void Session::writeProperties(const Call &call, JsonSink &out) const
 {
+    const size_t index = size_t(call.cls->index());
+    const QObject *object = index == 0 ? m_library.get() : m_objects.at(index).get();
     out.beginObject();
-    for (const auto &[property, meta] : publishedProperties()) {
+    for (const auto &[property, meta] : call.cls->properties) {
         out.key(property->name);
-        ValueCodec::write(out, meta.read(m_library.get()));
+        ValueCodec::write(out, meta.read(object));
     }
     out.endObject();
 }
@@ -374,7 +388,7 @@ void Session::writeProperties(JsonSink &out) const
 void Session::keepHeldObjects(QObject *owner)
 {
     QList<QObject *> held;
-    for (const auto &[property, meta] : publishedProperties()) {
+    for (const auto &[property, meta] : AutomationClass::library().properties) {
         if (property->type == variantType)
             collectObjects(meta.read(m_library.get()), held);
     }

@@ -9,11 +9,13 @@
 #include <functional>
 #include <memory>
 #include <optional>
+#include <vector>
 
 class clsqorGenLib;
 
 namespace qor {
 
+struct AutomationClass;
 class Platform;
 class RequestError;
 class RecordingPlatform;
@@ -59,6 +61,9 @@ public:
 
     RecordingPlatform &platform() { return *m_platform; }
     clsqorGenLib &library() { return *m_library; }
+    // The batch's object of a class: the library object, or one of a further
+    // class made on its first use and kept until a fresh start.
+    QObject &objectOf(const AutomationClass &cls);
 
 private:
     struct Call;
@@ -72,7 +77,7 @@ private:
     // to do (program starts, shut-down, topmost forms) and the error.
     Outcome run(Call &call, JsonSink &out);
     void writeArguments(const Call &call, JsonSink &out) const;
-    void writeProperties(JsonSink &out) const;
+    void writeProperties(const Call &call, JsonSink &out) const;
     // Keeps the host objects the library holds (Variant properties, the
     // application) past the request, and releases those it holds no more.
     void keepHeldObjects(QObject *owner);
@@ -80,6 +85,7 @@ private:
     std::shared_ptr<RecordingPlatform> m_platform;
     std::shared_ptr<Platform> m_previous;
     std::unique_ptr<clsqorGenLib> m_library;
+    std::vector<std::unique_ptr<QObject>> m_objects; // of the further classes, by class index
     std::unique_ptr<QObject> m_keeper; // host objects the library holds between requests
     std::function<void(const QString &, bool)> m_play;
     std::function<void()> m_stop;

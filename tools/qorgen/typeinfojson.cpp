@@ -1,6 +1,7 @@
 #include "tools/qorgen/typeinfojson.h"
 
 #include "lib/typelibrary.h"
+#include "tools/qorgen/automationclass.h"
 #include "tools/qorgen/valuecodec.h"
 
 namespace qor {
@@ -81,6 +82,20 @@ JsonValue TypeInfoJson::describe(const TypeLibrary &library)
         .insert(QStringLiteral("properties"), std::move(properties))
         .insert(QStringLiteral("enumerations"), std::move(enums))
         .insert(QStringLiteral("records"), std::move(records));
+}
+
+JsonValue TypeInfoJson::describeAll()
+{
+    JsonValue json = describe(AutomationClass::library().typeLibrary());
+    JsonValue classes = JsonValue::array();
+    for (const AutomationClass &cls : AutomationClass::all().mid(1)) {
+        JsonValue entry = JsonValue::object().insert(QStringLiteral("name"), cls.name);
+        const JsonValue type = describe(cls.typeLibrary());
+        for (const auto &[field, value] : type.toObject())
+            entry.insert(field, value);
+        classes.append(std::move(entry));
+    }
+    return json.insert(QStringLiteral("classes"), std::move(classes));
 }
 
 } // namespace qor

@@ -13,6 +13,9 @@ class TypeInfoJson
 {
 public:
     static JsonValue describe(const TypeLibrary &library);
+    // The library object's information as describe() gives it, and under
+    // "classes" that of each further creatable class, by name.
+    static JsonValue describeAll();
 };
 
 } // namespace qor
