@@ -9,9 +9,9 @@
 
 namespace qor {
 
-// Gives a QLineEdit the names of an edit control, so the library can work on
-// a real field: Text, SelStart, SelLength, MaxLength, Enabled, the position
-// and size, and the operation SetFocus. The adapter does not own the field.
+/// Gives a QLineEdit the names of an edit control, so the library can work on
+/// a real field: Text, SelStart, SelLength, MaxLength, Enabled, the position
+/// and size, and the operation SetFocus. The adapter does not own the field.
 class QORGENLIB_WIDGETS_EXPORT LineEditAdapter : public QObject
 {
     Q_OBJECT
@@ -36,7 +36,7 @@ public:
     void setSelStart(int start);
     int selLength() const;
     void setSelLength(int length);
-    // 0 means no limit, as for the classic edit control.
+    /// 0 means no limit, as for the classic edit control.
     int maxLength() const;
     void setMaxLength(int length);
     bool enabled() const;
