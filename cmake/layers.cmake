@@ -125,6 +125,7 @@ function(qor_public_headers)
         file(CREATE_LINK ${PROJECT_SOURCE_DIR}/${header} ${QOR_PUBLIC_DIR}/qorgenlib/${header}
              SYMBOLIC)
       endif()
+      set_property(GLOBAL APPEND PROPERTY QOR_PUBLIC_HEADERS ${PROJECT_SOURCE_DIR}/${header})
       install(FILES ${PROJECT_SOURCE_DIR}/${header}
               DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/qorgenlib/${dir} COMPONENT dev)
     endforeach()

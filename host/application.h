@@ -6,8 +6,8 @@
 
 namespace qor {
 
-// The host's application object: whether another copy already runs, its
-// names, folder and version numbers.
+/// The host's application object: whether another copy already runs, its
+/// names, folder and version numbers.
 class QORGENLIB_EXPORT Application : public HostObject
 {
     Q_OBJECT

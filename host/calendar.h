@@ -6,8 +6,8 @@
 
 namespace qor {
 
-// The drop-down calendar of a date control: the holidays it marks (day/month
-// pairs separated by commas) and the titles of its seven week days.
+/// The drop-down calendar of a date control: the holidays it marks (day/month
+/// pairs separated by commas) and the titles of its seven week days.
 class QORGENLIB_EXPORT Calendar : public HostObject
 {
     Q_OBJECT

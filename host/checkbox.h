@@ -6,7 +6,7 @@
 
 namespace qor {
 
-// The host's check box: Value 0 unchecked, 1 checked, 2 greyed.
+/// The host's check box: Value 0 unchecked, 1 checked, 2 greyed.
 class QORGENLIB_EXPORT CheckBox : public Control
 {
     Q_OBJECT

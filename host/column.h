@@ -7,7 +7,7 @@
 
 namespace qor {
 
-// A column of a host grid, with its heading style and its value translation list.
+/// A column of a host grid, with its heading style and its value translation list.
 class QORGENLIB_EXPORT Column : public HostObject
 {
     Q_OBJECT
@@ -35,10 +35,10 @@ public:
 
     QString elementClass(const QString &property) const override;
 
-    // The translation list (a ValueItems collection); an array of items replaces its elements.
+    /// The translation list (a ValueItems collection); an array of items replaces its elements.
     QVariant valueItems() const;
     void setValueItems(const QVariant &items);
-    // The list's Translate.
+    /// The list's Translate.
     bool translate() const;
     void setTranslate(bool on);
 

@@ -6,8 +6,8 @@
 
 namespace qor {
 
-// A grid's columns: Add(index) inserts a new column there (0 to Count),
-// Remove(index) drops one; each column's ColIndex follows its place.
+/// A grid's columns: Add(index) inserts a new column there (0 to Count),
+/// Remove(index) drops one; each column's ColIndex follows its place.
 class QORGENLIB_EXPORT Columns : public ObjectCollection
 {
     Q_OBJECT

@@ -6,7 +6,7 @@
 
 namespace qor {
 
-// The host's combo box: a list with a text field that shows the selected entry.
+/// The host's combo box: a list with a text field that shows the selected entry.
 class QORGENLIB_EXPORT ComboBox : public ListControl
 {
     Q_OBJECT

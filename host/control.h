@@ -6,8 +6,8 @@
 
 namespace qor {
 
-// A placed control of a form (a shape, a label, a month view): position and
-// size in twips and the classic Move. Any other property it is given is kept.
+/// A placed control of a form (a shape, a label, a month view): position and
+/// size in twips and the classic Move. Any other property it is given is kept.
 class QORGENLIB_EXPORT Control : public HostObject
 {
     Q_OBJECT
@@ -20,7 +20,7 @@ class QORGENLIB_EXPORT Control : public HostObject
 public:
     explicit Control(QObject *parent = nullptr);
 
-    // Moves and sizes it at once; what is left out keeps its value.
+    /// Moves and sizes it at once; what is left out keeps its value.
     Q_INVOKABLE void Move(float left, float top);
     Q_INVOKABLE void Move(float left, float top, float width);
     Q_INVOKABLE void Move(float left, float top, float width, float height);

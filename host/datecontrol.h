@@ -6,8 +6,8 @@
 
 namespace qor {
 
-// The host's date entry control. The range and value take a date or a date
-// text, the formats a format text; Calendar is its drop-down calendar.
+/// The host's date entry control. The range and value take a date or a date
+/// text, the formats a format text; Calendar is its drop-down calendar.
 class QORGENLIB_EXPORT DateControl : public HostObject
 {
     Q_OBJECT

@@ -6,8 +6,8 @@
 
 namespace qor {
 
-// A host form: its Tag (free for the library's use), caption, place and its
-// controls in the form's own order.
+/// A host form: its Tag (free for the library's use), caption, place and its
+/// controls in the form's own order.
 class QORGENLIB_EXPORT Form : public HostObject
 {
     Q_OBJECT

@@ -6,7 +6,7 @@
 
 namespace qor {
 
-// A frame: the container control around a grid or a group of fields.
+/// A frame: the container control around a grid or a group of fields.
 class QORGENLIB_EXPORT Frame : public Control
 {
     Q_OBJECT

@@ -7,8 +7,8 @@
 
 namespace qor {
 
-// The host's data grid: the grid-wide settings the library sets or reads,
-// its three style objects and its columns, in index order.
+/// The host's data grid: the grid-wide settings the library sets or reads,
+/// its three style objects and its columns, in index order.
 class QORGENLIB_EXPORT Grid : public HostObject
 {
     Q_OBJECT
@@ -44,7 +44,7 @@ public:
 
     QString elementClass(const QString &property) const override;
 
-    // The Columns collection; an array of columns replaces its elements.
+    /// The Columns collection; an array of columns replaces its elements.
     QVariant columns() const;
     void setColumns(const QVariant &columns);
 

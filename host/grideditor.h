@@ -7,8 +7,8 @@
 
 namespace qor {
 
-// The cell editor of a host grid: the cell's text and the text being edited
-// with its own caret and selection.
+/// The cell editor of a host grid: the cell's text and the text being edited
+/// with its own caret and selection.
 class QORGENLIB_EXPORT GridEditor : public HostObject
 {
     Q_OBJECT

@@ -6,7 +6,7 @@
 
 namespace qor {
 
-// One of a grid's style objects (its Style, HighlightRowStyle, SelectedStyle).
+/// One of a grid's style objects (its Style, HighlightRowStyle, SelectedStyle).
 class QORGENLIB_EXPORT GridStyle : public HostObject
 {
     Q_OBJECT

@@ -6,7 +6,7 @@
 
 namespace qor {
 
-// The heading style of a grid column: ellipsis and the picture in the heading.
+/// The heading style of a grid column: ellipsis and the picture in the heading.
 class QORGENLIB_EXPORT HeadingStyle : public HostObject
 {
     Q_OBJECT

@@ -8,12 +8,12 @@
 
 namespace qor {
 
-// Makes a model host object from its class name ("TextBox", "Grid", ...),
-// matched regardless of case.
+/// Makes a model host object from its class name ("TextBox", "Grid", ...),
+/// matched regardless of case.
 class QORGENLIB_EXPORT HostFactory
 {
 public:
-    // nullptr for a class it does not know.
+    /// nullptr for a class it does not know.
     static HostObject *create(const QString &className, QObject *parent = nullptr);
     static QStringList classNames();
 };

@@ -6,8 +6,8 @@
 
 namespace qor {
 
-// A label. With AutoSize it takes 100 twips of width per character of its
-// caption, the measure of the model's font.
+/// A label. With AutoSize it takes 100 twips of width per character of its
+/// caption, the measure of the model's font.
 class QORGENLIB_EXPORT Label : public Control
 {
     Q_OBJECT

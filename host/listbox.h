@@ -6,7 +6,7 @@
 
 namespace qor {
 
-// The host's list box.
+/// The host's list box.
 class QORGENLIB_EXPORT ListBox : public ListControl
 {
     Q_OBJECT

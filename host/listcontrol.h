@@ -6,10 +6,10 @@
 
 namespace qor {
 
-// What list boxes and combo boxes share: the entries with the number kept
-// beside each, the selected entry and the entry added last. Operations behave
-// as the classic controls: AddItem appends, or inserts before an index, keeps
-// ItemData beside its entry and moves the selection along with its entry.
+/// What list boxes and combo boxes share: the entries with the number kept
+/// beside each, the selected entry and the entry added last. Operations behave
+/// as the classic controls: AddItem appends, or inserts before an index, keeps
+/// ItemData beside its entry and moves the selection along with its entry.
 class QORGENLIB_EXPORT ListControl : public HostObject
 {
     Q_OBJECT
@@ -24,11 +24,11 @@ public:
 
     QVariantList list() const;
     void setList(const QVariantList &entries);
-    // As long as the list: numbers never given are 0.
+    /// As long as the list: numbers never given are 0.
     QVariantList itemData() const;
     void setItemData(const QVariantList &numbers);
     qint32 listIndex() const { return m_listIndex; }
-    // -1 (nothing selected) up to ListCount - 1; anything else raises 380.
+    /// -1 (nothing selected) up to ListCount - 1; anything else raises 380.
     void setListIndex(qint32 index);
     qint32 listCount() const { return qint32(m_entries.size()); }
 
@@ -38,7 +38,7 @@ public:
     Q_INVOKABLE void RemoveItem(qint32 index);
 
 protected:
-    // Lets a combo box show the selected entry as its text.
+    /// Lets a combo box show the selected entry as its text.
     virtual void selectionChanged() { }
 
 private:

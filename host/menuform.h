@@ -6,9 +6,9 @@
 
 namespace qor {
 
-// The host application's main menu form: its design settings and the child
-// controls the library dresses (the menu frame, the month view, eight shapes
-// and the version label).
+/// The host application's main menu form: its design settings and the child
+/// controls the library dresses (the menu frame, the month view, eight shapes
+/// and the version label).
 class QORGENLIB_EXPORT MenuForm : public Form
 {
     Q_OBJECT
@@ -32,7 +32,7 @@ public:
     QString elementClass(const QString &property) const override;
 
 private:
-    // A new form has the settings of a new form of the host's designer.
+    /// A new form has the settings of a new form of the host's designer.
     qint32 m_borderStyle = 2;
     bool m_controlBox = true;
     bool m_maxButton = true;

@@ -8,8 +8,8 @@
 
 namespace qor {
 
-// A month-view calendar control: its colours, the months it shows, week
-// numbers and the chosen date.
+/// A month-view calendar control: its colours, the months it shows, week
+/// numbers and the chosen date.
 class QORGENLIB_EXPORT MonthView : public Control
 {
     Q_OBJECT

@@ -6,8 +6,8 @@
 
 namespace qor {
 
-// A shape control: a rectangle with a border and a fill, brought to the
-// front with ZOrder 0.
+/// A shape control: a rectangle with a border and a fill, brought to the
+/// front with ZOrder 0.
 class QORGENLIB_EXPORT Shape : public Control
 {
     Q_OBJECT
@@ -20,7 +20,7 @@ class QORGENLIB_EXPORT Shape : public Control
 public:
     explicit Shape(QObject *parent = nullptr);
 
-    // 0 brings it in front of its siblings, 1 sends it behind them.
+    /// 0 brings it in front of its siblings, 1 sends it behind them.
     Q_INVOKABLE void ZOrder(qint32 position = 0);
 
 private:

@@ -7,7 +7,7 @@
 
 namespace qor {
 
-// The host's edit control.
+/// The host's edit control.
 class QORGENLIB_EXPORT TextBox : public HostObject
 {
     Q_OBJECT
@@ -34,7 +34,7 @@ public:
     qint32 maxLength() const { return m_maxLength; }
     void setMaxLength(qint32 maxLength);
 
-    // A disabled control cannot take the focus: RuntimeError 5, as the real one.
+    /// A disabled control cannot take the focus: RuntimeError 5, as the real one.
     Q_INVOKABLE void SetFocus();
 
 private:

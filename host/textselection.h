@@ -6,10 +6,10 @@
 
 namespace qor {
 
-// The text of an edit field with its caret and selection, kept the way the
-// classic edit control keeps them: new text puts the caret in front, a caret
-// past the end stops at the end and drops the selection, and a selection never
-// runs past the end. Negative values raise RuntimeError 380.
+/// The text of an edit field with its caret and selection, kept the way the
+/// classic edit control keeps them: new text puts the caret in front, a caret
+/// past the end stops at the end and drops the selection, and a selection never
+/// runs past the end. Negative values raise RuntimeError 380.
 class QORGENLIB_EXPORT TextSelection
 {
 public:

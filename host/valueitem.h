@@ -6,7 +6,7 @@
 
 namespace qor {
 
-// One entry of a grid column's value translation: the stored value and the text shown for it.
+/// One entry of a grid column's value translation: the stored value and the text shown for it.
 class QORGENLIB_EXPORT ValueItem : public HostObject
 {
     Q_OBJECT

@@ -6,9 +6,9 @@
 
 namespace qor {
 
-// A grid column's value translation list. Add keeps a copy of the item it is
-// given (its Value and DisplayValue), so one item object may be filled and
-// added again and again; Translate switches the translation on.
+/// A grid column's value translation list. Add keeps a copy of the item it is
+/// given (its Value and DisplayValue), so one item object may be filled and
+/// added again and again; Translate switches the translation on.
 class QORGENLIB_EXPORT ValueItems : public ObjectCollection
 {
     Q_OBJECT
@@ -18,7 +18,7 @@ class QORGENLIB_EXPORT ValueItems : public ObjectCollection
 public:
     explicit ValueItems(QObject *parent = nullptr);
 
-    // Records the class of the item added (ValueItem, AdoValueItem).
+    /// Records the class of the item added (ValueItem, AdoValueItem).
     Q_INVOKABLE void Add(QObject *item);
     Q_INVOKABLE void Remove(qint32 index);
     Q_INVOKABLE void Clear();

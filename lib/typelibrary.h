@@ -18,7 +18,7 @@ struct QORGENLIB_EXPORT ParameterInfo
 {
     QString name;
     QString type; // "String", "Boolean", "Long", "Integer", "Single", "Double", "Variant",
-                  // "Object", "Date", or an enumeration
+                  /// "Object", "Date", or an enumeration
     bool byRef = false;
     bool optional = false;
     QVariant defaultValue; // invalid when the optional argument has no default
@@ -59,11 +59,11 @@ struct QORGENLIB_EXPORT RecordInfo
     QList<PropertyInfo> fields;
 };
 
-// The published type information of an automation class, read from its
-// meta-object: invokable methods with their parameters, properties, and the
-// enumerations and records published beside it. Optional arguments and their
-// defaults come from the class info entry named after the method, a JSON object
-// of parameter name to default (null for an optional argument without one).
+/// The published type information of an automation class, read from its
+/// meta-object: invokable methods with their parameters, properties, and the
+/// enumerations and records published beside it. Optional arguments and their
+/// defaults come from the class info entry named after the method, a JSON object
+/// of parameter name to default (null for an optional argument without one).
 class QORGENLIB_EXPORT TypeLibrary
 {
 public:
@@ -77,15 +77,15 @@ public:
     const QList<EnumInfo> &enumerations() const { return m_enums; }
     const QList<RecordInfo> &records() const { return m_records; }
 
-    // Look-ups regardless of case, as an automation call names them.
+    /// Look-ups regardless of case, as an automation call names them.
     const MethodInfo *findMethod(const QString &name) const;
     const PropertyInfo *findProperty(const QString &name) const;
     const EnumInfo *findEnumeration(const QString &name) const;
 
-    // The method of that name, else the property; both null when neither is
-    // there. Each thread keeps its last look-up, so that a host calling the
-    // same member again and again, as in a loop, finds it without folding the
-    // name each time.
+    /// The method of that name, else the property; both null when neither is
+    /// there. Each thread keeps its last look-up, so that a host calling the
+    /// same member again and again, as in a loop, finds it without folding the
+    /// name each time.
     struct Member
     {
         const MethodInfo *method = nullptr;
@@ -94,9 +94,9 @@ public:
     Member findMember(const QString &name) const;
     std::optional<qint32> enumValue(const QString &memberName) const;
 
-    // The library's name of a Qt type ("QString" -> "String").
+    /// The library's name of a Qt type ("QString" -> "String").
     static QString typeName(QMetaType type);
-    // The published name of an enumeration member that C++ spells otherwise.
+    /// The published name of an enumeration member that C++ spells otherwise.
     static QString publishedMemberName(const QString &enumName, const QString &cppName);
 
 private:
@@ -110,9 +110,9 @@ private:
     QList<EnumInfo> m_enums;
     QList<RecordInfo> m_records;
 
-    // Case-folded names to their place in m_methods and m_properties: an open
-    // table with room for twice the names, probed from the name's hash, so
-    // that a look-up folds the name once and compares it once.
+    /// Case-folded names to their place in m_methods and m_properties: an open
+    /// table with room for twice the names, probed from the name's hash, so
+    /// that a look-up folds the name once and compares it once.
     class NameIndex
     {
     public:

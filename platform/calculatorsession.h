@@ -13,7 +13,7 @@
 
 namespace qor {
 
-// One of the calculator's two VAT keys as it is shown.
+/// One of the calculator's two VAT keys as it is shown.
 struct QORGENLIB_EXPORT CalculatorKeyView
 {
     QString caption;
@@ -21,7 +21,7 @@ struct QORGENLIB_EXPORT CalculatorKeyView
     bool enabled = false;
 };
 
-// Everything a calculator window shows at one moment.
+/// Everything a calculator window shows at one moment.
 struct QORGENLIB_EXPORT CalculatorView
 {
     QString title;
@@ -37,7 +37,7 @@ struct QORGENLIB_EXPORT CalculatorView
     bool closed = false;
 };
 
-// The help card of the calculator: its title and its lines in the order shown.
+/// The help card of the calculator: its title and its lines in the order shown.
 struct QORGENLIB_EXPORT CalculatorHelpCard
 {
     QString title;
@@ -47,31 +47,31 @@ struct QORGENLIB_EXPORT CalculatorHelpCard
     QString movingLine;
     QString vatLine;
 
-    // The explanation lines, in order, as one list.
+    /// The explanation lines, in order, as one list.
     QStringList lines() const;
 };
 
-// A calculator the library runs itself: the platform shows it and hands it
-// the user's keys until it closes. Keys are named as typed ("0".."9", ",",
-// ".", "+", "-", "*", "x", "/", "=", "%") or by name ("Enter", "Esc",
-// "Insert", "BackSpace", "Delete", "VAT1", "VAT2", "Euro").
+/// A calculator the library runs itself: the platform shows it and hands it
+/// the user's keys until it closes. Keys are named as typed ("0".."9", ",",
+/// ".", "+", "-", "*", "x", "/", "=", "%") or by name ("Enter", "Esc",
+/// "Insert", "BackSpace", "Delete", "VAT1", "VAT2", "Euro").
 class QORGENLIB_EXPORT CalculatorSession
 {
 public:
     virtual ~CalculatorSession();
 
-    // Returns false for a key the calculator does not have.
+    /// Returns false for a key the calculator does not have.
     virtual bool press(const QString &key) = 0;
     virtual CalculatorView view() const = 0;
     virtual CalculatorHelpCard helpCard() const = 0;
-    // The value to insert: the result register as the calculator leaves it.
+    /// The value to insert: the result register as the calculator leaves it.
     virtual double resultRegister() const = 0;
 };
 
 struct QORGENLIB_EXPORT CalculatorRequest
 {
     double start = 0;
-    // The calculator to show; without one the platform can only answer a register.
+    /// The calculator to show; without one the platform can only answer a register.
     std::shared_ptr<CalculatorSession> session;
 };
 
@@ -81,7 +81,7 @@ struct QORGENLIB_EXPORT CalculatorAnswer
     double result = 0; // the result register when the calculator closed
 };
 
-// The VAT note: a short text shown beside a field for half a second.
+/// The VAT note: a short text shown beside a field for half a second.
 struct QORGENLIB_EXPORT NoteRequest
 {
     QString text;

@@ -10,10 +10,10 @@ class QProcess;
 
 namespace qor {
 
-// The machine as a headless host sees it, through Qt Core alone: the real
-// clock, files and processes, the system's regional settings. With no screen
-// to show dialogs on, every dialog takes its default answer (Enter, OK on the
-// default text, the calculator closed at once) and sounds and keys go nowhere.
+/// The machine as a headless host sees it, through Qt Core alone: the real
+/// clock, files and processes, the system's regional settings. With no screen
+/// to show dialogs on, every dialog takes its default answer (Enter, OK on the
+/// default text, the calculator closed at once) and sounds and keys go nowhere.
 class QORGENLIB_EXPORT CorePlatform : public Platform
 {
 public:
@@ -44,7 +44,7 @@ public:
     QString systemDirectory() const override;
     std::unique_ptr<QIODevice> openFile(const QString &path, QIODevice::OpenMode mode) override;
     void setSystemDirectory(const QString &path);
-    // Sound: the development sound folder.
+    /// Sound: the development sound folder.
     QString developmentSoundDirectory() const override;
     void setDevelopmentSoundDirectory(const QString &path);
 
@@ -55,7 +55,7 @@ public:
     void shutDown() override;
     bool registerInstance(const QString &application) override;
     void keepOnTop(QObject *form, qint64 windowHandle) override;
-    // The folder that plays the system folder unless one is set.
+    /// The folder that plays the system folder unless one is set.
     static QString defaultSystemDirectory();
 
     ScreenInfo screen() const override;
@@ -65,7 +65,7 @@ public:
     int scanCodeOf(int ansiCode) const override;
     void keyEvent(int virtualKey, int scanCode, int flags) override;
 
-    // A Windows-style path ("C:\data\x.ini") as a path of this machine.
+    /// A Windows-style path ("C:\data\x.ini") as a path of this machine.
     static QString localPath(const QString &path);
     // The answer of a box nobody answered: Enter, else its first button.
     static int defaultAnswer(const MessageBoxERequest &request);

@@ -9,42 +9,42 @@
 
 namespace qor {
 
-// A platform for tests and the bridge: it records everything the library shows
-// or plays, answers dialogs from a script, and reports the clock, regional
-// settings and screen it is given. Files and processes stay real.
-//
-// Scripted answers, consumed in order by the dialogs:
-// - extended message box: a result number, a key name ("Enter", "Escape", "J")
-//   or a map {"scan": text} typed through its scanner field; default "Enter";
-// - plain message box: a result number; default 1; a box with OK alone takes
-//   no answer;
-// - input box: a string typed into the field before OK, or {"cancel": true};
-//   default OK on the default value;
-// - calculator: a number left in its result register, {"keys": text} typed
-//   into it (one character a key, named keys in braces: "12+3{Enter}{Enter}";
-//   "{Help}" shows the help card, which takes the next key), or
-//   {"cancel": true}; default closed at once with the register unchanged.
+/// A platform for tests and the bridge: it records everything the library shows
+/// or plays, answers dialogs from a script, and reports the clock, regional
+/// settings and screen it is given. Files and processes stay real.
+///
+/// Scripted answers, consumed in order by the dialogs:
+/// - extended message box: a result number, a key name ("Enter", "Escape", "J")
+///   or a map {"scan": text} typed through its scanner field; default "Enter";
+/// - plain message box: a result number; default 1; a box with OK alone takes
+///   no answer;
+/// - input box: a string typed into the field before OK, or {"cancel": true};
+///   default OK on the default value;
+/// - calculator: a number left in its result register, {"keys": text} typed
+///   into it (one character a key, named keys in braces: "12+3{Enter}{Enter}";
+///   "{Help}" shows the help card, which takes the next key), or
+///   {"cancel": true}; default closed at once with the register unchanged.
 class QORGENLIB_EXPORT RecordingPlatform : public CorePlatform
 {
 public:
     RecordingPlatform();
 
-    // What the platform reports.
+    /// What the platform reports.
     void setNow(const QDateTime &now); // an invalid value follows the real clock
     void setLocale(const QString &name);
     void setScreen(const ScreenInfo &screen);
     void setSoundPlayback(
         std::function<void(const QString &file, bool continuous)> play, std::function<void()> stop);
 
-    // The dialog script.
+    /// The dialog script.
     void setAnswers(const QVariantList &answers);
     void addAnswer(const QVariant &answer);
     QVariantList pendingAnswers() const { return m_answers; }
 
-    // What the user saw or heard, in order: maps with a "kind" field.
+    /// What the user saw or heard, in order: maps with a "kind" field.
     QVariantList shown() const { return m_shown; }
-    // What the library did to the machine: key events, program starts, mouse
-    // pointer, shut-down, topmost forms.
+    /// What the library did to the machine: key events, program starts, mouse
+    /// pointer, shut-down, topmost forms.
     QVariantList actions() const { return m_actions; }
     void clearRecords();
 
@@ -65,7 +65,7 @@ public:
     void setMousePointer(int pointer) override;
     void keyEvent(int virtualKey, int scanCode, int flags) override;
 
-    // The keys of a scripted calculator text, in order.
+    /// The keys of a scripted calculator text, in order.
     static QStringList calculatorKeys(const QString &text);
 
 private:

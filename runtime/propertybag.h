@@ -11,20 +11,20 @@
 
 namespace qor {
 
-// Properties an object keeps beside its declared ones, found by name regardless
-// of the case of ASCII letters in constant time, listed in the order they were
-// first assigned. A model control is such an object; the call-by-name functions look in its bag
-// after its declared properties.
+/// Properties an object keeps beside its declared ones, found by name regardless
+/// of the case of ASCII letters in constant time, listed in the order they were
+/// first assigned. A model control is such an object; the call-by-name functions look in its bag
+/// after its declared properties.
 class QORGENLIB_EXPORT PropertyBag
 {
 public:
     virtual ~PropertyBag();
 
-    // The spelling the bag knows `name` by, or an empty text.
+    /// The spelling the bag knows `name` by, or an empty text.
     QString bagName(const QString &name) const;
-    // The value, or nullptr when the bag has no such property.
+    /// The value, or nullptr when the bag has no such property.
     const QVariant *bagValue(const QString &name) const;
-    // Assigns; a new name is kept in the spelling given.
+    /// Assigns; a new name is kept in the spelling given.
     void bagAssign(const QString &name, const QVariant &value);
     const QStringList &bagNames() const { return m_names; }
 

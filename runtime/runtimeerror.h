@@ -7,12 +7,12 @@
 
 namespace qor {
 
-// A run-time error as the host sees it: the classic error number and its text.
-// Conversion and overflow errors travel to the caller in this form.
+/// A run-time error as the host sees it: the classic error number and its text.
+/// Conversion and overflow errors travel to the caller in this form.
 class QORGENLIB_EXPORT RuntimeError : public std::exception
 {
 public:
-    // The classic numbers the library raises.
+    /// The classic numbers the library raises.
     enum Number : int {
         InvalidProcedureCall = 5,
         Overflow = 6,

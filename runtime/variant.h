@@ -7,7 +7,7 @@
 
 namespace qor {
 
-// The Variant subtypes a host can tell apart.
+/// The Variant subtypes a host can tell apart.
 enum class VarType {
     Empty,
     Null,
@@ -24,7 +24,7 @@ enum class VarType {
     Array,
 };
 
-// Empty is an invalid QVariant; Null a QVariant holding nullptr.
+/// Empty is an invalid QVariant; Null a QVariant holding nullptr.
 QORGENLIB_EXPORT QVariant emptyVariant();
 QORGENLIB_EXPORT QVariant nullVariant();
 QORGENLIB_EXPORT bool isEmpty(const QVariant &v);
@@ -33,12 +33,12 @@ QORGENLIB_EXPORT bool isObject(const QVariant &v);
 QORGENLIB_EXPORT bool isArray(const QVariant &v);
 
 QORGENLIB_EXPORT VarType varType(const QVariant &v);
-// "Empty", "Null", "Integer", "Long", "Single", "Double", "Currency", "Date",
-// "String", "Object", "Boolean", "Byte", "Array".
+/// "Empty", "Null", "Integer", "Long", "Single", "Double", "Currency", "Date",
+/// "String", "Object", "Boolean", "Byte", "Array".
 QORGENLIB_EXPORT QString varTypeName(VarType t);
 QORGENLIB_EXPORT QString varTypeName(const QVariant &v);
 
-// Typed constructors that keep the subtype a host expects.
+/// Typed constructors that keep the subtype a host expects.
 QORGENLIB_EXPORT QVariant integerVariant(qint16 v);
 QORGENLIB_EXPORT QVariant longVariant(qint32 v);
 QORGENLIB_EXPORT QVariant doubleVariant(double v);
@@ -47,7 +47,7 @@ QORGENLIB_EXPORT QVariant doubleVariant(double v);
 
 namespace qor {
 
-// The value an automation call passes for an optional argument left out.
+/// The value an automation call passes for an optional argument left out.
 struct QORGENLIB_EXPORT MissingArgument
 {
     bool operator==(const MissingArgument &) const { return true; }

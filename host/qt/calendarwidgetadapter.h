@@ -12,11 +12,11 @@ namespace qor {
 
 class WeekTitleDelegate;
 
-// Gives a QCalendarWidget the names of a host control's calendar: Holidays, a
-// comma-separated list of day/month pairs marked in every year shown, and
-// WeekTitles, seven short day names beginning with Sunday. Country ("BE" or
-// "LU") marks that country's public holidays of the year shown as well,
-// computed for any year. The adapter does not own the calendar.
+/// Gives a QCalendarWidget the names of a host control's calendar: Holidays, a
+/// comma-separated list of day/month pairs marked in every year shown, and
+/// WeekTitles, seven short day names beginning with Sunday. Country ("BE" or
+/// "LU") marks that country's public holidays of the year shown as well,
+/// computed for any year. The adapter does not own the calendar.
 class QORGENLIB_WIDGETS_EXPORT CalendarWidgetAdapter : public QObject
 {
     Q_OBJECT
@@ -34,10 +34,10 @@ public:
     QString country() const { return m_country; }
     void setCountry(const QString &country);
 
-    // The days marked as holidays in a year.
+    /// The days marked as holidays in a year.
     QList<QDate> holidaysIn(int year) const;
-    // The title shown above a weekday (1 Monday .. 7 Sunday); empty when the
-    // calendar keeps its own.
+    /// The title shown above a weekday (1 Monday .. 7 Sunday); empty when the
+    /// calendar keeps its own.
     QString titleOf(int dayOfWeek) const;
 
 private:

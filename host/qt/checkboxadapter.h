@@ -8,8 +8,8 @@
 
 namespace qor {
 
-// Gives a QCheckBox the names of a check box: Value 0 unchecked, 1 checked,
-// 2 greyed (partly checked), and Caption.
+/// Gives a QCheckBox the names of a check box: Value 0 unchecked, 1 checked,
+/// 2 greyed (partly checked), and Caption.
 class QORGENLIB_WIDGETS_EXPORT CheckBoxAdapter : public QObject
 {
     Q_OBJECT
@@ -20,7 +20,7 @@ public:
     explicit CheckBoxAdapter(QCheckBox *box, QObject *parent = nullptr);
 
     qint16 value() const;
-    // 380 for anything but 0, 1 and 2.
+    /// 380 for anything but 0, 1 and 2.
     void setValue(qint16 value);
     QString caption() const;
     void setCaption(const QString &caption);

@@ -7,9 +7,9 @@
 
 namespace qor {
 
-// Gives a QComboBox the names of a combo box: those of every list (ListAdapter)
-// and Text, the current text (typed into an editable combo, else the item of
-// that text selected).
+/// Gives a QComboBox the names of a combo box: those of every list (ListAdapter)
+/// and Text, the current text (typed into an editable combo, else the item of
+/// that text selected).
 class QORGENLIB_WIDGETS_EXPORT ComboBoxAdapter : public ListAdapter
 {
     Q_OBJECT

@@ -11,11 +11,11 @@ namespace qor {
 
 class CalendarWidgetAdapter;
 
-// Gives a QDateEdit the names of a host date control: MinDate, MaxDate and
-// Value take a date or a date text in the regional settings, Format and
-// DisplayFormat a classic format text ("dd/mm/yyyy", where mm is the month),
-// and Calendar is the drop-down calendar with its holidays and week titles.
-// Text is the date as the field shows it. The adapter does not own the field; it turns the calendar pop-up on.
+/// Gives a QDateEdit the names of a host date control: MinDate, MaxDate and
+/// Value take a date or a date text in the regional settings, Format and
+/// DisplayFormat a classic format text ("dd/mm/yyyy", where mm is the month),
+/// and Calendar is the drop-down calendar with its holidays and week titles.
+/// Text is the date as the field shows it. The adapter does not own the field; it turns the calendar pop-up on.
 class QORGENLIB_WIDGETS_EXPORT DateEditAdapter : public QObject
 {
     Q_OBJECT
@@ -46,8 +46,8 @@ public:
     QObject *calendar() const;
     CalendarWidgetAdapter *calendarAdapter() const { return m_calendar; }
 
-    // A classic date format as a Qt display format: d and m/M are day and
-    // month, y the year; any other letter is shown as it is.
+    /// A classic date format as a Qt display format: d and m/M are day and
+    /// month, y the year; any other letter is shown as it is.
     static QString qtDisplayFormat(const QString &classic);
 
 private:

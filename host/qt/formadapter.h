@@ -10,10 +10,10 @@
 
 namespace qor {
 
-// Gives any QWidget form the names of a host form: Tag (kept on the widget,
-// so it lives as long as the form), Caption (the window title) and Controls:
-// its line edits, combo boxes, check boxes, spin boxes and date edits, in the
-// order they were created, each under the names of its kind of control.
+/// Gives any QWidget form the names of a host form: Tag (kept on the widget,
+/// so it lives as long as the form), Caption (the window title) and Controls:
+/// its line edits, combo boxes, check boxes, spin boxes and date edits, in the
+/// order they were created, each under the names of its kind of control.
 class QORGENLIB_WIDGETS_EXPORT FormAdapter : public QObject
 {
     Q_OBJECT

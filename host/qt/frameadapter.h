@@ -6,10 +6,10 @@
 
 namespace qor {
 
-// Gives a container widget on a real form (a QGroupBox, a QFrame) the names of
-// the host's frame: the place and size of every placed control, Caption (a
-// group box's title), BorderStyle (0 flat without a line, 1 the widget's own
-// frame) and BackColor as a colour number.
+/// Gives a container widget on a real form (a QGroupBox, a QFrame) the names of
+/// the host's frame: the place and size of every placed control, Caption (a
+/// group box's title), BorderStyle (0 flat without a line, 1 the widget's own
+/// frame) and BackColor as a colour number.
 class QORGENLIB_WIDGETS_EXPORT FrameAdapter : public WidgetAdapter
 {
     Q_OBJECT

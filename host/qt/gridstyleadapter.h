@@ -10,9 +10,9 @@ class QAbstractItemView;
 
 namespace qor {
 
-// One style object of a grid on a QTableView: its colours go into the view's
-// palette roles (cells: Base and Text; the highlighted row: Highlight and
-// HighlightedText), and WrapText into the view's word wrap.
+/// One style object of a grid on a QTableView: its colours go into the view's
+/// palette roles (cells: Base and Text; the highlighted row: Highlight and
+/// HighlightedText), and WrapText into the view's word wrap.
 class QORGENLIB_WIDGETS_EXPORT GridStyleAdapter : public QObject
 {
     Q_OBJECT

@@ -9,9 +9,9 @@ namespace qor {
 
 class TableColumnAdapter;
 
-// The heading style of a QTableView column: the picture goes into the
-// heading as its decoration (its corner colour transparent when asked), and
-// the ellipsis into the header's elide mode.
+/// The heading style of a QTableView column: the picture goes into the
+/// heading as its decoration (its corner colour transparent when asked), and
+/// the ellipsis into the header's elide mode.
 class QORGENLIB_WIDGETS_EXPORT HeadingStyleAdapter : public QObject
 {
     Q_OBJECT

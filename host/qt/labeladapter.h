@@ -8,8 +8,8 @@
 
 namespace qor {
 
-// A label on a real form: Caption, Alignment (0 left, 1 right, 2 centre),
-// AutoSize (the label takes the width and height of its text) and ForeColor.
+/// A label on a real form: Caption, Alignment (0 left, 1 right, 2 centre),
+/// AutoSize (the label takes the width and height of its text) and ForeColor.
 class QORGENLIB_WIDGETS_EXPORT LabelAdapter : public WidgetAdapter
 {
     Q_OBJECT

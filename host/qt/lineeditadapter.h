@@ -11,10 +11,10 @@
 
 namespace qor {
 
-// Gives a QLineEdit the names of an edit control, so the library can work on
-// a real field: Text, SelStart, SelLength, MaxLength, Enabled and the
-// operation SetFocus, besides the position and size in twips of every placed
-// control. The adapter does not own the field.
+/// Gives a QLineEdit the names of an edit control, so the library can work on
+/// a real field: Text, SelStart, SelLength, MaxLength, Enabled and the
+/// operation SetFocus, besides the position and size in twips of every placed
+/// control. The adapter does not own the field.
 class QORGENLIB_WIDGETS_EXPORT LineEditAdapter : public WidgetAdapter
 {
     Q_OBJECT
@@ -35,7 +35,7 @@ public:
     void setSelStart(int start);
     int selLength() const;
     void setSelLength(int length);
-    // 0 means no limit, as for the classic edit control.
+    /// 0 means no limit, as for the classic edit control.
     int maxLength() const;
     void setMaxLength(int length);
     bool enabled() const;

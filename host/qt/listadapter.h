@@ -7,11 +7,11 @@
 
 namespace qor {
 
-// What a combo box and a list box have in common: List and ItemData (the
-// item's user data) as arrays, ListCount, ListIndex (the current row, -1 for
-// none; anything beyond raises 380), NewIndex, Clear and AddItem. A subclass
-// reaches its widget through the few primitives below and raises 91 when the
-// widget is gone.
+/// What a combo box and a list box have in common: List and ItemData (the
+/// item's user data) as arrays, ListCount, ListIndex (the current row, -1 for
+/// none; anything beyond raises 380), NewIndex, Clear and AddItem. A subclass
+/// reaches its widget through the few primitives below and raises 91 when the
+/// widget is gone.
 class QORGENLIB_WIDGETS_EXPORT ListAdapter : public QObject
 {
     Q_OBJECT
@@ -44,7 +44,7 @@ protected:
     virtual int currentRow() const = 0;
     virtual void setCurrentRow(int row) = 0;
     virtual void clearItems() = 0;
-    // A new item with the number 0 at row.
+    /// A new item with the number 0 at row.
     virtual void insertItem(int row, const QString &text) = 0;
 
 private:

@@ -7,9 +7,9 @@
 
 namespace qor {
 
-// Gives a QListWidget the names of a list box: those of every list
-// (ListAdapter, the number kept as the item's user data) and Text, the text of
-// the current item.
+/// Gives a QListWidget the names of a list box: those of every list
+/// (ListAdapter, the number kept as the item's user data) and Text, the text of
+/// the current item.
 class QORGENLIB_WIDGETS_EXPORT ListWidgetAdapter : public ListAdapter
 {
     Q_OBJECT

@@ -13,17 +13,17 @@ class FrameAdapter;
 class LabelAdapter;
 class MonthViewAdapter;
 
-// Gives a host's QMainWindow the names of the menu form the library dresses:
-// the design settings, WindowState, Caption, place and size in twips, hWnd,
-// and the children FrameMenu (a group box), MonthView (a QCalendarWidget),
-// ShapeMenu (eight painted shapes) and LabelVersie (a label). Children the
-// window already has under those object names ("ShapeMenu0" ... "ShapeMenu7"
-// for the shapes) are used; the others are made on its central widget.
-//
-// Of the design settings, ControlBox, MaxButton and MinButton are window flags
-// and ShowInTaskbar is the absence of the tool-window flag; BorderStyle (2
-// sizable, 1 fixed), Moveable and StartUpPosition are kept for the checks,
-// since the window manager decides moving and placing.
+/// Gives a host's QMainWindow the names of the menu form the library dresses:
+/// the design settings, WindowState, Caption, place and size in twips, hWnd,
+/// and the children FrameMenu (a group box), MonthView (a QCalendarWidget),
+/// ShapeMenu (eight painted shapes) and LabelVersie (a label). Children the
+/// window already has under those object names ("ShapeMenu0" ... "ShapeMenu7"
+/// for the shapes) are used; the others are made on its central widget.
+///
+/// Of the design settings, ControlBox, MaxButton and MinButton are window flags
+/// and ShowInTaskbar is the absence of the tool-window flag; BorderStyle (2
+/// sizable, 1 fixed), Moveable and StartUpPosition are kept for the checks,
+/// since the window manager decides moving and placing.
 class QORGENLIB_WIDGETS_EXPORT MainWindowAdapter : public QObject
 {
     Q_OBJECT
@@ -61,7 +61,7 @@ public:
     void setMinButton(bool on);
     bool showInTaskbar() const;
     void setShowInTaskbar(bool on);
-    // 0 normal, 1 minimised, 2 maximised.
+    /// 0 normal, 1 minimised, 2 maximised.
     qint32 windowState() const;
     void setWindowState(qint32 state);
     QString caption() const;

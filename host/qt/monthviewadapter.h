@@ -9,9 +9,9 @@
 
 namespace qor {
 
-// A month view on a real form, a QCalendarWidget: its colours, week numbers
-// and chosen date. The widget always shows one month: MonthColumns and
-// MonthRows are kept but change nothing; Day is the day of the chosen date.
+/// A month view on a real form, a QCalendarWidget: its colours, week numbers
+/// and chosen date. The widget always shows one month: MonthColumns and
+/// MonthRows are kept but change nothing; Day is the day of the chosen date.
 class QORGENLIB_WIDGETS_EXPORT MonthViewAdapter : public WidgetAdapter
 {
     Q_OBJECT

@@ -6,9 +6,9 @@
 
 namespace qor {
 
-// A shape control on a real form: a widget that paints a rectangle with the
-// shape's border (BorderStyle 0: none) and fill (FillStyle 0: solid, 1:
-// transparent) in classic colour numbers.
+/// A shape control on a real form: a widget that paints a rectangle with the
+/// shape's border (BorderStyle 0: none) and fill (FillStyle 0: solid, 1:
+/// transparent) in classic colour numbers.
 class QORGENLIB_WIDGETS_EXPORT ShapeAdapter : public WidgetAdapter
 {
     Q_OBJECT
@@ -18,11 +18,11 @@ class QORGENLIB_WIDGETS_EXPORT ShapeAdapter : public WidgetAdapter
     Q_PROPERTY(qint32 FillColor READ fillColor WRITE setFillColor)
 
 public:
-    // Makes the shape's widget as a child of `parent`, named `name`.
+    /// Makes the shape's widget as a child of `parent`, named `name`.
     ShapeAdapter(QWidget *parent, const QString &name, QObject *owner = nullptr);
 
-    // Among the shapes only: windowed siblings (frames, calendars, labels)
-    // stay in front of every shape, as they did on the classic form.
+    /// Among the shapes only: windowed siblings (frames, calendars, labels)
+    /// stay in front of every shape, as they did on the classic form.
     Q_INVOKABLE void ZOrder(qint32 position = 0);
 
     qint32 borderStyle() const;

@@ -9,8 +9,8 @@
 
 namespace qor {
 
-// Gives a QSpinBox or QDoubleSpinBox the names of an up-down field: Text as
-// shown and Value as a number (Long for a QSpinBox, Double otherwise).
+/// Gives a QSpinBox or QDoubleSpinBox the names of an up-down field: Text as
+/// shown and Value as a number (Long for a QSpinBox, Double otherwise).
 class QORGENLIB_WIDGETS_EXPORT SpinBoxAdapter : public QObject
 {
     Q_OBJECT

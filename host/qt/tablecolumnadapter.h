@@ -15,11 +15,11 @@ class HeadingStyleAdapter;
 class TranslationDelegate;
 class ValueItemsAdapter;
 
-// One column of a QTableView under the names of a grid column: the caption,
-// alignment and direction picture in the heading, the width in twips (read
-// back from the header, so rounded to whole pixels), visibility, sizing, and
-// the value translation of its cells. Settings that a table view has no
-// counterpart for are kept as given.
+/// One column of a QTableView under the names of a grid column: the caption,
+/// alignment and direction picture in the heading, the width in twips (read
+/// back from the header, so rounded to whole pixels), visibility, sizing, and
+/// the value translation of its cells. Settings that a table view has no
+/// counterpart for are kept as given.
 class QORGENLIB_WIDGETS_EXPORT TableColumnAdapter : public QObject
 {
     Q_OBJECT

@@ -11,9 +11,9 @@ namespace qor {
 
 class TableColumnAdapter;
 
-// The Columns collection of a QTableView: Add(index) inserts a model column
-// there, Remove(index) takes one out, Item(index) gives the column, Count
-// how many there are. The view's model must allow inserting and removing columns.
+/// The Columns collection of a QTableView: Add(index) inserts a model column
+/// there, Remove(index) takes one out, Item(index) gives the column, Count
+/// how many there are. The view's model must allow inserting and removing columns.
 class QORGENLIB_WIDGETS_EXPORT TableColumnsAdapter : public QObject
 {
     Q_OBJECT

@@ -11,11 +11,11 @@ namespace qor {
 class GridStyleAdapter;
 class TableColumnsAdapter;
 
-// Gives a QTableView the names of the host's data grid, so that the grid
-// set-up and translation calls work on a real table: place and size in twips,
-// row height, selection and editing, the style colours, and the Columns
-// collection. A view without a model gets an empty QStandardItemModel. The
-// adapter does not own the view.
+/// Gives a QTableView the names of the host's data grid, so that the grid
+/// set-up and translation calls work on a real table: place and size in twips,
+/// row height, selection and editing, the style colours, and the Columns
+/// collection. A view without a model gets an empty QStandardItemModel. The
+/// adapter does not own the view.
 class QORGENLIB_WIDGETS_EXPORT TableViewAdapter : public QObject
 {
     Q_OBJECT

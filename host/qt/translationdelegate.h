@@ -8,9 +8,9 @@
 
 namespace qor {
 
-// Draws the cells of one grid column: aligned as the column asks and, while
-// translation is on, showing the text of the first value item whose value
-// equals the cell's value (numbers by value, other values by their text).
+/// Draws the cells of one grid column: aligned as the column asks and, while
+/// translation is on, showing the text of the first value item whose value
+/// equals the cell's value (numbers by value, other values by their text).
 class QORGENLIB_WIDGETS_EXPORT TranslationDelegate : public QStyledItemDelegate
 {
     Q_OBJECT

@@ -11,8 +11,8 @@
 
 namespace qor::twips {
 
-// Sizes: the host speaks twips, the widgets pixels, at the screen's twips per
-// pixel. A size no screen can show (or not a number) raises RuntimeError 6.
+/// Sizes: the host speaks twips, the widgets pixels, at the screen's twips per
+/// pixel. A size no screen can show (or not a number) raises RuntimeError 6.
 inline int toPixels(double twips, double twipsPerPixel)
 {
     const double value = std::round(twips / qMax(1.0, twipsPerPixel));
@@ -37,7 +37,7 @@ inline float fromPixelsY(int pixels)
     return float(pixels) * float(platform().screen().twipsPerPixelY);
 }
 
-// Colours: &HBBGGRR, or &H800000nn for a system colour of the palette.
+/// Colours: &HBBGGRR, or &H800000nn for a system colour of the palette.
 inline QColor toColor(qint32 colour, const QPalette &palette)
 {
     constexpr quint32 systemBit = 0x80000000u;

@@ -9,9 +9,9 @@ namespace qor {
 
 class TranslationDelegate;
 
-// A column's value translation list on a QTableView: Add keeps a copy of the
-// item's Value and DisplayValue in the column's delegate, Translate switches
-// the translation on, Item(i) gives a copy of entry i.
+/// A column's value translation list on a QTableView: Add keeps a copy of the
+/// item's Value and DisplayValue in the column's delegate, Translate switches
+/// the translation on, Item(i) gives a copy of entry i.
 class QORGENLIB_WIDGETS_EXPORT ValueItemsAdapter : public QObject
 {
     Q_OBJECT

@@ -9,9 +9,9 @@
 
 namespace qor {
 
-// Paints the title row of a QCalendarWidget with titles of our own: seven
-// names beginning with Sunday, placed under the calendar's first day of the
-// week and its week-number column.
+/// Paints the title row of a QCalendarWidget with titles of our own: seven
+/// names beginning with Sunday, placed under the calendar's first day of the
+/// week and its week-number column.
 class QORGENLIB_WIDGETS_EXPORT WeekTitleDelegate : public QStyledItemDelegate
 {
     Q_OBJECT
@@ -20,9 +20,9 @@ public:
     WeekTitleDelegate(QCalendarWidget *calendar, QObject *parent = nullptr);
 
     void setTitles(const QStringList &sundayFirst) { m_titles = sundayFirst; }
-    // The title of a weekday (1 Monday .. 7 Sunday), empty without titles.
+    /// The title of a weekday (1 Monday .. 7 Sunday), empty without titles.
     QString titleOf(int dayOfWeek) const;
-    // The weekday of a column of the title row, 0 for the week-number column.
+    /// The weekday of a column of the title row, 0 for the week-number column.
     int dayOfColumn(int column) const;
 
 protected:

@@ -9,10 +9,10 @@
 
 namespace qor {
 
-// Gives a child widget of a form the names of a placed control: Left, Top,
-// Width and Height in twips (converted with the platform's twips per pixel),
-// Visible, Move and ZOrder. The adapter does not own the widget; a widget
-// that is gone raises RuntimeError 91.
+/// Gives a child widget of a form the names of a placed control: Left, Top,
+/// Width and Height in twips (converted with the platform's twips per pixel),
+/// Visible, Move and ZOrder. The adapter does not own the widget; a widget
+/// that is gone raises RuntimeError 91.
 class QORGENLIB_WIDGETS_EXPORT WidgetAdapter : public QObject
 {
     Q_OBJECT
@@ -41,12 +41,12 @@ public:
     Q_INVOKABLE void Move(float left, float top);
     Q_INVOKABLE void Move(float left, float top, float width);
     Q_INVOKABLE void Move(float left, float top, float width, float height);
-    // 0 brings the widget in front of its siblings, anything else behind them.
+    /// 0 brings the widget in front of its siblings, anything else behind them.
     Q_INVOKABLE void ZOrder(qint32 position = 0);
 
-    // A classic colour number (&HBBGGRR, or &H800000xx for a system colour).
+    /// A classic colour number (&HBBGGRR, or &H800000xx for a system colour).
     static QColor colourOf(qint32 colour);
-    // Twips to pixels and back, horizontally or vertically.
+    /// Twips to pixels and back, horizontally or vertically.
     static int pixels(double twips, bool horizontal);
     static float twips(int pixels, bool horizontal);
 

@@ -7,7 +7,7 @@
 
 namespace qorGenLib {
 
-// A rectangle of the screen in twips, as the work-area query returns it.
+/// A rectangle of the screen in twips, as the work-area query returns it.
 struct QORGENLIB_EXPORT WindowSize
 {
     Q_GADGET

@@ -8,10 +8,10 @@
 
 namespace qor {
 
-// The machine of a host with a screen: the dialogs as real modal windows, the
-// system beep, wave sounds, the screen's size and resolution, the mouse
-// pointer, and keys posted to the widget that has the focus. Needs a
-// QApplication.
+/// The machine of a host with a screen: the dialogs as real modal windows, the
+/// system beep, wave sounds, the screen's size and resolution, the mouse
+/// pointer, and keys posted to the widget that has the focus. Needs a
+/// QApplication.
 class QORGENLIB_WIDGETS_EXPORT QtPlatform : public CorePlatform
 {
 public:
@@ -23,7 +23,7 @@ public:
     InputBoxEAnswer inputBoxE(const InputBoxERequest &request) override;
     void beep() override;
     void processEvents() override;
-    // The calculator and the VAT note (calculator/qt).
+    /// The calculator and the VAT note (calculator/qt).
     CalculatorAnswer calculator(const CalculatorRequest &request) override;
     void showNote(const NoteRequest &note) override;
     void playSound(const QString &file, bool continuous) override;
@@ -34,7 +34,7 @@ public:
     void setMousePointer(int pointer) override;
     void keyEvent(int virtualKey, int scanCode, int flags) override;
 
-    // The taskbar as the largest strip of the screen outside its available area.
+    /// The taskbar as the largest strip of the screen outside its available area.
     static std::optional<QRect> taskbarOf(const QRect &full, const QRect &available);
 
 private:

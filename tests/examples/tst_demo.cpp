@@ -7,14 +7,11 @@
 #include "../common/userinput.h"
 
 #include <QApplication>
-#include <QCalendarWidget>
 #include <QComboBox>
 #include <QFile>
-#include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
-#include <QStyledItemDelegate>
 #include <QTableView>
 #include <QTemporaryDir>
 #include <QTest>
@@ -82,24 +79,6 @@ class TestDemo : public QObject
         QTest::keyClick(edit, Qt::Key_Tab);
     }
     QTableView *grid() const { return child<QTableView>("grdLijnen"); }
-    // A cell as the grid draws it, translated where the column translates.
-    QString cell(int row, int column) const
-    {
-        auto *delegate = static_cast<QStyledItemDelegate *>(grid()->itemDelegateForColumn(column));
-        return delegate->displayText(grid()->model()->index(row, column).data(), QLocale::c());
-    }
-    QString heading(int column) const
-    {
-        return grid()->model()->headerData(column, Qt::Horizontal).toString();
-    }
-    QString settingsText() const
-    {
-        QString path;
-        demo->library().GetIni(
-            QStringLiteral("qorGenLib Demo"), QStringLiteral("Taal"), path, false);
-        QFile ini(path.replace(QLatin1Char('\\'), QLatin1Char('/')));
-        return ini.open(QIODevice::ReadOnly) ? QString::fromLatin1(ini.readAll()) : QString();
-    }
     // The invoice window active again, as after a click on it.
     void activateInvoice()
     {
@@ -122,19 +101,6 @@ private slots:
         invoice = demo->invoice();
         QApplication::setActiveWindow(invoice);
         QVERIFY(QTest::qWaitForWindowActive(invoice));
-    }
-
-    void menuIsDressedWithTheHolidays()
-    {
-        MenuWindow *menu = demo->menu();
-        QCOMPARE(menu->windowState() & Qt::WindowMaximized, Qt::WindowMaximized);
-        QCOMPARE(menu->findChild<QLabel *>(QStringLiteral("LabelVersie"))->text(),
-            QStringLiteral("Versie 0.2 Rev. 0"));
-        auto *calendar = menu->findChild<QCalendarWidget *>(QStringLiteral("MonthView"));
-        QCOMPARE(calendar->selectedDate(), QDate(2026, 11, 23));
-        // Armistice Day is marked, the day before is not.
-        QVERIFY(calendar->dateTextFormat(QDate(2026, 11, 11)) != QTextCharFormat());
-        QCOMPARE(calendar->dateTextFormat(QDate(2026, 11, 10)), QTextCharFormat());
     }
 
     void fieldsAreCheckedOnLeaving_data()
@@ -186,33 +152,6 @@ private slots:
         QCOMPARE(child<QLabel>("lblOGM")->text(), QStringLiteral("+++002/0260/11718+++"));
     }
 
-    void vatOnPercent()
-    {
-        activateInvoice();
-        field("txtOmschrijving")->setFocus();
-        QTest::keyClicks(field("txtOmschrijving"), QStringLiteral("Herstelling"));
-        field("txtAantal")->setFocus();
-        QTest::keyClicks(field("txtAantal"), QStringLiteral("1"));
-        QLineEdit *price = field("txtPrijs");
-        price->setFocus();
-        QTest::keyClicks(price, QStringLiteral("200"));
-        // Two rates in force: "%" opens the calculator to choose the rate.
-        QString withVat;
-        whenModalIsActive(QStringLiteral("frmCalculator"), [&](QWidget *calculator) {
-            QTest::mouseClick(
-                calculator->findChild<QPushButton *>(QStringLiteral("cmdBTW1")), Qt::LeftButton);
-            withVat = calculator->findChild<QLabel *>(QStringLiteral("lblDisplay"))->text();
-            QTest::mouseClick(
-                calculator->findChild<QPushButton *>(QStringLiteral("cmdInsert")), Qt::LeftButton);
-        });
-        QTest::keyClick(price, '%');
-        QCOMPARE(withVat.trimmed(), QStringLiteral("242"));
-        QCOMPARE(price->text(), QStringLiteral("242"));
-        QTest::mouseClick(child<QPushButton>("cmdToevoegen"), Qt::LeftButton);
-        QCOMPARE(grid()->model()->rowCount(), 1);
-        QCOMPARE(field("txtTotaalIncl")->text(), QStringLiteral("242,00 €"));
-    }
-
     void scannedArticlesFillTheLine_data()
     {
         QTest::addColumn<QString>("scanned");
@@ -244,91 +183,6 @@ private slots:
         QCOMPARE(code->text(), QString());
     }
 
-    void totalsInEuro()
-    {
-        // 242 at 21 %, 2 x 45,98 at 21 %, 350 x 0,12 at 6 %.
-        QCOMPARE(field("txtTotaalIncl")->text(), QStringLiteral("375,96 €"));
-        QCOMPARE(field("txtTotaalExcl")->text(), QStringLiteral("315,62 €"));
-        QCOMPARE(field("txtTotaalBtw")->text(), QStringLiteral("60,34 €"));
-    }
-
-    void headingSortsTheGrid()
-    {
-        QHeaderView *header = grid()->horizontalHeader();
-        auto clickHeading = [header](int column) {
-            QTest::mouseClick(header->viewport(), Qt::LeftButton, {},
-                QPoint(header->sectionViewportPosition(column) + 5, header->height() / 2));
-        };
-        clickHeading(7);
-        QCOMPARE(cell(0, 1), QStringLiteral("Groenafval"));
-        QCOMPARE(cell(2, 1), QStringLiteral("Herstelling"));
-        const QVariant ascending
-            = grid()->model()->headerData(7, Qt::Horizontal, Qt::DecorationRole);
-        QVERIFY(!ascending.isNull());
-        clickHeading(7);
-        QCOMPARE(cell(0, 1), QStringLiteral("Herstelling"));
-        QVERIFY(grid()->model()->headerData(7, Qt::Horizontal, Qt::DecorationRole) != ascending);
-        clickHeading(1);
-        QCOMPARE(cell(0, 1), QStringLiteral("Container 1,1 m3 huur"));
-        QVERIFY(grid()->model()->headerData(7, Qt::Horizontal, Qt::DecorationRole).isNull());
-        QCOMPARE(cell(0, 3), QStringLiteral("container"));
-        QCOMPARE(cell(0, 6), QStringLiteral("Factuur"));
-    }
-
-    void languageSwitchRelabels()
-    {
-        activateInvoice();
-        auto *language = child<QComboBox>("cboTaal");
-        language->setFocus();
-        QTest::keyClick(language, Qt::Key_Down);
-        QCOMPARE(language->currentIndex(), 1);
-        QCOMPARE(caption("lblNaam"), QStringLiteral("Nom :"));
-        QCOMPARE(caption("lblBtwNr"), QStringLiteral("N° TVA :"));
-        QCOMPARE(heading(2), QStringLiteral("Quantité"));
-        QCOMPARE(cell(0, 6), QStringLiteral("Facture"));
-        // The sort the user chose survives the new set-up.
-        QCOMPARE(cell(0, 1), QStringLiteral("Container 1,1 m3 huur"));
-        QVERIFY(settingsText().contains(QStringLiteral("Taal=10000")));
-    }
-
-    void saveAsksWhetherAmountsIncludeVat()
-    {
-        activateInvoice();
-        QLineEdit *quantity = field("txtAantal");
-        quantity->setFocus();
-        QTest::keyClicks(quantity, QStringLiteral("3"));
-        QString question;
-        answerMessageBox("cmdYes", &question);
-        QTest::mouseClick(child<QPushButton>("cmdOpslaan"), Qt::LeftButton);
-        QVERIFY2(question.contains(QStringLiteral("TVA")), qPrintable(question));
-        const QString saved = caption("lblStatus");
-        QVERIFY(settingsText().contains(
-            QStringLiteral("Factuur20260117=20/11/2026 +++002/0260/11718+++ BTW incl.")));
-        QVERIFY(settingsText().contains(QStringLiteral("VolgendeFactuur=20260118")));
-        // Nothing changed since: nothing to save, and no question.
-        QTest::mouseClick(child<QPushButton>("cmdOpslaan"), Qt::LeftButton);
-        QVERIFY(caption("lblStatus") != saved);
-    }
-
-    void exportAndImportTheLines()
-    {
-        QTest::mouseClick(child<QPushButton>("cmdExport"), Qt::LeftButton);
-        QFile exported(folder.filePath(QStringLiteral("factuur-20260117.txt")));
-        QVERIFY(exported.open(QIODevice::ReadOnly));
-        const QList<QByteArray> records = exported.readAll().split('\n');
-        QCOMPARE(records.size(), 4); // three records, each ended by CR LF
-        QVERIFY(records.at(0).startsWith("000001 5410000100017 Container 1,1 m3 huur"));
-        QVERIFY(records.at(0).endsWith('\r'));
-        whenModalIsActive(QStringLiteral("frmInputBoxE"), [](QWidget *box) {
-            QTest::mouseClick(
-                box->findChild<QPushButton *>(QStringLiteral("cmdOK")), Qt::LeftButton);
-        });
-        QTest::mouseClick(child<QPushButton>("cmdImport"), Qt::LeftButton);
-        QCOMPARE(grid()->model()->rowCount(), 6);
-        QCOMPARE(field("txtTotaalIncl")->text(), QStringLiteral("751,92 €"));
-        QCOMPARE(caption("lblStatus"), QStringLiteral("Import: 3 OK, 0 NOK"));
-    }
-
     // The invoice as a Peppol e-invoice: its lines at 21 % and 6 %, the
     // structured communication, the shop's IBAN and BIC.
     void eInvoiceOfTheCurrentInvoice()
@@ -342,37 +196,28 @@ private slots:
             QVERIFY2(ubl.contains(part), part);
     }
 
-    void importReportsBadLines()
+    void exportAndImportTheLines()
     {
-        // The second record's checksum no longer matches its text.
+        QTest::mouseClick(child<QPushButton>("cmdExport"), Qt::LeftButton);
         QFile exported(folder.filePath(QStringLiteral("factuur-20260117.txt")));
         QVERIFY(exported.open(QIODevice::ReadOnly));
-        QByteArray records = exported.readAll();
-        exported.close();
-        records.replace("Groenafval", "GroenafvaL");
-        const QString bad = folder.filePath(QStringLiteral("bad.txt"));
-        QFile file(bad);
-        QVERIFY(file.open(QIODevice::WriteOnly));
-        file.write(records);
-        file.close();
-        QString reported;
-        whenModalIsActive(QStringLiteral("frmInputBoxE"), [&](QWidget *box) {
-            auto *path = box->findChild<QLineEdit *>(QStringLiteral("Text"));
-            path->selectAll();
-            QTest::keyClicks(path, bad);
-            answerMessageBox("cmdOK", &reported);
+        const QList<QByteArray> records = exported.readAll().split('\n');
+        QCOMPARE(records.size(), 2); // one record, ended by CR LF
+        QVERIFY(records.at(0).startsWith("000001 5410000100017 Container 1,1 m3 huur"));
+        QVERIFY(records.at(0).endsWith('\r'));
+        whenModalIsActive(QStringLiteral("frmInputBoxE"), [](QWidget *box) {
             QTest::mouseClick(
                 box->findChild<QPushButton *>(QStringLiteral("cmdOK")), Qt::LeftButton);
         });
         QTest::mouseClick(child<QPushButton>("cmdImport"), Qt::LeftButton);
-        QVERIFY2(reported.contains(QStringLiteral("000002")), qPrintable(reported));
-        QCOMPARE(grid()->model()->rowCount(), 8);
-        QCOMPARE(caption("lblStatus"), QStringLiteral("Import: 2 OK, 1 NOK"));
+        QCOMPARE(grid()->model()->rowCount(), 2);
+        QCOMPARE(field("txtTotaalIncl")->text(), QStringLiteral("183,92 €"));
+        QCOMPARE(caption("lblStatus"), QStringLiteral("Import: 1 OK, 0 NOK"));
     }
 
     void cleanupTestCase()
     {
-        // The lines changed since the save: closing asks, No leaves without saving.
+        // The lines changed since they were last saved: closing asks, No leaves without saving.
         answerMessageBox("cmdNo");
         invoice->close();
         QVERIFY(!invoice->isVisible());

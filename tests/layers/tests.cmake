@@ -3,7 +3,9 @@
 # demand, so a failing one does not stop the normal build.
 foreach(probe upward downward)
   add_library(layer_probe_${probe} OBJECT EXCLUDE_FROM_ALL ${dir}/${probe}_include.cpp)
-  target_link_libraries(layer_probe_${probe} PRIVATE qor_validate)
+  # The include path of the identifier checks, their private uses included.
+  target_include_directories(layer_probe_${probe} PRIVATE
+                             $<TARGET_PROPERTY:qor_validate,INCLUDE_DIRECTORIES>)
   add_test(NAME layers_${probe}_include
            COMMAND ${CMAKE_COMMAND} --build ${PROJECT_BINARY_DIR} --target layer_probe_${probe})
   set_tests_properties(layers_${probe}_include PROPERTIES TIMEOUT 120 RUN_SERIAL TRUE)
