@@ -1,5 +1,6 @@
 #include "einvoice/ublreader.h"
 
+#include "einvoice/isodate.h"
 #include "einvoice/ublnames.h"
 
 #include <QXmlStreamReader>
@@ -130,7 +131,7 @@ Decimal DocumentReader::decimal()
 QDate DocumentReader::date()
 {
     const QString value = text().trimmed();
-    const QDate read = QDate::fromString(value, QStringLiteral("yyyy-MM-dd"));
+    const QDate read = parseIsoDate(value);
     if (!read.isValid())
         error(QStringLiteral("\"%1\" is not a date that exists (YYYY-MM-DD)").arg(value.left(40)));
     return read;
