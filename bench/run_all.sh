@@ -16,7 +16,7 @@ if [ ! -f "$build/CMakeCache.txt" ]; then
         -DQORGENLIB_BUILD_TESTS=OFF >/dev/null
 fi
 cmake --build "$build" --target bench_validate bench_catalogue bench_invoke \
-    bench_qorgen_batch bench_check_numbers bench_records bench_keystrokes bench_sortarray \
+    bench_qorgen_batch bench_check_numbers bench_records bench_keystrokes bench_sortarray bench_einvoice \
     qorgen >/dev/null
 
 cxx=$(sed -n 's/^CMAKE_CXX_COMPILER:[A-Z]*=//p' "$build/CMakeCache.txt")
@@ -40,6 +40,9 @@ echo
 echo "== Calling by name (bench_invoke)"
 "$build/bench/bench_invoke"
 echo
+echo "== E-invoices as UBL (bench_einvoice)"
+"$build/bench/bench_einvoice"
+
 echo "== Fixed-field records (bench_records)"
 "$build/bench/bench_records"
 echo

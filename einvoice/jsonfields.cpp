@@ -1,5 +1,7 @@
 #include "einvoice/jsonfields.h"
 
+#include "einvoice/isodate.h"
+
 namespace qor::einvoice {
 
 namespace {
@@ -106,7 +108,7 @@ void JsonFields::date(const char *key, QDate &field)
     if (!value)
         return;
     const QString text = value->toString();
-    const QDate date = QDate::fromString(text, QStringLiteral("yyyy-MM-dd"));
+    const QDate date = parseIsoDate(text);
     if (value->isString() && date.isValid())
         field = date;
     else

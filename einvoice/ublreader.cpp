@@ -1,5 +1,6 @@
 #include "einvoice/ublreader.h"
 
+#include "einvoice/isodate.h"
 #include "einvoice/ublnames.h"
 
 #include <QXmlStreamReader>
@@ -40,8 +41,11 @@ private:
     std::optional<Decimal> optionalDecimal() { return decimal(); }
     QDate date();
     Identifier identifier(QLatin1StringView schemeAttribute = QLatin1StringView("schemeID"));
-    // The cbc:ID of an element that holds nothing else.
-    QString idOf();
+    // The text of the one child an element holds (its cbc:ID, its cbc:Name, ...).
+    QString childText(QStringView child);
+    QString idOf() { return childText(u"ID"); }
+    // The start and end dates of a period.
+    void period(QDate &start, QDate &end);
     void checkCurrency();
 
     bool root(QStringView name);
@@ -130,7 +134,7 @@ Decimal DocumentReader::decimal()
 QDate DocumentReader::date()
 {
     const QString value = text().trimmed();
-    const QDate read = QDate::fromString(value, QStringLiteral("yyyy-MM-dd"));
+    const QDate read = parseIsoDate(value);
     if (!read.isValid())
         error(QStringLiteral("\"%1\" is not a date that exists (YYYY-MM-DD)").arg(value.left(40)));
     return read;
@@ -144,16 +148,29 @@ Identifier DocumentReader::identifier(QLatin1StringView schemeAttribute)
     return id;
 }
 
-QString DocumentReader::idOf()
+QString DocumentReader::childText(QStringView child)
 {
-    QString id;
+    QString value;
     children([&](QStringView name) {
-        if (name != u"ID")
+        if (name != child)
             return false;
-        id = text();
+        value = text();
         return true;
     });
-    return id;
+    return value;
+}
+
+void DocumentReader::period(QDate &start, QDate &end)
+{
+    children([&](QStringView name) {
+        if (name == u"StartDate")
+            start = date();
+        else if (name == u"EndDate")
+            end = date();
+        else
+            return false;
+        return true;
+    });
 }
 
 // Amounts in another currency than the document's are not the document's
@@ -265,15 +282,7 @@ bool DocumentReader::root(QStringView name)
     } else if (name == u"BuyerReference") {
         m_invoice.buyerReference = text();
     } else if (name == u"InvoicePeriod") {
-        children([this](QStringView child) {
-            if (child == u"StartDate")
-                m_invoice.periodStart = date();
-            else if (child == u"EndDate")
-                m_invoice.periodEnd = date();
-            else
-                return false;
-            return true;
-        });
+        period(m_invoice.periodStart, m_invoice.periodEnd);
     } else if (references(name)) {
     } else if (name == u"AccountingSupplierParty") {
         party(m_invoice.seller);
@@ -284,12 +293,7 @@ bool DocumentReader::root(QStringView name)
     } else if (name == u"PaymentMeans") {
         paymentMeans();
     } else if (name == u"PaymentTerms") {
-        children([this](QStringView child) {
-            if (child != u"Note")
-                return false;
-            m_invoice.paymentTerms = text();
-            return true;
-        });
+        m_invoice.paymentTerms = childText(u"Note");
     } else if (name == u"AllowanceCharge") {
         allowanceCharge(m_invoice.allowanceCharges.emplace_back());
     } else if (name == u"TaxTotal") {
@@ -371,12 +375,7 @@ void DocumentReader::additionalDocument()
                     document.attachmentFilename = attribute(QLatin1StringView("filename"));
                     document.attachmentBase64 = text();
                 } else if (child == u"ExternalReference") {
-                    children([&](QStringView uri) {
-                        if (uri != u"URI")
-                            return false;
-                        document.externalUri = text();
-                        return true;
-                    });
+                    document.externalUri = childText(u"URI");
                 } else {
                     return false;
                 }
@@ -419,12 +418,7 @@ bool DocumentReader::partyMember(QStringView name, Party &party)
             return true;
         });
     } else if (name == u"PartyName") {
-        children([&](QStringView child) {
-            if (child != u"Name")
-                return false;
-            party.tradingName = text();
-            return true;
-        });
+        party.tradingName = childText(u"Name");
     } else if (name == u"PostalAddress") {
         address(party.address);
     } else if (name == u"PartyTaxScheme") {
@@ -484,19 +478,9 @@ void DocumentReader::address(PostalAddress &address)
         } else if (name == u"CountrySubentity") {
             address.countrySubentity = text();
         } else if (name == u"AddressLine") {
-            children([&](QStringView child) {
-                if (child != u"Line")
-                    return false;
-                address.addressLine3 = text();
-                return true;
-            });
+            address.addressLine3 = childText(u"Line");
         } else if (name == u"Country") {
-            children([&](QStringView child) {
-                if (child != u"IdentificationCode")
-                    return false;
-                address.countryCode = text();
-                return true;
-            });
+            address.countryCode = childText(u"IdentificationCode");
         } else {
             return false;
         }
@@ -524,12 +508,7 @@ void DocumentReader::delivery()
             children([&](QStringView child) {
                 if (child != u"PartyName")
                     return false;
-                children([&](QStringView member) {
-                    if (member != u"Name")
-                        return false;
-                    delivery.partyName = text();
-                    return true;
-                });
+                delivery.partyName = childText(u"Name");
                 return true;
             });
         } else {
@@ -725,22 +704,9 @@ bool DocumentReader::lineMember(QStringView name, InvoiceLine &line)
     } else if (name == u"AccountingCost") {
         line.accountingCost = text();
     } else if (name == u"InvoicePeriod") {
-        children([&](QStringView child) {
-            if (child == u"StartDate")
-                line.periodStart = date();
-            else if (child == u"EndDate")
-                line.periodEnd = date();
-            else
-                return false;
-            return true;
-        });
+        period(line.periodStart, line.periodEnd);
     } else if (name == u"OrderLineReference") {
-        children([&](QStringView child) {
-            if (child != u"LineID")
-                return false;
-            line.orderLineReference = text();
-            return true;
-        });
+        line.orderLineReference = childText(u"LineID");
     } else if (name == u"DocumentReference") {
         children([&](QStringView child) {
             if (child == u"ID")
@@ -782,12 +748,7 @@ void DocumentReader::item(InvoiceLine &line)
                 return true;
             });
         } else if (name == u"OriginCountry") {
-            children([&](QStringView child) {
-                if (child != u"IdentificationCode")
-                    return false;
-                line.originCountry = text();
-                return true;
-            });
+            line.originCountry = childText(u"IdentificationCode");
         } else if (name == u"CommodityClassification") {
             children([&](QStringView child) {
                 if (child != u"ItemClassificationCode")

@@ -33,7 +33,7 @@ private slots:
             QFile out(m_dir.filePath(
                 QString(name).replace(QStringLiteral(".json"), QStringLiteral(".xml"))));
             QVERIFY(out.open(QIODevice::WriteOnly));
-            out.write(writeUbl(read.invoice));
+            out.write(writeUbl(read.invoice, UblLayout::Indented));
             written.append(out.fileName());
             m_names.append(name);
         }
