@@ -10,7 +10,7 @@ namespace qor::einvoice {
 
 /// The Peppol BIS Billing 3.0 identifiers every document carries.
 namespace Peppol {
-/// BT-24: the specification identifier.
+/// BT-24: the customization identifier, naming the rules the document follows.
 inline constexpr char16_t CustomizationId[]
     = u"urn:cen.eu:en16931:2017#compliant#urn:fdc:peppol.eu:2017:poacc:billing:3.0";
 /// BT-23: the business process.
@@ -59,7 +59,7 @@ struct VatExemption
 };
 
 /// A document that supports the invoice (BG-24): a time sheet, a
-/// specification, a delivery note, given by reference or attached.
+/// price list, a delivery note, given by reference or attached.
 struct SupportingDocument
 {
     /// BT-122: the document's identifier; required.

@@ -15,9 +15,9 @@ std::optional<Decimal> rateOf(const QStringList &parts, qsizetype index)
 
 // "3 0.335 S 21", with an optional base quantity: "10 2.50/100 S 21", and
 // line allowances and charges after a bar: "2 50 S 21 | -5 +1.50".
-InvoiceLine lineOf(const QString &spec)
+InvoiceLine lineOf(const QString &row)
 {
-    const QStringList halves = spec.split(u'|');
+    const QStringList halves = row.split(u'|');
     const QStringList parts = halves[0].split(u' ', Qt::SkipEmptyParts);
     InvoiceLine line;
     line.quantity = Decimal::parse(parts[0]);
@@ -39,9 +39,9 @@ InvoiceLine lineOf(const QString &spec)
 }
 
 // "-10.00 S 21" is an allowance, "+5 S 6" a charge.
-AllowanceCharge allowanceChargeOf(const QString &spec)
+AllowanceCharge allowanceChargeOf(const QString &row)
 {
-    const QStringList parts = spec.split(u' ', Qt::SkipEmptyParts);
+    const QStringList parts = row.split(u' ', Qt::SkipEmptyParts);
     AllowanceCharge item;
     item.isCharge = parts[0].startsWith(u'+');
     item.amount = Decimal::parse(parts[0].mid(1));
@@ -133,10 +133,10 @@ private slots:
         QFETCH(QStringList, documentLevel);
         QFETCH(QString, paidAndRounding);
         Invoice invoice;
-        for (const QString &spec : lines)
-            invoice.lines.append(lineOf(spec));
-        for (const QString &spec : documentLevel)
-            invoice.allowanceCharges.append(allowanceChargeOf(spec));
+        for (const QString &row : lines)
+            invoice.lines.append(lineOf(row));
+        for (const QString &row : documentLevel)
+            invoice.allowanceCharges.append(allowanceChargeOf(row));
         const QStringList paid = paidAndRounding.split(u' ', Qt::SkipEmptyParts);
         if (paid.size() == 2) {
             invoice.paidAmount = Decimal::parse(paid[0]);
