@@ -25,6 +25,7 @@ private slots:
         for (const QString &name : m_names) {
             QFile file(examples.filePath(name));
             QVERIFY(file.open(QIODevice::ReadOnly));
+            m_read[name] = readUbl(file.readAll());
             QFile out(m_dir.filePath(name));
             QVERIFY(out.open(QIODevice::WriteOnly));
             out.write(writeUbl(m_read[name].invoice));
@@ -45,6 +46,7 @@ private slots:
     {
         QFETCH(QString, name);
         QCOMPARE(m_read[name].errors, QStringList());
+        QVERIFY(!m_read[name].invoice.lines.isEmpty());
         QCOMPARE(m_read[name].differences, QList<AmountDifference>());
     }
 
