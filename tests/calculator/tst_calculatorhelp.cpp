@@ -5,66 +5,61 @@
 
 using namespace qor;
 
+namespace {
+
+QString catalogueText(qint32 id)
+{
+    return Catalogue::text(id).value_or(QStringLiteral(" [LL %1 ?] ").arg(id));
+}
+
+} // namespace
+
 class TestCalculatorHelp : public QObject
 {
     Q_OBJECT
 
 private slots:
-    void ownDutchTexts_data()
+    // Dutch (and any offset below it) shows the card's own title, call line and
+    // heading; other languages take them from the catalogue, which holds the
+    // card in Dutch and French only. The key names and the VAT line are never
+    // re-labelled: the same in every language.
+    void cardTexts_data()
     {
         QTest::addColumn<qint32>("offset");
-        QTest::newRow("Dutch") << 0;
-        QTest::newRow("negative offset") << -10000;
+        QTest::addColumn<QString>("title");
+        QTest::addColumn<QString>("callLine");
+        QTest::addColumn<QString>("heading");
+        QTest::addColumn<QString>("firstKey");
+        QTest::addColumn<QString>("movingLine");
+        const QString title = QStringLiteral("  Help bij Velantis Calculator");
+        const QString callLine = QStringLiteral(
+            "U kan de Calculator vanuit eender welk numeriek invulkvak aanroepen door      te "
+            "drukken !");
+        const QString heading
+            = QStringLiteral("U kan de Calculator volledig bedienen via het toetsenbord :");
+        // clang-format off
+        QTest::newRow("Dutch: the card's own texts") << 0 << title << callLine << heading << catalogueText(1208) << catalogueText(1219);
+        QTest::newRow("negative offset: Dutch as well") << -10000 << title << callLine << heading << catalogueText(1208) << catalogueText(1219);
+        QTest::newRow("French from the catalogue") << 10000 << catalogueText(11205) << catalogueText(11214) << catalogueText(11207) << catalogueText(11208) << catalogueText(11219);
+        QTest::newRow("a language without the texts shows markers") << 20000 << " [LL 21205 ?] " << " [LL 21214 ?] " << " [LL 21207 ?] " << " [LL 21208 ?] " << " [LL 21219 ?] ";
+        // clang-format on
     }
-    void ownDutchTexts()
+    void cardTexts()
     {
         QFETCH(qint32, offset);
         const CalculatorHelpCard card = calculatorHelpCard(offset);
-        QCOMPARE(card.title, QStringLiteral("  Help bij Velantis Calculator"));
-        QCOMPARE(card.callLine,
-            QStringLiteral("U kan de Calculator vanuit eender welk numeriek invulkvak aanroepen "
-                           "door      te drukken !"));
-        QCOMPARE(card.heading,
-            QStringLiteral("U kan de Calculator volledig bedienen via het toetsenbord :"));
-        QCOMPARE(card.keys.at(0).second, *Catalogue::text(1208));
-        QCOMPARE(card.movingLine, *Catalogue::text(1219));
-        QCOMPARE(card.vatLine, *Catalogue::text(1220));
-    }
-
-    // Other languages take the card from the catalogue, but the VAT line is
-    // never re-labelled: the Dutch line in every language.
-    void frenchTextsFromTheCatalogue()
-    {
-        const qint32 offset = 10000;
-        const CalculatorHelpCard card = calculatorHelpCard(offset);
-        QCOMPARE(card.title, *Catalogue::text(1205 + offset));
-        QCOMPARE(card.callLine, *Catalogue::text(1214 + offset));
-        QCOMPARE(card.heading, *Catalogue::text(1207 + offset));
-        QCOMPARE(card.keys.size(), 8);
-        QCOMPARE(card.keys.at(7).second, *Catalogue::text(1218 + offset));
-        QCOMPARE(card.vatLine, *Catalogue::text(1220));
-        QVERIFY(card.vatLine != *Catalogue::text(1220 + offset));
-    }
-
-    void keyNamesAreFixed()
-    {
-        const QStringList expected { "[0] [1] ... [9]", "[,] [.]", "[+] [-] [x] [/]", "[=] [Enter]",
-            "", "[Insert]", "[Esc]", "[BackSpace]" };
-        for (qint32 offset : { 0, 10000, 30000 }) {
-            QStringList names;
-            for (const auto &key : calculatorHelpCard(offset).keys)
-                names.append(key.first);
-            QCOMPARE(names, expected);
-        }
-    }
-
-    // The catalogue holds the card's texts in Dutch and French only.
-    void aLanguageWithoutTheTextsShowsMarkers()
-    {
-        const CalculatorHelpCard card = calculatorHelpCard(20000);
-        QCOMPARE(card.title, QStringLiteral(" [LL 21205 ?] "));
-        QCOMPARE(card.keys.at(0).second, QStringLiteral(" [LL 21208 ?] "));
-        QCOMPARE(card.vatLine, *Catalogue::text(1220));
+        QTEST(card.title, "title");
+        QTEST(card.callLine, "callLine");
+        QTEST(card.heading, "heading");
+        QTEST(card.keys.at(0).second, "firstKey");
+        QTEST(card.movingLine, "movingLine");
+        QCOMPARE(card.vatLine, catalogueText(1220));
+        QStringList names;
+        for (const auto &key : card.keys)
+            names.append(key.first);
+        QCOMPARE(names,
+            QStringList({ "[0] [1] ... [9]", "[,] [.]", "[+] [-] [x] [/]", "[=] [Enter]", "",
+                "[Insert]", "[Esc]", "[BackSpace]" }));
         QCOMPARE(card.lines().size(), 12);
     }
 };

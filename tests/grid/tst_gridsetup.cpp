@@ -143,7 +143,6 @@ private slots:
 
         // clang-format off
         QTest::newRow("three visible columns") << "0:1000,1:1500,2:800" << "1000,1500,3260";
-        QTest::newRow("one column fills the grid") << "0:1000" << "5760";
         QTest::newRow("hidden column keeps the rest at its time") << "0:1000,1:700:h,2:800" << "1000,5760,4760";
         QTest::newRow("width 0 adds nothing") << "0:0,1:1500" << "0,5760";
         QTest::newRow("width 1 counts") << "0:1,1:1500" << "1,5759";

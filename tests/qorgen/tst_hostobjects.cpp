@@ -1,5 +1,4 @@
 #include "host/combobox.h"
-#include "host/control.h"
 #include "host/hostfactory.h"
 #include "host/listbox.h"
 #include "host/textbox.h"
@@ -254,18 +253,6 @@ private slots:
         QTEST(list.listIndex(), "listIndex");
         QTEST(list.value("NewIndex").toInt(), "newIndex");
         QCOMPARE(callNames(list), operations);
-    }
-
-    // Placed controls.
-    void moveSetsWhatItIsGiven()
-    {
-        Control shape;
-        shape.Move(10, 20);
-        shape.Move(1, 2, 300, 400);
-        QCOMPARE(shape.value("Left").toFloat(), 1.0f);
-        QCOMPARE(shape.value("Height").toFloat(), 400.0f);
-        QCOMPARE(callNames(shape), QStringList({ "Move", "Move" }));
-        QCOMPARE(shape.calls().at(1).toMap().value("args").toList().size(), 4);
     }
 };
 

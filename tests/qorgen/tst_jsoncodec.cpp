@@ -1,7 +1,6 @@
 #include "host/hostfactory.h"
 #include "host/hostobject.h"
 #include "host/textbox.h"
-#include "lib/frame/windowsize.h"
 #include "platform/recordingplatform.h"
 #include "runtime/variant.h"
 #include "tools/qorgen/jsonreader.h"
@@ -223,8 +222,6 @@ private slots:
         const QVariant nothing = QVariant::fromValue<QObject *>(nullptr);
         QCOMPARE(encoded(nothing), QByteArray("null"));
         QCOMPARE(ValueCodec::typeOf(nothing).toString(), QStringLiteral("Object"));
-        QCOMPARE(encoded(QVariant::fromValue(qorGenLib::WindowSize { 1, 2, 3, 4, 5, 6 })),
-            QByteArray(R"({"Left":1,"Top":2,"Right":3,"Bottom":4,"Width":5,"Height":6})"));
     }
 
     // Host objects.
