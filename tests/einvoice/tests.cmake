@@ -5,12 +5,12 @@ target_compile_definitions(tst_invoicejson PRIVATE QOR_EINVOICE_TEST_DATA="${dir
 qor_add_test(tst_ublreader ${dir}/tst_ublreader.cpp)
 target_compile_definitions(tst_ublreader PRIVATE QOR_EINVOICE_TEST_DATA="${dir}")
 # Runs the official rules (Java) on every document written: one call per test.
-qor_add_test(tst_ublvalidation ${dir}/tst_ublvalidation.cpp TIMEOUT 400)
+qor_add_test(tst_ublvalidation ${dir}/tst_ublvalidation.cpp TIMEOUT 900)
 target_compile_definitions(tst_ublvalidation PRIVATE
   QOR_EINVOICE_TEST_DATA="${dir}" QOR_EINVOICE_RULES="${QORGENLIB_EINVOICE_RULES}")
-qor_add_test(tst_peppolexamples ${dir}/tst_peppolexamples.cpp TIMEOUT 400)
+qor_add_test(tst_peppolexamples ${dir}/tst_peppolexamples.cpp TIMEOUT 900)
 target_compile_definitions(tst_peppolexamples PRIVATE QOR_EINVOICE_RULES="${QORGENLIB_EINVOICE_RULES}")
 # The library's own rule check, each broken model proved by the official rules in one run.
-qor_add_test(tst_rulecheck ${dir}/tst_rulecheck.cpp TIMEOUT 400)
+qor_add_test(tst_rulecheck ${dir}/tst_rulecheck.cpp TIMEOUT 900)
 target_compile_definitions(tst_rulecheck PRIVATE
   QOR_EINVOICE_TEST_DATA="${dir}" QOR_EINVOICE_RULES="${QORGENLIB_EINVOICE_RULES}")

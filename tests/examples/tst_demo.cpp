@@ -202,17 +202,18 @@ private slots:
         QFile exported(folder.filePath(QStringLiteral("factuur-20260117.txt")));
         QVERIFY(exported.open(QIODevice::ReadOnly));
         const QList<QByteArray> records = exported.readAll().split('\n');
-        QCOMPARE(records.size(), 2); // one record, ended by CR LF
+        QCOMPARE(records.size(), 3); // two records, each ended by CR LF
         QVERIFY(records.at(0).startsWith("000001 5410000100017 Container 1,1 m3 huur"));
+        QVERIFY(records.at(1).startsWith("000002 5410000100031 Groenafval"));
         QVERIFY(records.at(0).endsWith('\r'));
         whenModalIsActive(QStringLiteral("frmInputBoxE"), [](QWidget *box) {
             QTest::mouseClick(
                 box->findChild<QPushButton *>(QStringLiteral("cmdOK")), Qt::LeftButton);
         });
         QTest::mouseClick(child<QPushButton>("cmdImport"), Qt::LeftButton);
-        QCOMPARE(grid()->model()->rowCount(), 2);
-        QCOMPARE(field("txtTotaalIncl")->text(), QStringLiteral("183,92 €"));
-        QCOMPARE(caption("lblStatus"), QStringLiteral("Import: 1 OK, 0 NOK"));
+        QCOMPARE(grid()->model()->rowCount(), 4);
+        QCOMPARE(field("txtTotaalIncl")->text(), QStringLiteral("267,92 €"));
+        QCOMPARE(caption("lblStatus"), QStringLiteral("Import: 2 OK, 0 NOK"));
     }
 
     void cleanupTestCase()

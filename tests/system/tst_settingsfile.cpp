@@ -212,7 +212,9 @@ private slots:
             QProcess writer;
             writer.start(helper, { "write", file, "Kassa", "Teller", "0" });
             QVERIFY(writer.waitForStarted());
-            QThread::usleep(QRandomGenerator::global()->bounded(15000));
+            // A writer takes some 30 ms to start on a busy machine; killed within
+            // 80 ms it is caught before, during or after its writes.
+            QThread::usleep(QRandomGenerator::global()->bounded(80000));
             writer.kill();
             QVERIFY(writer.waitForFinished());
             const QByteArray contents = contentsOf(file);
