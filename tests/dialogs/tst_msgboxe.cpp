@@ -109,7 +109,6 @@ private slots:
         QTest::newRow("question, J") << 0 << 36 << "" << "j" << 6 << "Vraag ?" << yesNo << 3 << "Question.wav" << "";
         QTest::newRow("question, Escape") << 0 << 36 << "" << "{Esc}" << 7 << "Vraag ?" << yesNo << 3 << "Question.wav" << "";
         QTest::newRow("critical, own title, A") << 0 << 17 << "Eigen titel" << "a" << 2 << "Eigen titel" << okCancel << 0 << "Critical.wav" << "";
-        QTest::newRow("critical, own title, Enter") << 0 << 17 << "Eigen titel" << "{Enter}" << 1 << "Eigen titel" << okCancel << 0 << "Critical.wav" << "";
         QTest::newRow("critical, J chooses nothing") << 0 << 17 << "" << "jo" << 1 << "Fout !" << okCancel << 0 << "Critical.wav" << "";
         QTest::newRow("exclamation") << 0 << 48 << "   " << "{Enter}" << 1 << "Opgelet !" << ok << 1 << "Exclamation.wav" << "";
         QTest::newRow("information") << 0 << 64 << "" << "{Enter}" << 1 << "Ter Info :" << ok << 2 << "Information.wav" << "";
@@ -208,18 +207,6 @@ private slots:
         QCOMPARE(label.replace(QLatin1Char('\n'), QLatin1Char(' ')),
             QString(text).replace(QLatin1Char('\r'), QLatin1Char(' ')));
         QVERIFY(scannerHidden);
-    }
-
-    void soundOff()
-    {
-        clsqorGenLib library;
-        library.SetSound(true);
-        answerWith(QStringLiteral("{Enter}"));
-        library.MsgBoxE(QStringLiteral("Stil"), 16);
-        answerWith(QStringLiteral("{Enter}"));
-        library.InputBoxE(QStringLiteral("Stil"), QString());
-        QVERIFY(machine->sounds.isEmpty());
-        QVERIFY(machine->notices.isEmpty());
     }
 
     void inputBox_data()
