@@ -1,5 +1,4 @@
 #include "dialogs/boxes.h"
-#include "lib/clsqorgenlib.h"
 
 #include "tests/common/userinput.h"
 #include "tests/dialogs/dialogtestplatform.h"
@@ -43,12 +42,6 @@ Seen look(QWidget *window)
     }
     seen.label = window->findChild<QLabel *>(QStringLiteral("Label"))->text();
     return seen;
-}
-
-// Answers the next box with keys typed as test::typeKeys writes them.
-void answerWith(const QString &keys)
-{
-    test::whenModalIsActive([keys](QWidget *window) { test::typeKeys(window, keys); });
 }
 
 // Pictures of the boxes for the documentation, in the build folder.
@@ -109,7 +102,6 @@ private slots:
         QTest::newRow("question, J") << 0 << 36 << "" << "j" << 6 << "Vraag ?" << yesNo << 3 << "Question.wav" << "";
         QTest::newRow("question, Escape") << 0 << 36 << "" << "{Esc}" << 7 << "Vraag ?" << yesNo << 3 << "Question.wav" << "";
         QTest::newRow("critical, own title, A") << 0 << 17 << "Eigen titel" << "a" << 2 << "Eigen titel" << okCancel << 0 << "Critical.wav" << "";
-        QTest::newRow("critical, own title, Enter") << 0 << 17 << "Eigen titel" << "{Enter}" << 1 << "Eigen titel" << okCancel << 0 << "Critical.wav" << "";
         QTest::newRow("critical, J chooses nothing") << 0 << 17 << "" << "jo" << 1 << "Fout !" << okCancel << 0 << "Critical.wav" << "";
         QTest::newRow("exclamation") << 0 << 48 << "   " << "{Enter}" << 1 << "Opgelet !" << ok << 1 << "Exclamation.wav" << "";
         QTest::newRow("information") << 0 << 64 << "" << "{Enter}" << 1 << "Ter Info :" << ok << 2 << "Information.wav" << "";
@@ -121,6 +113,7 @@ private slots:
         QTest::newRow("wrong scan shows its notice") << 0 << 4 << "" << "%[12]{Enter}" << 6 << "Bericht :" << yesNo << 4 << "Message.wav" << "Scan Barcode - Magnetic Card";
         QTest::newRow("scanned letters are no answers") << 0 << 36 << "" << "%[J{Esc}" << 7 << "Vraag ?" << yesNo << 3 << "Question.wav" << "";
         QTest::newRow("identity, J and O choose nothing") << 0 << -1 << "" << "jov" << 1 << identityTitle << identity << 1 << "Exclamation.wav" << "";
+        QTest::newRow("identity, T") << 0 << -1 << "" << "t" << 2 << identityTitle << identity << 1 << "Exclamation.wav" << "";
         QTest::newRow("identity, Enter") << 0 << -1 << identityTitle << "{Enter}" << 2 << identityTitle << identity << 1 << "Exclamation.wav" << "";
         QTest::newRow("French question, O chooses nothing") << 10000 << 36 << "" << "o{Esc}" << 7 << "Question ?" << QStringList { "cmdYes=Oui", "cmdNo=Non" } << 3 << "Question.wav" << "";
         QTest::newRow("French cancel, A") << 10000 << 1 << "" << "a" << 2 << "Message :" << QStringList { "cmdOK=OK", "cmdCancel=Annuler" } << 4 << "Message.wav" << "";
@@ -163,23 +156,6 @@ private slots:
         QVERIFY(closedByTheKeys);
     }
 
-    // The identity card check accepts a failing number only as a foreign card.
-    void identityCardCheck_data()
-    {
-        QTest::addColumn<QString>("keys");
-        QTest::addColumn<QString>("result");
-        QTest::newRow("foreign card") << "v" << number;
-        QTest::newRow("typing error") << "t" << QString();
-    }
-    void identityCardCheck()
-    {
-        QFETCH(QString, keys);
-        clsqorGenLib library;
-        answerWith(keys);
-        QString identNr = number;
-        QTEST(library.ControleerIdentNr(identNr, true), "result");
-    }
-
     // The widgets a host's code finds by name, here on an identity number box.
     void formWidgets()
     {
@@ -208,18 +184,6 @@ private slots:
         QCOMPARE(label.replace(QLatin1Char('\n'), QLatin1Char(' ')),
             QString(text).replace(QLatin1Char('\r'), QLatin1Char(' ')));
         QVERIFY(scannerHidden);
-    }
-
-    void soundOff()
-    {
-        clsqorGenLib library;
-        library.SetSound(true);
-        answerWith(QStringLiteral("{Enter}"));
-        library.MsgBoxE(QStringLiteral("Stil"), 16);
-        answerWith(QStringLiteral("{Enter}"));
-        library.InputBoxE(QStringLiteral("Stil"), QString());
-        QVERIFY(machine->sounds.isEmpty());
-        QVERIFY(machine->notices.isEmpty());
     }
 
     void inputBox_data()

@@ -172,18 +172,14 @@ private slots:
     {
         QTest::addColumn<QString>("change");
         QTest::addColumn<QString>("places");
-        QTest::newRow("same values at another scale") << "scale"
-                                                      << "";
-        QTest::newRow("line net amount") << "line"
-                                         << "BT-131 of line 2";
-        QTest::newRow("stated line missing") << "dropLine"
-                                             << "BT-131 of line 2";
-        QTest::newRow("tax of a breakdown") << "tax"
-                                            << "BT-117 of VAT S 6";
-        QTest::newRow("breakdown not computed") << "extraBreakdown"
-                                                << "BT-116 of VAT Z 0";
-        QTest::newRow("payable amount") << "payable"
-                                        << "BT-115";
+        // clang-format off
+        QTest::newRow("same values at another scale") << "scale" << "";
+        QTest::newRow("line net amount") << "line" << "BT-131 of line 2";
+        QTest::newRow("stated line missing") << "dropLine" << "BT-131 of line 2";
+        QTest::newRow("tax of a breakdown") << "tax" << "BT-117 of VAT S 6";
+        QTest::newRow("breakdown not computed") << "extraBreakdown" << "BT-116 of VAT Z 0";
+        QTest::newRow("payable amount") << "payable" << "BT-115";
+        // clang-format on
     }
     void differences()
     {

@@ -22,15 +22,12 @@ private slots:
         QTest::addColumn<QVariant>("rate"); // invalid: left out
         QTest::addColumn<QString>("wantQuantity");
         QTest::addColumn<QString>("wantRate"); // empty: no rate
-        QTest::newRow("text with a decimal comma")
-            << QVariant("0,335") << "S" << QVariant() << "0.335"
-            << "21";
-        QTest::newRow("double keeps its digits") << QVariant(0.1) << "S" << QVariant(6) << "0.1"
-                                                 << "6";
-        QTest::newRow("zero rated defaults to 0") << QVariant(3) << "Z" << QVariant() << "3"
-                                                  << "0";
-        QTest::newRow("out of scope has no rate") << QVariant(3) << "O" << QVariant(21) << "3"
-                                                  << "";
+        // clang-format off
+        QTest::newRow("text with a decimal comma") << QVariant("0,335") << "S" << QVariant() << "0.335" << "21";
+        QTest::newRow("double keeps its digits") << QVariant(0.1) << "S" << QVariant(6) << "0.1" << "6";
+        QTest::newRow("zero rated defaults to 0") << QVariant(3) << "Z" << QVariant() << "3" << "0";
+        QTest::newRow("out of scope has no rate") << QVariant(3) << "O" << QVariant(21) << "3" << "";
+        // clang-format on
     }
     // AddLine through late binding, optional arguments left out.
     void lineTakesHostValues()
@@ -55,15 +52,13 @@ private slots:
         QTest::addColumn<QString>("method");
         QTest::addColumn<QVariantList>("args");
         QTest::addColumn<int>("number");
+        // clang-format off
         QTest::newRow("quantity no number") << "AddLine" << QVariantList { "x", "abc", 1 } << 13;
-        QTest::newRow("quantity in exponent form")
-            << "AddLine" << QVariantList { "x", "1e5", 1 } << 13;
-        QTest::newRow("price of 30 digits")
-            << "AddLine" << QVariantList { "x", 1, QString(30, u'9') } << 6;
-        QTest::newRow("line that does not exist")
-            << "AddAllowanceCharge" << QVariantList { false, 1, "Korting", "", 21, "S", 1 } << 9;
-        QTest::newRow("JSON of another shape")
-            << "SetJSON" << QVariantList { "{\"lines\": 5}" } << 5;
+        QTest::newRow("quantity in exponent form") << "AddLine" << QVariantList { "x", "1e5", 1 } << 13;
+        QTest::newRow("price of 30 digits") << "AddLine" << QVariantList { "x", 1, QString(30, u'9') } << 6;
+        QTest::newRow("line that does not exist") << "AddAllowanceCharge" << QVariantList { false, 1, "Korting", "", 21, "S", 1 } << 9;
+        QTest::newRow("JSON of another shape") << "SetJSON" << QVariantList { "{\"lines\": 5}" } << 5;
+        // clang-format on
     }
     void wrongValueRaisesClassicError()
     {

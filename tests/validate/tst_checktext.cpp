@@ -86,15 +86,13 @@ private slots:
     {
         QTest::addColumn<QString>("start");
         QTest::addColumn<QString>("written");
-        QTest::newRow("longer into shorter") << "0123"
-                                             << "0123.456.749";
-        QTest::newRow("shorter into longer") << "0123.456.749"
-                                             << "0123";
-        QTest::newRow("same length") << "0000.000.000"
-                                     << "0123.456.749";
+        // clang-format off
+        QTest::newRow("longer into shorter") << "0123" << "0123.456.749";
+        QTest::newRow("shorter into longer") << "0123.456.749" << "0123";
+        QTest::newRow("same length") << "0000.000.000" << "0123.456.749";
         QTest::newRow("into a null text") << QString() << "0123";
-        QTest::newRow("empty") << "0123"
-                               << "";
+        QTest::newRow("empty") << "0123" << "";
+        // clang-format on
     }
     void displayStorageIsReusedButNeverShared()
     {
