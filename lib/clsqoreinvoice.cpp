@@ -12,6 +12,8 @@
 #include "runtime/dates.h"
 #include "runtime/runtimeerror.h"
 
+#include "platform/platform.h"
+
 #include <QFile>
 #include <QJsonDocument>
 
@@ -308,9 +310,8 @@ bool clsqorEInvoice::SaveUBL(const QString &FileName)
     const Invoice invoice = document();
     if (!checkRules(invoice, m_Offset).isEmpty())
         return false;
-    const QByteArray ubl = writeUbl(invoice);
-    QFile file(FileName);
-    if (!file.open(QIODevice::WriteOnly) || file.write(ubl) != ubl.size())
+    // Through the platform's door, which writes a whole file or none.
+    if (!platform().writeFile(FileName, writeUbl(invoice)))
         throw RuntimeError(pathFileAccessError, QStringLiteral("Path/File access error"));
     return true;
 }
