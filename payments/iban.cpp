@@ -3,6 +3,8 @@
 #include "payments/ibanregistry.h"
 #include "payments/paymenttext.h"
 
+#include <algorithm>
+
 namespace qor {
 
 namespace {
@@ -57,10 +59,11 @@ PaymentCheck ibanValidity(QStringView electronic)
         return PaymentCheck::InvalidFormat;
     if (remainder != 1)
         return PaymentCheck::InvalidChecksum;
-    const QStringView country = electronic.first(2);
+    // A text of one to four characters can pass the check digits too.
+    const QStringView country = electronic.first(std::min<qsizetype>(2, electronic.size()));
     if (!ibanBbanClasses(country))
         return PaymentCheck::InvalidComponent;
-    if (!fitsStructure(electronic.sliced(ibanHead), country))
+    if (electronic.size() < ibanHead || !fitsStructure(electronic.sliced(ibanHead), country))
         return PaymentCheck::InvalidFormat;
     return PaymentCheck::Valid;
 }

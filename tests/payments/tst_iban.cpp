@@ -37,6 +37,7 @@ private slots:
         QTest::newRow("check digits 00 never match") << "BE00096123456769" << InvalidChecksum << "";
         QTest::newRow("check digits 01 never match") << "BE01096123456769" << InvalidChecksum << "";
         QTest::newRow("country alone") << "BE" << InvalidChecksum << "";
+        QTest::newRow("one digit passing the check digits") << "1" << InvalidComponent << "";
         QTest::newRow("country outside the registry") << "QQ5412345" << InvalidComponent << "";
         QTest::newRow("Belgian BBAN one digit short") << "BE03096123456" << InvalidFormat << "";
         QTest::newRow("Belgian BBAN two digits long") << "BE0809612345676900" << InvalidFormat << "";
