@@ -2,6 +2,8 @@
 
 #include "einvoice/isodate.h"
 #include "einvoice/ublnames.h"
+#include "einvoice/ublreferencereader.h"
+#include "einvoice/xmlcursor.h"
 
 #include <QXmlStreamReader>
 
@@ -9,15 +11,25 @@ namespace qor::einvoice {
 
 namespace {
 
+QString attributeValue(const QXmlStreamReader &xml, QLatin1StringView name)
+{
+    return xml.attributes().value(name).toString();
+}
+
+QString attributeValue(const XmlCursor &xml, QLatin1StringView name)
+{
+    return xml.attributeValue(name);
+}
+
 // Reads one document by descending through the elements the model knows.
 // Each reading function is called on a start element and leaves the reader
 // on its end element. An element a function does not know is skipped and
 // reported as dropped.
-class DocumentReader
+template <typename Xml> class DocumentReader
 {
 public:
-    DocumentReader(const QByteArray &document, UblReadResult &result)
-        : m_xml(document)
+    DocumentReader(Xml &xml, UblReadResult &result)
+        : m_xml(xml)
         , m_result(result)
         , m_invoice(result.invoice)
     { }
@@ -33,6 +45,8 @@ private:
     void drop();
     void error(const QString &message);
     QString place() const;
+    QString path() const;
+    void enterElement();
     bool inNamespace(const QString &uri) const { return m_xml.namespaceUri() == uri; }
 
     QString text();
@@ -66,21 +80,23 @@ private:
     void item(InvoiceLine &line);
     void price(InvoiceLine &line);
 
-    QXmlStreamReader m_xml;
+    Xml &m_xml;
     UblReadResult &m_result;
     Invoice &m_invoice;
     InvoiceAmounts m_stated;
     bool m_creditNote = false;
-    QStringList m_path;
+    // The names of the elements being read, root first. The cursor's names
+    // stay valid for the whole document; QXmlStreamReader's must be copied.
+    QList<std::conditional_t<std::is_same_v<Xml, XmlCursor>, QStringView, QString>> m_path;
     // Where the element being read starts (just after its start tag).
     qint64 m_elementLine = 0;
     qint64 m_elementColumn = 0;
 };
 
-template <typename Handle> void DocumentReader::children(Handle handle)
+template <typename Xml> template <typename Handle> void DocumentReader<Xml>::children(Handle handle)
 {
     while (m_xml.readNextStartElement()) {
-        m_path.append(m_xml.name().toString());
+        enterElement();
         m_elementLine = m_xml.lineNumber();
         m_elementColumn = m_xml.columnNumber();
         const bool ours = inNamespace(Ubl::BasicNamespace) || inNamespace(Ubl::AggregateNamespace);
@@ -90,37 +106,55 @@ template <typename Handle> void DocumentReader::children(Handle handle)
     }
 }
 
-QString DocumentReader::place() const
+template <typename Xml> void DocumentReader<Xml>::enterElement()
+{
+    if constexpr (std::is_same_v<Xml, XmlCursor>)
+        m_path.append(m_xml.name());
+    else
+        m_path.append(m_xml.name().toString());
+}
+
+template <typename Xml> QString DocumentReader<Xml>::path() const
+{
+    QString joined;
+    for (QStringView name : m_path) {
+        if (!joined.isEmpty())
+            joined.append(u'/');
+        joined.append(name);
+    }
+    return joined;
+}
+
+template <typename Xml> QString DocumentReader<Xml>::place() const
 {
     return QStringLiteral("%1 (line %2, column %3)")
-        .arg(m_path.join(u'/'))
+        .arg(path())
         .arg(m_elementLine)
         .arg(m_elementColumn);
 }
 
-void DocumentReader::drop()
+template <typename Xml> void DocumentReader<Xml>::drop()
 {
-    m_result.dropped.append(
-        QStringLiteral("%1 (line %2)").arg(m_path.join(u'/')).arg(m_xml.lineNumber()));
+    m_result.dropped.append(QStringLiteral("%1 (line %2)").arg(path()).arg(m_xml.lineNumber()));
     m_xml.skipCurrentElement();
 }
 
-void DocumentReader::error(const QString &message)
+template <typename Xml> void DocumentReader<Xml>::error(const QString &message)
 {
     m_result.errors.append(place() + QStringLiteral(": ") + message);
 }
 
-QString DocumentReader::text()
+template <typename Xml> QString DocumentReader<Xml>::text()
 {
     return m_xml.readElementText(QXmlStreamReader::SkipChildElements);
 }
 
-QString DocumentReader::attribute(QLatin1StringView name) const
+template <typename Xml> QString DocumentReader<Xml>::attribute(QLatin1StringView name) const
 {
-    return m_xml.attributes().value(name).toString();
+    return attributeValue(m_xml, name);
 }
 
-Decimal DocumentReader::decimal()
+template <typename Xml> Decimal DocumentReader<Xml>::decimal()
 {
     const QString value = text().trimmed();
     const QString problem = Decimal::parseError(value);
@@ -131,7 +165,7 @@ Decimal DocumentReader::decimal()
     return Decimal::parse(value);
 }
 
-QDate DocumentReader::date()
+template <typename Xml> QDate DocumentReader<Xml>::date()
 {
     const QString value = text().trimmed();
     const QDate read = parseIsoDate(value);
@@ -140,7 +174,8 @@ QDate DocumentReader::date()
     return read;
 }
 
-Identifier DocumentReader::identifier(QLatin1StringView schemeAttribute)
+template <typename Xml>
+Identifier DocumentReader<Xml>::identifier(QLatin1StringView schemeAttribute)
 {
     Identifier id;
     id.scheme = attribute(schemeAttribute);
@@ -148,7 +183,7 @@ Identifier DocumentReader::identifier(QLatin1StringView schemeAttribute)
     return id;
 }
 
-QString DocumentReader::childText(QStringView child)
+template <typename Xml> QString DocumentReader<Xml>::childText(QStringView child)
 {
     QString value;
     children([&](QStringView name) {
@@ -160,7 +195,7 @@ QString DocumentReader::childText(QStringView child)
     return value;
 }
 
-void DocumentReader::period(QDate &start, QDate &end)
+template <typename Xml> void DocumentReader<Xml>::period(QDate &start, QDate &end)
 {
     children([&](QStringView name) {
         if (name == u"StartDate")
@@ -175,7 +210,7 @@ void DocumentReader::period(QDate &start, QDate &end)
 
 // Amounts in another currency than the document's are not the document's
 // amounts (only the VAT total in the accounting currency is, read apart).
-void DocumentReader::checkCurrency()
+template <typename Xml> void DocumentReader<Xml>::checkCurrency()
 {
     const QString currency = attribute(QLatin1StringView("currencyID"));
     if (!currency.isEmpty() && currency != m_invoice.currency)
@@ -184,7 +219,7 @@ void DocumentReader::checkCurrency()
 
 // Moves to the root element. A DOCTYPE is refused as soon as it is met, so
 // that no entity it declares is ever used.
-bool DocumentReader::toRoot()
+template <typename Xml> bool DocumentReader<Xml>::toRoot()
 {
     while (!m_xml.atEnd()) {
         switch (m_xml.readNext()) {
@@ -201,7 +236,7 @@ bool DocumentReader::toRoot()
     return false;
 }
 
-bool DocumentReader::readRoot()
+template <typename Xml> bool DocumentReader<Xml>::readRoot()
 {
     if (m_xml.name() == u"Invoice" && inNamespace(Ubl::InvoiceNamespace)) {
         m_invoice.kind = DocumentKind::Invoice;
@@ -215,7 +250,7 @@ bool DocumentReader::readRoot()
                 .arg(m_xml.namespaceUri().toString(), m_xml.name().toString()));
         return false;
     }
-    m_path.append(m_xml.name().toString());
+    enterElement();
     children([this](QStringView name) { return root(name); });
     // What follows the root must still be well-formed.
     while (!m_xml.atEnd())
@@ -223,7 +258,7 @@ bool DocumentReader::readRoot()
     return true;
 }
 
-void DocumentReader::read()
+template <typename Xml> void DocumentReader<Xml>::read()
 {
     if (toRoot() && !readRoot())
         return;
@@ -245,7 +280,7 @@ void DocumentReader::read()
     m_result.differences = compareAmounts(m_stated, computeAmounts(m_invoice));
 }
 
-bool DocumentReader::root(QStringView name)
+template <typename Xml> bool DocumentReader<Xml>::root(QStringView name)
 {
     if (name == u"CustomizationID" || name == u"ProfileID") {
         // Written back, the document carries the Peppol identifiers.
@@ -308,7 +343,7 @@ bool DocumentReader::root(QStringView name)
     return true;
 }
 
-bool DocumentReader::references(QStringView name)
+template <typename Xml> bool DocumentReader<Xml>::references(QStringView name)
 {
     if (name == u"OrderReference") {
         children([this](QStringView child) {
@@ -356,7 +391,7 @@ bool DocumentReader::references(QStringView name)
 
 // A supporting document, or the invoiced object (type code 130), or the
 // project reference of a credit note (type code 50).
-void DocumentReader::additionalDocument()
+template <typename Xml> void DocumentReader<Xml>::additionalDocument()
 {
     SupportingDocument document;
     Identifier id;
@@ -396,7 +431,7 @@ void DocumentReader::additionalDocument()
     }
 }
 
-void DocumentReader::party(Party &party)
+template <typename Xml> void DocumentReader<Xml>::party(Party &party)
 {
     children([&](QStringView name) {
         if (name != u"Party")
@@ -406,7 +441,7 @@ void DocumentReader::party(Party &party)
     });
 }
 
-bool DocumentReader::partyMember(QStringView name, Party &party)
+template <typename Xml> bool DocumentReader<Xml>::partyMember(QStringView name, Party &party)
 {
     if (name == u"EndpointID") {
         party.electronicAddress = identifier();
@@ -464,7 +499,7 @@ bool DocumentReader::partyMember(QStringView name, Party &party)
     return true;
 }
 
-void DocumentReader::address(PostalAddress &address)
+template <typename Xml> void DocumentReader<Xml>::address(PostalAddress &address)
 {
     children([&](QStringView name) {
         if (name == u"StreetName") {
@@ -488,7 +523,7 @@ void DocumentReader::address(PostalAddress &address)
     });
 }
 
-void DocumentReader::delivery()
+template <typename Xml> void DocumentReader<Xml>::delivery()
 {
     Delivery &delivery = m_invoice.delivery;
     children([&](QStringView name) {
@@ -518,7 +553,7 @@ void DocumentReader::delivery()
     });
 }
 
-void DocumentReader::paymentMeans()
+template <typename Xml> void DocumentReader<Xml>::paymentMeans()
 {
     PaymentMeans &means = m_invoice.paymentMeans.emplace_back();
     children([&](QStringView name) {
@@ -558,7 +593,7 @@ void DocumentReader::paymentMeans()
     });
 }
 
-void DocumentReader::allowanceCharge(AllowanceCharge &item)
+template <typename Xml> void DocumentReader<Xml>::allowanceCharge(AllowanceCharge &item)
 {
     children([&](QStringView name) {
         if (name == u"ChargeIndicator") {
@@ -584,7 +619,8 @@ void DocumentReader::allowanceCharge(AllowanceCharge &item)
     });
 }
 
-void DocumentReader::taxCategory(
+template <typename Xml>
+void DocumentReader<Xml>::taxCategory(
     QString &category, std::optional<Decimal> &rate, VatBreakdown *breakdown)
 {
     children([&](QStringView name) {
@@ -607,7 +643,7 @@ void DocumentReader::taxCategory(
     });
 }
 
-void DocumentReader::taxTotal()
+template <typename Xml> void DocumentReader<Xml>::taxTotal()
 {
     children([&](QStringView name) {
         if (name == u"TaxAmount") {
@@ -648,7 +684,7 @@ void DocumentReader::taxTotal()
     });
 }
 
-void DocumentReader::monetaryTotal()
+template <typename Xml> void DocumentReader<Xml>::monetaryTotal()
 {
     DocumentTotals &totals = m_stated.totals;
     children([&](QStringView name) {
@@ -681,7 +717,7 @@ void DocumentReader::monetaryTotal()
         m_invoice.roundingAmount = totals.roundingAmount;
 }
 
-void DocumentReader::line()
+template <typename Xml> void DocumentReader<Xml>::line()
 {
     InvoiceLine &line = m_invoice.lines.emplace_back();
     line.unitCode.clear();
@@ -689,7 +725,7 @@ void DocumentReader::line()
     children([&](QStringView name) { return lineMember(name, line); });
 }
 
-bool DocumentReader::lineMember(QStringView name, InvoiceLine &line)
+template <typename Xml> bool DocumentReader<Xml>::lineMember(QStringView name, InvoiceLine &line)
 {
     if (name == u"ID") {
         line.id = text();
@@ -729,7 +765,7 @@ bool DocumentReader::lineMember(QStringView name, InvoiceLine &line)
     return true;
 }
 
-void DocumentReader::item(InvoiceLine &line)
+template <typename Xml> void DocumentReader<Xml>::item(InvoiceLine &line)
 {
     children([&](QStringView name) {
         if (name == u"Description") {
@@ -776,7 +812,7 @@ void DocumentReader::item(InvoiceLine &line)
     });
 }
 
-void DocumentReader::price(InvoiceLine &line)
+template <typename Xml> void DocumentReader<Xml>::price(InvoiceLine &line)
 {
     children([&](QStringView name) {
         if (name == u"PriceAmount") {
@@ -810,16 +846,37 @@ void DocumentReader::price(InvoiceLine &line)
 
 } // namespace
 
+namespace {
+
+bool tooLarge(const QByteArray &document, UblReadResult &result)
+{
+    if (document.size() <= maxUblDocumentSize)
+        return false;
+    result.errors.append(QStringLiteral("the document has %1 bytes, more than the %2 accepted")
+                             .arg(document.size())
+                             .arg(maxUblDocumentSize));
+    return true;
+}
+
+} // namespace
+
 UblReadResult readUbl(const QByteArray &document)
 {
     UblReadResult result;
-    if (document.size() > maxUblDocumentSize) {
-        result.errors.append(QStringLiteral("the document has %1 bytes, more than the %2 accepted")
-                                 .arg(document.size())
-                                 .arg(maxUblDocumentSize));
+    if (tooLarge(document, result))
         return result;
-    }
-    DocumentReader(document, result).read();
+    XmlCursor cursor(document);
+    DocumentReader<XmlCursor>(cursor, result).read();
+    return cursor.hasError() ? readUblWithQtReader(document) : result;
+}
+
+UblReadResult readUblWithQtReader(const QByteArray &document)
+{
+    UblReadResult result;
+    if (tooLarge(document, result))
+        return result;
+    QXmlStreamReader xml(document);
+    DocumentReader<QXmlStreamReader>(xml, result).read();
     return result;
 }
 

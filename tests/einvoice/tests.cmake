@@ -14,3 +14,7 @@ target_compile_definitions(tst_peppolexamples PRIVATE QOR_EINVOICE_RULES="${QORG
 qor_add_test(tst_rulecheck ${dir}/tst_rulecheck.cpp TIMEOUT 900)
 target_compile_definitions(tst_rulecheck PRIVATE
   QOR_EINVOICE_TEST_DATA="${dir}" QOR_EINVOICE_RULES="${QORGENLIB_EINVOICE_RULES}")
+# The e-invoice reader's own XML cursor against QXmlStreamReader.
+qor_add_test(tst_xmlcursor ${dir}/tst_xmlcursor.cpp)
+target_compile_definitions(tst_xmlcursor PRIVATE
+  QOR_EINVOICE_TEST_DATA="${dir}" QOR_EINVOICE_RULES="${QORGENLIB_EINVOICE_RULES}")
