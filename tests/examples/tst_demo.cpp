@@ -5,6 +5,7 @@
 #include <qorgenlib/platform/qt/qtplatform.h>
 
 #include "../common/userinput.h"
+#include "../einvoice/officialrules.h"
 
 #include <QApplication>
 #include <QComboBox>
@@ -184,7 +185,8 @@ private slots:
     }
 
     // The invoice as a Peppol e-invoice: its lines at 21 % and 6 %, the
-    // structured communication, the shop's IBAN and BIC.
+    // structured communication, the shop's IBAN and BIC; valid by the
+    // official rules.
     void eInvoiceOfTheCurrentInvoice()
     {
         QTest::mouseClick(child<QPushButton>("cmdEFactuur"), Qt::LeftButton);
@@ -194,6 +196,9 @@ private slots:
         for (const char *part : { "<cbc:Percent>21</cbc:Percent>", "<cbc:Percent>6</cbc:Percent>",
                  "+++002/0260/11718+++", "BE71096123456769", "GKCCBEBB", "BE0123456749" })
             QVERIFY2(ubl.contains(part), part);
+        test::OfficialRules rules;
+        QVERIFY2(rules.run({ written.fileName() }), qPrintable(rules.output()));
+        QCOMPARE(rules.resultOf(written.fileName()), QStringLiteral("ok"));
     }
 
     void exportAndImportTheLines()
