@@ -2,13 +2,28 @@
 
 namespace qor {
 
+namespace {
+
+// A plain loop: the separators are one or two characters, and a call into
+// the general search for each character of the text costs more than it.
+bool isOneOf(QChar c, QStringView characters)
+{
+    for (QChar candidate : characters) {
+        if (c == candidate)
+            return true;
+    }
+    return false;
+}
+
+} // namespace
+
 QString compactedText(QStringView text, QStringView separators)
 {
     // Written into a buffer of the text's size, cut to what was kept.
     QString compact(text.size(), Qt::Uninitialized);
     QChar *write = compact.data();
     for (QChar c : text) {
-        if (c == u' ' || c == QChar(0xA0) || separators.contains(c))
+        if (c == u' ' || c == QChar(0xA0) || isOneOf(c, separators))
             continue;
         if (c >= u'a' && c <= u'z')
             c = QChar(c.unicode() - u'a' + u'A');
