@@ -2,7 +2,7 @@
 
 #include "einvoice/isodate.h"
 #include "einvoice/ublnames.h"
-#include "einvoice/ublreferencereader.h"
+#include "einvoice/ublreference.h"
 #include "einvoice/xmlcursor.h"
 
 #include <QXmlStreamReader>

@@ -2,6 +2,8 @@
 
 #include "einvoice/invoicetotals.h"
 #include "einvoice/ublnames.h"
+#include "einvoice/ublreference.h"
+#include "einvoice/xmlbuilder.h"
 
 #include <QXmlStreamWriter>
 
@@ -11,7 +13,7 @@ namespace {
 
 // Writes the elements of one document. Element names carry their prefixes
 // ("cbc:ID"), bound once on the root element.
-class DocumentWriter
+template <typename Writer> class DocumentWriter
 {
 public:
     DocumentWriter(const Invoice &invoice, QString *out, UblLayout layout)
@@ -56,17 +58,19 @@ private:
     const Invoice &m_invoice;
     const InvoiceAmounts m_amounts;
     const bool m_creditNote;
-    QXmlStreamWriter m_xml;
+    Writer m_xml;
 };
 
-void DocumentWriter::text(const QString &name, const QString &value)
+template <typename Writer>
+void DocumentWriter<Writer>::text(const QString &name, const QString &value)
 {
     if (!value.isEmpty())
         m_xml.writeTextElement(name, value);
 }
 
-void DocumentWriter::text(const QString &name, const QString &value, const QString &attribute,
-    const QString &attributeValue)
+template <typename Writer>
+void DocumentWriter<Writer>::text(const QString &name, const QString &value,
+    const QString &attribute, const QString &attributeValue)
 {
     if (value.isEmpty())
         return;
@@ -77,30 +81,35 @@ void DocumentWriter::text(const QString &name, const QString &value, const QStri
     end();
 }
 
-void DocumentWriter::identifier(const QString &name, const Identifier &value)
+template <typename Writer>
+void DocumentWriter<Writer>::identifier(const QString &name, const Identifier &value)
 {
     text(name, value.id, QStringLiteral("schemeID"), value.scheme);
 }
 
-void DocumentWriter::date(const QString &name, const QDate &value)
+template <typename Writer>
+void DocumentWriter<Writer>::date(const QString &name, const QDate &value)
 {
     if (value.isValid())
         m_xml.writeTextElement(name, value.toString(Qt::ISODate));
 }
 
-void DocumentWriter::amount(const QString &name, const Decimal &value)
+template <typename Writer>
+void DocumentWriter<Writer>::amount(const QString &name, const Decimal &value)
 {
     text(name, value.toString(), QStringLiteral("currencyID"), m_invoice.currency);
 }
 
-void DocumentWriter::amount(const QString &name, const std::optional<Decimal> &value)
+template <typename Writer>
+void DocumentWriter<Writer>::amount(const QString &name, const std::optional<Decimal> &value)
 {
     if (value)
         amount(name, *value);
 }
 
 // <wrapper><cbc:ID>id</cbc:ID></wrapper>, when there is an id.
-void DocumentWriter::idElement(const QString &wrapper, const QString &id)
+template <typename Writer>
+void DocumentWriter<Writer>::idElement(const QString &wrapper, const QString &id)
 {
     if (id.isEmpty())
         return;
@@ -109,7 +118,7 @@ void DocumentWriter::idElement(const QString &wrapper, const QString &id)
     end();
 }
 
-void DocumentWriter::write()
+template <typename Writer> void DocumentWriter<Writer>::write()
 {
     m_xml.writeStartDocument();
     start(m_creditNote ? QStringLiteral("CreditNote") : QStringLiteral("Invoice"));
@@ -132,7 +141,7 @@ void DocumentWriter::write()
     m_xml.writeEndDocument();
 }
 
-void DocumentWriter::header()
+template <typename Writer> void DocumentWriter<Writer>::header()
 {
     text(QStringLiteral("cbc:CustomizationID"), QString::fromUtf16(Peppol::CustomizationId));
     text(QStringLiteral("cbc:ProfileID"), QString::fromUtf16(Peppol::ProfileId));
@@ -158,7 +167,7 @@ void DocumentWriter::header()
     }
 }
 
-void DocumentWriter::references()
+template <typename Writer> void DocumentWriter<Writer>::references()
 {
     if (!m_invoice.purchaseOrderReference.isEmpty() || !m_invoice.salesOrderReference.isEmpty()) {
         start(QStringLiteral("cac:OrderReference"));
@@ -223,7 +232,8 @@ void DocumentWriter::references()
         idElement(QStringLiteral("cac:ProjectReference"), m_invoice.projectReference);
 }
 
-void DocumentWriter::address(const QString &name, const PostalAddress &address)
+template <typename Writer>
+void DocumentWriter<Writer>::address(const QString &name, const PostalAddress &address)
 {
     start(name);
     text(QStringLiteral("cbc:StreetName"), address.streetName);
@@ -242,7 +252,8 @@ void DocumentWriter::address(const QString &name, const PostalAddress &address)
     end();
 }
 
-void DocumentWriter::party(const QString &role, const Party &party)
+template <typename Writer>
+void DocumentWriter<Writer>::party(const QString &role, const Party &party)
 {
     start(role);
     start(QStringLiteral("cac:Party"));
@@ -286,7 +297,7 @@ void DocumentWriter::party(const QString &role, const Party &party)
     end();
 }
 
-void DocumentWriter::delivery()
+template <typename Writer> void DocumentWriter<Writer>::delivery()
 {
     const Delivery &delivery = m_invoice.delivery;
     if (delivery.isEmpty())
@@ -310,7 +321,7 @@ void DocumentWriter::delivery()
     end();
 }
 
-void DocumentWriter::payment()
+template <typename Writer> void DocumentWriter<Writer>::payment()
 {
     bool first = true;
     for (const PaymentMeans &means : m_invoice.paymentMeans) {
@@ -344,7 +355,8 @@ void DocumentWriter::payment()
     }
 }
 
-void DocumentWriter::taxCategory(
+template <typename Writer>
+void DocumentWriter<Writer>::taxCategory(
     const QString &name, const QString &category, const std::optional<Decimal> &rate)
 {
     start(name);
@@ -353,7 +365,8 @@ void DocumentWriter::taxCategory(
         text(QStringLiteral("cbc:Percent"), rate->toString());
 }
 
-void DocumentWriter::allowanceCharge(const AllowanceCharge &item, bool documentLevel)
+template <typename Writer>
+void DocumentWriter<Writer>::allowanceCharge(const AllowanceCharge &item, bool documentLevel)
 {
     start(QStringLiteral("cac:AllowanceCharge"));
     text(QStringLiteral("cbc:ChargeIndicator"),
@@ -374,7 +387,7 @@ void DocumentWriter::allowanceCharge(const AllowanceCharge &item, bool documentL
     end();
 }
 
-void DocumentWriter::taxTotals()
+template <typename Writer> void DocumentWriter<Writer>::taxTotals()
 {
     start(QStringLiteral("cac:TaxTotal"));
     amount(QStringLiteral("cbc:TaxAmount"), m_amounts.totals.vatTotal);
@@ -403,7 +416,7 @@ void DocumentWriter::taxTotals()
     }
 }
 
-void DocumentWriter::monetaryTotal()
+template <typename Writer> void DocumentWriter<Writer>::monetaryTotal()
 {
     const DocumentTotals &totals = m_amounts.totals;
     start(QStringLiteral("cac:LegalMonetaryTotal"));
@@ -422,7 +435,8 @@ void DocumentWriter::monetaryTotal()
     end();
 }
 
-void DocumentWriter::line(const InvoiceLine &line, qsizetype index)
+template <typename Writer>
+void DocumentWriter<Writer>::line(const InvoiceLine &line, qsizetype index)
 {
     start(m_creditNote ? QStringLiteral("cac:CreditNoteLine") : QStringLiteral("cac:InvoiceLine"));
     text(QStringLiteral("cbc:ID"), line.id);
@@ -459,7 +473,7 @@ void DocumentWriter::line(const InvoiceLine &line, qsizetype index)
     end();
 }
 
-void DocumentWriter::item(const InvoiceLine &line)
+template <typename Writer> void DocumentWriter<Writer>::item(const InvoiceLine &line)
 {
     start(QStringLiteral("cac:Item"));
     text(QStringLiteral("cbc:Description"), line.itemDescription);
@@ -496,7 +510,7 @@ void DocumentWriter::item(const InvoiceLine &line)
     end();
 }
 
-void DocumentWriter::price(const InvoiceLine &line)
+template <typename Writer> void DocumentWriter<Writer>::price(const InvoiceLine &line)
 {
     start(QStringLiteral("cac:Price"));
     amount(QStringLiteral("cbc:PriceAmount"), line.netPrice);
@@ -519,14 +533,28 @@ void DocumentWriter::price(const InvoiceLine &line)
 
 } // namespace
 
-QByteArray writeUbl(const Invoice &invoice, UblLayout layout)
+namespace {
+
+template <typename Writer> QByteArray writeWith(const Invoice &invoice, UblLayout layout)
 {
     // Written as text first and encoded once: much faster than encoding each
     // piece on its way into a byte array.
     QString out;
     out.reserve(16 * 1024);
-    DocumentWriter(invoice, &out, layout).write();
+    DocumentWriter<Writer>(invoice, &out, layout).write();
     return out.toUtf8();
+}
+
+} // namespace
+
+QByteArray writeUbl(const Invoice &invoice, UblLayout layout)
+{
+    return writeWith<XmlBuilder>(invoice, layout);
+}
+
+QByteArray writeUblWithQtWriter(const Invoice &invoice, UblLayout layout)
+{
+    return writeWith<QXmlStreamWriter>(invoice, layout);
 }
 
 } // namespace qor::einvoice

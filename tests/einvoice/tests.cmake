@@ -14,7 +14,9 @@ target_compile_definitions(tst_peppolexamples PRIVATE QOR_EINVOICE_RULES="${QORG
 qor_add_test(tst_rulecheck ${dir}/tst_rulecheck.cpp TIMEOUT 900)
 target_compile_definitions(tst_rulecheck PRIVATE
   QOR_EINVOICE_TEST_DATA="${dir}" QOR_EINVOICE_RULES="${QORGENLIB_EINVOICE_RULES}")
-# The e-invoice reader's own XML cursor against QXmlStreamReader.
+# The e-invoice reader's and writer's own XML cursor and builder against Qt's.
 qor_add_test(tst_xmlcursor ${dir}/tst_xmlcursor.cpp)
 target_compile_definitions(tst_xmlcursor PRIVATE
   QOR_EINVOICE_TEST_DATA="${dir}" QOR_EINVOICE_RULES="${QORGENLIB_EINVOICE_RULES}")
+qor_add_test(tst_xmlbuilder ${dir}/tst_xmlbuilder.cpp)
+target_compile_definitions(tst_xmlbuilder PRIVATE QOR_EINVOICE_TEST_DATA="${dir}")

@@ -1,5 +1,5 @@
 #include "einvoice/invoicejson.h"
-#include "einvoice/ublreferencereader.h"
+#include "einvoice/ublreference.h"
 #include "einvoice/ublwriter.h"
 #include "einvoice/xmlcursor.h"
 
