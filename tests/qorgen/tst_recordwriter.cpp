@@ -27,22 +27,12 @@ void produce(RecordingPlatform &machine, const QString &kind, QObject *form)
         lib.ShowCalculator(12);
     else if (kind == QLatin1String("Note"))
         machine.showNote({ QStringLiteral("+ 21 %"), nullptr });
-    else if (kind == QLatin1String("beep"))
-        machine.beep();
     else if (kind == QLatin1String("sound"))
         machine.playSound(QStringLiteral("/x/Ding.wav"), true);
-    else if (kind == QLatin1String("stopSound"))
-        machine.stopSound();
     else if (kind == QLatin1String("start"))
         machine.waitForProcess(machine.startProcess(QStringLiteral("true"), 6));
-    else if (kind == QLatin1String("shutdown"))
-        machine.shutDown();
     else if (kind == QLatin1String("onTop"))
         machine.keepOnTop(form, 0);
-    else if (kind == QLatin1String("mousePointer"))
-        machine.setMousePointer(11);
-    else if (kind == QLatin1String("key"))
-        lib.SendAKey(65);
 }
 
 QJsonObject written(const QVariantMap &record, bool shown)
@@ -75,14 +65,9 @@ private slots:
         QTest::newRow("input box cancelled, with its sound notice") << "InputBoxE" << QVariantList { cancel };
         QTest::newRow("calculator and its help card") << "CalculatorHelp" << QVariantList { QVariantMap { { "keys", "{Help}x5{Enter}" } } };
         QTest::newRow("VAT note") << "Note" << QVariantList {};
-        QTest::newRow("beep") << "beep" << QVariantList {};
         QTest::newRow("looping sound") << "sound" << QVariantList {};
-        QTest::newRow("sound stopped") << "stopSound" << QVariantList {};
         QTest::newRow("program started") << "start" << QVariantList {};
-        QTest::newRow("shut-down") << "shutdown" << QVariantList {};
         QTest::newRow("form on top") << "onTop" << QVariantList {};
-        QTest::newRow("mouse pointer") << "mousePointer" << QVariantList {};
-        QTest::newRow("key sent") << "key" << QVariantList {};
         // clang-format on
     }
     void everyFieldOfEveryRecord()
