@@ -59,7 +59,6 @@ private slots:
         QTest::newRow("payment short, French") << 3 << 10000 << -1 << 21 << QStringList { "1:Integer 1=CT" };
         QTest::newRow("payment long, Dutch") << 4 << 0 << -1 << 21 << QStringList { "1:Integer 1=Contant", "10:Integer 10=Domiciliëring", "18:Integer 18=PAYPAL Visa-Mastercard-AmEx-Discover-eCheck", "20:Integer 99=Integer 9999" };
         QTest::newRow("payment long, French") << 4 << 10000 << -1 << 21 << QStringList { "1:Integer 1=Comptant", "20:Integer 99=Integer 9999" };
-        QTest::newRow("payment long, English") << 4 << 20000 << -1 << 21 << QStringList { "10:Integer 10=Direct Debit" };
         QTest::newRow("language short") << 5 << 0 << -1 << 6 << QStringList { "0:Integer 0=NL", "3:Integer 30000=DE", "4:Long 40000=ES", "5:Long 50000=IT" };
         QTest::newRow("language long ignores the language") << 6 << 10000 << -1 << 6 << QStringList { "1:Integer 10000=Français", "4:Long 40000=Espanol", "5:Long 50000=Italiano" };
         QTest::newRow("house number: missing-text marker") << 7 << 0 << -1 << 2 << QStringList { "0:Null= [LL 9018 ?] ", "1:Integer 0= [LL 9018 ?] " };
@@ -146,12 +145,11 @@ private slots:
     {
         QFETCH(QVariant, type);
         QFETCH(QVariant, col);
-        QFETCH(int, error);
         clsqorGenLib lib;
         Grid grid;
         callOperation(child(&grid, "Columns"), "Add", { 0 });
         const QVariantList args { QVariant::fromValue<QObject *>(&grid), type, col };
-        QCOMPARE(errorNumber([&] { lib.Invoke("SetDBGridTranslation", args); }), error);
+        QTEST(errorNumber([&] { lib.Invoke("SetDBGridTranslation", args); }), "error");
         QCOMPARE(itemsOf(columnOf(&grid, 0)).size(), 0);
         QCOMPARE(getProperty(columnOf(&grid, 0), "Translate").toBool(), false);
     }

@@ -161,11 +161,9 @@ private slots:
     {
         QFETCH(QVariant, input);
         QFETCH(int, order);
-        QFETCH(int, error);
         clsqorGenLib lib;
         QVariant values = input;
-        QCOMPARE(
-            errorNumber([&] { lib.SortArray(values, qorGenLib::OstSortOrder(order)); }), error);
+        QTEST(errorNumber([&] { lib.SortArray(values, qorGenLib::OstSortOrder(order)); }), "error");
         QTEST(described(values), "after");
     }
 

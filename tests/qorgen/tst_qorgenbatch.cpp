@@ -89,26 +89,6 @@ private slots:
         }
         QCOMPARE(responses[1].value("result").toString(), QStringLiteral("Y"));
     }
-
-    // A caller that writes one line and waits gets its answer without closing its side.
-    void eachLineIsAnsweredWhileTheInputStaysOpen()
-    {
-        QProcess process;
-        process.start(QStringLiteral(QORGEN_PATH), { QStringLiteral("batch") });
-        QVERIFY(process.waitForStarted(10000));
-        for (const QByteArray &text : { QByteArray("one"), QByteArray("two") }) {
-            process.write(
-                "{\"call\": \"SCase\", \"args\": [\"" + text + "\"], \"props\": false}\n");
-            QByteArray answer;
-            while (!answer.endsWith('\n') && process.waitForReadyRead(20000))
-                answer += process.readAllStandardOutput();
-            QVERIFY2(answer.startsWith(QByteArray("{\"result\":\"")), answer.constData());
-            QVERIFY(answer.contains(text.left(1).toUpper() + text.mid(1)));
-        }
-        process.closeWriteChannel();
-        QVERIFY(process.waitForFinished(10000));
-        QCOMPARE(process.exitCode(), 0);
-    }
 };
 
 QTEST_GUILESS_MAIN(TestQorgenBatch)

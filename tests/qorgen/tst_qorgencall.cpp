@@ -64,7 +64,6 @@ private slots:
         // clang-format off
         QTest::newRow("the call ran") << QStringList({ "call", "FilterNumeric", "a1" }) << 0 << QByteArray("1\n") << none;
         QTest::newRow("a wrong account: an empty line, the message on stderr") << QStringList({ "call", "ControleerBankNr", "000-0000000-98" }) << 0 << QByteArray("\n") << QByteArray("Fout !\nOngeldig Bankrekeningnummer");
-        QTest::newRow("an IBAN in print form") << QStringList({ "call", "ControleerIBAN", "be71 0961 2345 6769" }) << 0 << QByteArray("BE71 0961 2345 6769\n") << none;
         QTest::newRow("run-time error") << QStringList({ "call", "SetEuro", "abc" }) << 1 << none << QByteArray("13: Type mismatch");
         QTest::newRow("unknown method") << QStringList({ "call", "Nope" }) << 2 << none << QByteArray("\"Nope\"");
         QTest::newRow("no method") << QStringList({ "call", "--json" }) << 2 << none << QByteArray("METHOD");

@@ -26,7 +26,8 @@ class TestQorgenMemory : public QObject
 
 private slots:
     // A long-running worker stays small: a host object that a property no longer
-    // holds is released, however many were assigned before it.
+    // holds is released, however many were assigned before it. It answers every
+    // line it was given while its input stays open.
     void replacedHostObjectsAreReleased()
     {
         QProcess process;
