@@ -121,26 +121,6 @@ private slots:
         QVERIFY(disabledAfter);
     }
 
-    void oneRateHidesTheSecondKeys()
-    {
-        clsqorGenLib lib;
-        lib.setProperty("BtwTar1", 2100);
-        bool hidden = false;
-        whenModalIsActive(QStringLiteral("frmCalculator"), [&](QWidget *calculator) {
-            hidden = !button(calculator, QStringLiteral("cmdBTW2"))->isVisible()
-                && !button(calculator, QStringLiteral("cmdKey19"))->isVisible()
-                && button(calculator, QStringLiteral("cmdKey18"))->isVisible();
-            QTest::mouseClick(button(calculator, QStringLiteral("cmdEuro")), Qt::LeftButton);
-            QCOMPARE(button(calculator, QStringLiteral("cmdEuro"))->text(),
-                QStringLiteral("BEF  >>  EUR"));
-            QCOMPARE(displayOf(calculator), QStringLiteral("40,3399"));
-            QTest::keyClick(calculator, Qt::Key_Insert);
-        });
-        QCOMPARE(lib.ShowCalculator(1), 40.3399);
-        QVERIFY(hidden);
-        QCOMPARE(modGenLib().calculatorMode, 1);
-    }
-
     // The help card opens by its button or F1 and takes the next key or click
     // itself; the calculator stays open with its display.
     void helpCardTakesTheKey_data()
