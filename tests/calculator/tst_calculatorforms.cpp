@@ -143,14 +143,12 @@ private slots:
         clsqorGenLib lib;
         lib.setProperty("Offset", offset);
         QString title;
-        QString vatLine;
         bool stillOpen = false;
         QString display;
         whenModalIsActive(QStringLiteral("frmCalculator"), [&](QWidget *calculator) {
             QTest::keyClicks(calculator, QStringLiteral("12"));
             whenModalIsActive(QStringLiteral("frmCalculatorHelp"), [&](QWidget *help) {
                 title = help->windowTitle();
-                vatLine = help->findChild<QLabel *>(QStringLiteral("lblVat"))->text();
                 if (QTest::currentDataTag() == QByteArray("Dutch, closed by escape"))
                     saveScreenshot(help, QStringLiteral("calculator-help.png"));
                 if (closedBy == QLatin1String("click"))
@@ -169,7 +167,6 @@ private slots:
         });
         QCOMPARE(lib.ShowCalculator(5), 12.0);
         QTEST(title, "title");
-        QCOMPARE(vatLine, lib.LLGenLib(1220));
         QVERIFY(stillOpen);
         QCOMPARE(display, QStringLiteral("12"));
     }

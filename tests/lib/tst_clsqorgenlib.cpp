@@ -72,7 +72,6 @@ private slots:
         QTest::newRow("optional arguments left out") << "FilterText" << QVariantList { "O'Neil 7" } << QVariant(QStringLiteral("O\u00B4Neil")) << 0;
         QTest::newRow("missing optional argument") << "FilterText" << QVariantList { "O'Neil 7", missingVariant(), "7" } << QVariant(QStringLiteral("O\u00B4Neil7")) << 0;
         QTest::newRow("Variant default is a Double 0") << "CGetal" << QVariantList {} << QVariant(0.0) << 0;
-        QTest::newRow("symbol: euro sign") << "SetEuro" << QVariantList { 2, QVariant(2) } << QVariant(QStringLiteral("2,00 \u20AC")) << 0;
         QTest::newRow("symbol: largest Long") << "SetEuro" << QVariantList { 2, QVariant(2147483647) } << QVariant("2,00") << 0;
         QTest::newRow("required argument missing") << "SCase" << QVariantList { missingVariant() } << QVariant() << 449;
         QTest::newRow("null where a number is declared") << "LLGenLib" << QVariantList { nullVariant() } << QVariant() << 94;
