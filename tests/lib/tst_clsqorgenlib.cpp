@@ -133,9 +133,7 @@ private slots:
         QTest::addColumn<QString>("property");
         QTest::addColumn<QVariant>("value");
         // clang-format off
-        QTest::newRow("True into a Long") << "Offset" << QVariant(true);
         QTest::newRow("number text into a Long") << "BtwTar1" << QVariant(QStringLiteral("2100"));
-        QTest::newRow("double into a Long rounds to even") << "NbrDec" << QVariant(2.5);
         QTest::newRow("number into a String") << "msg" << QVariant(12.5);
         QTest::newRow("Boolean into a String") << "SQL" << QVariant(false);
         // clang-format on
