@@ -121,26 +121,6 @@ private slots:
         QVERIFY(disabledAfter);
     }
 
-    void oneRateHidesTheSecondKeys()
-    {
-        clsqorGenLib lib;
-        lib.setProperty("BtwTar1", 2100);
-        bool hidden = false;
-        whenModalIsActive(QStringLiteral("frmCalculator"), [&](QWidget *calculator) {
-            hidden = !button(calculator, QStringLiteral("cmdBTW2"))->isVisible()
-                && !button(calculator, QStringLiteral("cmdKey19"))->isVisible()
-                && button(calculator, QStringLiteral("cmdKey18"))->isVisible();
-            QTest::mouseClick(button(calculator, QStringLiteral("cmdEuro")), Qt::LeftButton);
-            QCOMPARE(button(calculator, QStringLiteral("cmdEuro"))->text(),
-                QStringLiteral("BEF  >>  EUR"));
-            QCOMPARE(displayOf(calculator), QStringLiteral("40,3399"));
-            QTest::keyClick(calculator, Qt::Key_Insert);
-        });
-        QCOMPARE(lib.ShowCalculator(1), 40.3399);
-        QVERIFY(hidden);
-        QCOMPARE(modGenLib().calculatorMode, 1);
-    }
-
     // The help card opens by its button or F1 and takes the next key or click
     // itself; the calculator stays open with its display.
     void helpCardTakesTheKey_data()
@@ -163,14 +143,12 @@ private slots:
         clsqorGenLib lib;
         lib.setProperty("Offset", offset);
         QString title;
-        QString vatLine;
         bool stillOpen = false;
         QString display;
         whenModalIsActive(QStringLiteral("frmCalculator"), [&](QWidget *calculator) {
             QTest::keyClicks(calculator, QStringLiteral("12"));
             whenModalIsActive(QStringLiteral("frmCalculatorHelp"), [&](QWidget *help) {
                 title = help->windowTitle();
-                vatLine = help->findChild<QLabel *>(QStringLiteral("lblVat"))->text();
                 if (QTest::currentDataTag() == QByteArray("Dutch, closed by escape"))
                     saveScreenshot(help, QStringLiteral("calculator-help.png"));
                 if (closedBy == QLatin1String("click"))
@@ -189,7 +167,6 @@ private slots:
         });
         QCOMPARE(lib.ShowCalculator(5), 12.0);
         QTEST(title, "title");
-        QCOMPARE(vatLine, lib.LLGenLib(1220));
         QVERIFY(stillOpen);
         QCOMPARE(display, QStringLiteral("12"));
     }

@@ -73,7 +73,6 @@ private slots:
         QTest::newRow("last day of a quarter") << "nl_BE" << "31/03/2004" << day(2004, 1, 1) << day(2004, 3, 31);
         QTest::newRow("with a time") << "nl_BE" << "15/08/2004 23:59" << day(2004, 7, 1) << day(2004, 9, 30);
         QTest::newRow("last quarter of the range") << "nl_BE" << "31/12/9999" << day(9999, 10, 1) << day(9999, 12, 31);
-        QTest::newRow("31 February") << "nl_BE" << "31/02/2004" << day(1899, 12, 30) << day(1899, 12, 30);
         QTest::newRow("empty") << "nl_BE" << "" << day(1899, 12, 30) << day(1899, 12, 30);
         // clang-format on
     }
@@ -125,14 +124,11 @@ private slots:
         QTest::newRow("BE 2006, table ended") << nl << 0 << 2006 << "BE" << "BE" << slashes << fixedDays + ",21/07,11/11,11/07" << dutchTitles << QVariantList();
         QTest::newRow("BE 2001, before the table") << nl << 0 << 2001 << "BE" << "BE" << slashes << fixedDays + ",21/07,11/11,11/07" << dutchTitles << QVariantList();
         QTest::newRow("LU 2004") << nl << 0 << 2004 << "LU" << "LU" << slashes << fixedDays + ",23/06,11/04,20/05,30/05" << dutchTitles << QVariantList();
-        QTest::newRow("LU 2006") << nl << 0 << 2006 << "LU" << "LU" << slashes << fixedDays + ",23/06" << dutchTitles << QVariantList();
-        QTest::newRow("NL 2004: the common days only") << nl << 0 << 2004 << "NL" << "NL" << slashes << fixedDays << dutchTitles << QVariantList();
         QTest::newRow("NL 2004: neither value nor highest date") << nl << 0 << 2004 << "NL" << "NL" << slashes << fixedDays << dutchTitles << QVariantList { false, false };
         QTest::newRow("NL 2004: value to the day, no highest date") << nl << 0 << 2004 << "NL" << "NL" << slashes << fixedDays << dutchTitles << QVariantList { true, false };
         QTest::newRow("NL 2004: value and highest date to the day") << nl << 0 << 2004 << "NL" << "NL" << slashes << fixedDays << dutchTitles << QVariantList { true, true };
         QTest::newRow("lower case is another country") << nl << 0 << 2004 << "be" << "be" << slashes << fixedDays << dutchTitles << QVariantList();
         QTest::newRow("first two characters count") << nl << 0 << 2004 << "BEL" << "BEL" << slashes << fixedDays + ",21/07,11/11,11/07,11/04,20/05,30/05" << dutchTitles << QVariantList();
-        QTest::newRow("a leading blank is another country") << nl << 0 << 2004 << " BE" << " BE" << slashes << fixedDays << dutchTitles << QVariantList();
         QTest::newRow("empty becomes BE") << nl << 0 << 2004 << "" << "BE" << slashes << fixedDays + ",21/07,11/11,11/07,11/04,20/05,30/05" << dutchTitles << QVariantList();
         QTest::newRow("points as separator") << "de_DE" << 30000 << 2004 << "LU" << "LU" << "dd.mm.yyyy" << fixedDays + ",23/06,11/04,20/05,30/05" << " [LL 31000 ?] " << QVariantList();
         // clang-format on

@@ -173,7 +173,6 @@ private slots:
         QTest::newRow("a lone hash is its own literal") << "nl_BE" << "#" << "#";
         QTest::newRow("99:99") << "nl_BE" << "99:99" << "";
         QTest::newRow("empty") << "nl_BE" << "" << "";
-        QTest::newRow("blanks") << "nl_BE" << "   " << "";
         // clang-format on
     }
     void getTime()

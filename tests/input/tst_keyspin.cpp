@@ -94,17 +94,6 @@ private slots:
             QCOMPARE(box.calls().size(), 1);
         }
     }
-
-    void byNameTheBoundsAreLeftOut()
-    {
-        test::installRecordingPlatform(QStringLiteral("nl_BE"));
-        clsqorGenLib lib;
-        TextBox box;
-        box.setText(QStringLiteral("7"));
-        QVERIFY(lib.Invoke(QStringLiteral("KeySpin"), { 40, QVariant::fromValue<QObject *>(&box) })
-                    .toBool());
-        QCOMPARE(box.text(), QStringLiteral("6"));
-    }
 };
 
 QTEST_GUILESS_MAIN(TestKeySpin)

@@ -74,12 +74,10 @@ private slots:
         QTest::newRow("variable, five digits") << "%[A_]" << false << true << "" << 0 << "%[A12345]" << zeros(9) << "A12345" << none << "";
         QTest::newRow("variable, letter in digits") << "%[A_]" << false << true << "" << 0 << "%[A1X]" << zeros(6) << "" << mismatch << "";
         QTest::newRow("variable too short") << "%[AB_]" << false << true << "" << 0 << "%[A]" << zeros(4) << "" << QStringList { "MsgBox:ScanBM" } << "";
-        QTest::newRow("variable too short beeps") << "%[AB_]" << false << false << "" << 0 << "%[A]" << zeros(4) << "" << QStringList { "beep" } << "";
         QTest::newRow("ok code whatever the format") << "%[####]" << false << true << "" << 0 << "%[OK]" << zeros(5) << "OK" << none << "";
         QTest::newRow("ann code") << "%[@]" << true << true << "" << 0 << "%[ANN]" << zeros(6) << "ANN" << none << "";
         QTest::newRow("one character of any kind") << "%[@]" << false << true << "" << 0 << "%[x]" << zeros(4) << "X" << none << "";
         QTest::newRow("letter where a digit belongs") << "%[####]" << false << true << "" << 0 << "%[12a" << zeros(5) << "" << mismatch << "";
-        QTest::newRow("mismatch beeps without mbox") << "%[####]" << false << false << "" << 0 << "%[12a" << zeros(5) << "" << QStringList { "beep" } << "";
         QTest::newRow("scan longer than format") << "%[##]" << false << true << "" << 0 << "%[123" << zeros(5) << "" << mismatch << "";
         QTest::newRow("percent then x: silent") << "%[####]" << false << true << "" << 0 << "%x" << zeros(2) << "" << none << "";
         QTest::newRow("scan in progress") << "%[####]" << false << true << "" << 0 << "%[12" << zeros(4) << "" << none << "%[12";

@@ -33,17 +33,6 @@ private slots:
         QTEST(qor::filterNumeric(input), "expected");
     }
 
-    void filterNumericWritesTheTextFormBack()
-    {
-        clsqorGenLib lib;
-        QVariant value = 3.5;
-        QCOMPARE(lib.FilterNumeric(value).toString(), QStringLiteral("35"));
-        QCOMPARE(value, QVariant(QStringLiteral("3,5")));
-        QVariant empty;
-        QCOMPARE(lib.FilterNumeric(empty).toString(), QString());
-        QCOMPARE(empty.typeId(), int(QMetaType::QString));
-    }
-
     void filterAccenten_data()
     {
         QTest::addColumn<QString>("input");

@@ -59,25 +59,6 @@ private slots:
         QTEST(memberNames(enumName), "members");
     }
 
-    void memberValues_data()
-    {
-        QTest::addColumn<QString>("member");
-        QTest::addColumn<int>("value");
-        // clang-format off
-        QTest::newRow("system grey") << "vbGrey" << -2147483633;
-        QTest::newRow("cyan") << "vbCyan" << 12632064;
-        QTest::newRow("cyan4 shares it") << "vbCyan4" << 12632064;
-        QTest::newRow("last icon") << "iccMapQOR" << 254;
-        QTest::newRow("icon after the gap") << "iccTelefoonGroen" << 218;
-        // clang-format on
-    }
-    void memberValues()
-    {
-        QFETCH(QString, member);
-        QFETCH(int, value);
-        QCOMPARE(library().enumValue(member), std::optional<qint32>(value));
-    }
-
     void enumerationsAreComplete()
     {
         QCOMPARE(library().enumerations().size(), 22);
@@ -92,36 +73,6 @@ private slots:
         QCOMPARE(icons.size(), 253);
         QVERIFY(!icons.contains(217));
         QVERIFY(icons.contains(1) && icons.contains(254));
-    }
-
-    void parametersCarryTypeReferenceAndDefault_data()
-    {
-        QTest::addColumn<QString>("method");
-        QTest::addColumn<int>("index");
-        QTest::addColumn<QString>("name");
-        QTest::addColumn<QString>("type");
-        QTest::addColumn<bool>("byRef");
-        QTest::addColumn<bool>("optional");
-        QTest::addColumn<QVariant>("defaultValue");
-        // clang-format off
-        QTest::newRow("optional and written back") << "ControleerVAT" << 2 << "LandCode" << "String" << true << true << QVariant(QString());
-        QTest::newRow("variant default is Integer 0") << "CGetal" << 0 << "Number" << "Variant" << false << true << QVariant::fromValue<short>(0);
-        // clang-format on
-    }
-    void parametersCarryTypeReferenceAndDefault()
-    {
-        QFETCH(QString, method);
-        QFETCH(int, index);
-        const MethodInfo *info = library().findMethod(method);
-        QVERIFY(info);
-        const ParameterInfo &param = info->parameters.at(index);
-        QTEST(param.name, "name");
-        QTEST(param.type, "type");
-        QTEST(param.byRef, "byRef");
-        QTEST(param.optional, "optional");
-        QFETCH(QVariant, defaultValue);
-        QCOMPARE(param.defaultValue.metaType(), defaultValue.metaType());
-        QCOMPARE(param.defaultValue, defaultValue);
     }
 
     // A whole default within -32768..32767 becomes an Integer; any other stays as published.

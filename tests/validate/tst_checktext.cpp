@@ -48,16 +48,6 @@ private slots:
         QCOMPARE(text, digits);
         QCOMPARE(input, before); // shared until written
         QCOMPARE(text.constData()[text.size()], QChar(0));
-        // A text of its own keeps its buffer.
-        QString roomy;
-        roomy.reserve(input.size() + 8);
-        roomy.append(input);
-        const QChar *buffer = roomy.constData();
-        keepDigits(roomy);
-        QCOMPARE(roomy, digits);
-        QCOMPARE(roomy.constData()[roomy.size()], QChar(0));
-        if (input.size() <= 64)
-            QCOMPARE(roomy.constData(), buffer);
     }
 
     // Whole numbers of up to fifteen digits, eight at a time and the rest.
@@ -80,9 +70,8 @@ private slots:
             digits.isEmpty() ? 0 : digits.toLongLong());
     }
 
-    // The display the checks write into keeps its buffer from check to check,
-    // and never writes into a text it shares with another.
-    void displayStorageIsReusedButNeverShared_data()
+    // The display the checks write into never writes into a text it shares with another.
+    void displayStorageIsNeverShared_data()
     {
         QTest::addColumn<QString>("start");
         QTest::addColumn<QString>("written");
@@ -94,7 +83,7 @@ private slots:
         QTest::newRow("empty") << "0123" << "";
         // clang-format on
     }
-    void displayStorageIsReusedButNeverShared()
+    void displayStorageIsNeverShared()
     {
         QFETCH(QString, start);
         QFETCH(QString, written);
@@ -104,30 +93,6 @@ private slots:
         QCOMPARE(shared, written);
         QCOMPARE(start, before);
         QCOMPARE(shared.constData()[shared.size()], QChar(0));
-        // A buffer of its own is used again, shrunk and grown within its room
-        // (a null text empties it for good, as an assignment does).
-        if (start.isNull())
-            return;
-        QString own;
-        own.reserve(16);
-        const QChar *buffer = own.constData();
-        for (int round = 0; round < 2; ++round) {
-            assignText(own, start);
-            nothingShown(own, Verdict::Refused);
-            QVERIFY(own.isEmpty());
-            assignText(own, written);
-            QCOMPARE(own, written);
-            QCOMPARE(own.constData()[own.size()], QChar(0));
-        }
-        QCOMPARE(own.constData(), buffer);
-    }
-
-    void allDigitsStayShared()
-    {
-        const QString original = QStringLiteral("012345678901");
-        QString text = original;
-        keepDigits(text);
-        QCOMPARE(text.constData(), original.constData());
     }
 };
 
