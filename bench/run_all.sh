@@ -16,7 +16,7 @@ if [ ! -f "$build/CMakeCache.txt" ]; then
         -DQORGENLIB_BUILD_TESTS=OFF >/dev/null
 fi
 cmake --build "$build" --target bench_validate bench_catalogue bench_invoke \
-    bench_qorgen_batch bench_check_numbers bench_records bench_keystrokes bench_sortarray bench_einvoice \
+    bench_qorgen_batch bench_check_numbers bench_records bench_keystrokes bench_sortarray bench_einvoice bench_iban \
     qorgen >/dev/null
 
 cxx=$(sed -n 's/^CMAKE_CXX_COMPILER:[A-Z]*=//p' "$build/CMakeCache.txt")
@@ -42,6 +42,7 @@ echo "== Calling by name (bench_invoke)"
 echo
 echo "== E-invoices as UBL (bench_einvoice)"
 "$build/bench/bench_einvoice"
+echo
 
 echo "== Fixed-field records (bench_records)"
 "$build/bench/bench_records"
@@ -58,3 +59,7 @@ echo
 echo "== Against python-stdnum (bench/compare_peer.sh)"
 "$source_dir/bench/compare_peer.sh" "$build" ||
     echo "skipped or failed: needs python3 and python3-stdnum (apt-get install python3-stdnum)"
+echo
+echo "== IBAN checks against python-stdnum (bench/compare_iban.py)"
+/usr/bin/python3 "$source_dir/bench/compare_iban.py" "$build" ||
+    echo "skipped or failed: needs python3-stdnum (apt-get install python3-stdnum)"
