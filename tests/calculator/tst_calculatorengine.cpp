@@ -1,4 +1,5 @@
 #include "calculator/calculatorengine.h"
+#include "calculator/scriptedcalculator.h"
 #include "lib/clsqorgenlib.h"
 #include "lib/frame/modgenlib.h"
 #include "platform/recordingplatform.h"
@@ -80,7 +81,7 @@ private slots:
         CalculatorEngine engine(
             { start, rate1, rate2, true, RegionalSettings::fromLocale(locale) });
         engine.setBeep([&beeps] { ++beeps; });
-        for (const QString &key : RecordingPlatform::calculatorKeys(keys))
+        for (const QString &key : ScriptedCalculator::calculatorKeys(keys))
             engine.press(key);
         QTEST(engine.view().display, "display");
         QTEST(engine.isClosed(), "closed");
@@ -184,7 +185,7 @@ private slots:
         engine.setBeep([] {});
         const QString keys = QStringLiteral("9x9,9/0,3+%-{BackSpace}{VAT1}{Euro}=");
         for (int i = 0; i < 20000; ++i)
-            engine.press(RecordingPlatform::calculatorKeys(keys).at(i % 15));
+            engine.press(ScriptedCalculator::calculatorKeys(keys).at(i % 15));
         QVERIFY(!engine.isClosed());
         QVERIFY(!engine.view().display.isEmpty());
     }
