@@ -53,7 +53,7 @@ double threadSeconds()
 
 // Wall time and the processor time of this thread: on a shared machine the
 // second tells what the code costs, the first what the machine gave it.
-struct Clock
+struct Stopwatch
 {
     std::chrono::steady_clock::time_point start = std::chrono::steady_clock::now();
     double cpuStart = threadSeconds();
@@ -64,7 +64,7 @@ struct Clock
     double cpu() const { return threadSeconds() - cpuStart; }
 };
 
-void report(const char *what, const Clock &clock, qint64 bytes)
+void report(const char *what, const Stopwatch &clock, qint64 bytes)
 {
     const double cpu = clock.cpu();
     const double wall = clock.wall();
@@ -90,7 +90,7 @@ int main()
     all.resize(0);
     std::vector<qsizetype> ends;
     ends.reserve(recordCount);
-    Clock writing;
+    Stopwatch writing;
     for (int i = 0; i < recordCount; ++i) {
         const QStringList &row = rows[size_t(i & 255)];
         writer.append(i % 999999 + 1, std::span(row.cbegin(), row.cend()), all);
@@ -102,7 +102,7 @@ int main()
     QList<QStringView> fields;
     fields.reserve(fieldCount);
     qint64 faults = 0;
-    Clock reading;
+    Stopwatch reading;
     qsizetype begin = 0;
     for (const qsizetype end : ends) {
         if (reader.read(QStringView(all).sliced(begin, end - begin), fields) != RecordFault::None)
@@ -117,7 +117,7 @@ int main()
         QFile file(path);
         file.open(QIODevice::WriteOnly);
         RecordFileWriter fileWriter(file, layout, rs);
-        Clock fileWriting;
+        Stopwatch fileWriting;
         for (int i = 0; i < recordCount; ++i)
             fileWriter.write(rows[size_t(i & 255)]);
         fileWriter.flush();
@@ -127,7 +127,7 @@ int main()
     QFile file(path);
     file.open(QIODevice::ReadOnly);
     RecordFileReader fileReader(file, layout, rs);
-    Clock fileReading;
+    Stopwatch fileReading;
     qint64 records = 0;
     for (auto s = fileReader.next(); s != RecordFileReader::Status::End; s = fileReader.next())
         s == RecordFileReader::Status::Record ? ++records : ++faults;
@@ -135,7 +135,7 @@ int main()
 
     file.seek(0);
     RecordFileReader decodingReader(file, layout, rs);
-    Clock decoding;
+    Stopwatch decoding;
     for (auto s = decodingReader.next(); s != RecordFileReader::Status::End;
          s = decodingReader.next()) {
         if (s == RecordFileReader::Status::Record)
@@ -149,14 +149,14 @@ int main()
         plain.open(QIODevice::WriteOnly);
         const QByteArray block(1 << 20, 'x');
         const qint64 total = QFileInfo(path).size();
-        Clock plainWriting;
+        Stopwatch plainWriting;
         for (qint64 done = 0; done < total; done += block.size())
             plain.write(block.constData(), qMin<qint64>(block.size(), total - done));
         plain.flush();
         report("plain file write (the disk)", plainWriting, total);
     }
 
-    Clock copying;
+    Stopwatch copying;
     QFile again(path);
     again.open(QIODevice::ReadOnly);
     qint64 copied = 0;

@@ -5,7 +5,7 @@
 #include "calculator/vatrates.h"
 #include "lib/frame/catalogue.h"
 #include "lib/frame/modgenlib.h"
-#include "platform/platform.h"
+#include "platform/dialogpresenter.h"
 #include "runtime/conversion.h"
 
 #include <QHash>
@@ -37,7 +37,7 @@ CalculatorEngine::CalculatorEngine(const Setup &setup)
     , m_register(m_start)
     , m_value(m_start)
     , m_digitTyped(setup.digitTyped)
-    , m_beep([] { platform().beep(); })
+    , m_beep([] { DialogPresenter::current().beep(); })
 {
     m_rates[0] = setup.rate1;
     m_rates[1] = setup.rate2;

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/calculatorsession.h"
+#include "calculator/calculatorsession.h"
 
 namespace qor {
 

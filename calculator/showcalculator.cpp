@@ -1,8 +1,9 @@
 #include "calculator/showcalculator.h"
 
 #include "calculator/calculatorengine.h"
+#include "calculator/calculatorpresenter.h"
 #include "lib/frame/modgenlib.h"
-#include "platform/platform.h"
+#include "platform/clock.h"
 
 #include <cmath>
 
@@ -19,9 +20,9 @@ double showCalculator(double value, qint32 rate1, qint32 rate2, qint32 offset)
     setup.rate1 = rate1;
     setup.rate2 = rate2;
     setup.digitTyped = modGenLib().calculatorFlag;
-    setup.regional = platform().regionalSettings();
+    setup.regional = Clock::current().regionalSettings();
     auto engine = std::make_shared<CalculatorEngine>(setup);
-    const CalculatorAnswer answer = platform().calculator({ start, engine });
+    const CalculatorAnswer answer = CalculatorPresenter::present(start, engine);
     ModGenLib &state = modGenLib();
     state.calculatorRegister = answer.cancelled ? start : answer.result;
     state.calculatorFlag = engine->digitTyped();

@@ -5,7 +5,9 @@ include(CMakePackageConfigHelpers)
 
 qor_public_headers(
   lib/clsqorgenlib.h lib/clsqoreinvoice.h lib/typelibrary.h lib/frame/qorenums.h lib/frame/windowsize.h
-  platform/platform.h platform/calculatorsession.h platform/coreplatform.h
+  platform/platform.h platform/clock.h platform/dialogpresenter.h platform/sound.h
+  platform/filesystem.h platform/processes.h platform/desktop.h platform/keyboard.h
+  platform/coreplatform.h calculator/calculatorsession.h calculator/calculatorpresenter.h
   platform/recordingplatform.h
   runtime/regionalsettings.h runtime/runtimeerror.h runtime/variant.h runtime/propertybag.h
   grid/gridcolumnwidths.h

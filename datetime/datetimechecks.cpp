@@ -8,7 +8,8 @@
 #include "lib/frame/catalogue.h"
 #include "lib/frame/messageboxlogic.h"
 #include "lib/frame/modgenlib.h"
-#include "platform/platform.h"
+#include "platform/clock.h"
+#include "platform/dialogpresenter.h"
 #include "runtime/blanks.h"
 #include "runtime/callbyname.h"
 #include "runtime/conversion.h"
@@ -46,7 +47,7 @@ void reportWrongTime(const QString &separator)
 
 QString systemTimeSeparator(const RegionalSettings &rs)
 {
-    return timeSeparatorOf(toText(platform().now().time(), rs));
+    return timeSeparatorOf(toText(Clock::current().now().time(), rs));
 }
 
 QDateTime asDate(const QDate &date)
@@ -57,7 +58,7 @@ QDateTime asDate(const QDate &date)
 // The quarter helpers read the text as a date or say it is none.
 std::optional<QDate> quarterDate(const QString &datum)
 {
-    const RegionalSettings rs = platform().regionalSettings();
+    const RegionalSettings rs = Clock::current().regionalSettings();
     if (!isDate(datum, rs))
         return std::nullopt;
     try {
@@ -110,8 +111,8 @@ void setCalendar(QObject *dText, const QString &holidays, const RegionalSettings
 QString controleerDatum(QString &dt, bool allowFuture, bool mbox, qint32 offset)
 {
     useLanguage(offset);
-    const RegionalSettings rs = platform().regionalSettings();
-    const DateEntry entry = readDateEntry(dt, allowFuture, platform().now().date(), rs);
+    const RegionalSettings rs = Clock::current().regionalSettings();
+    const DateEntry entry = readDateEntry(dt, allowFuture, Clock::current().now().date(), rs);
     if (mbox && entry.outcome == DateEntry::Invalid)
         reportWrongDate(rs, offset);
     if (mbox && entry.outcome == DateEntry::Future)
@@ -124,7 +125,7 @@ QString controleerUur(
     QString &uur, bool mbox, bool allowMoreThan24Hours, bool returnHHMM, qint32 offset)
 {
     useLanguage(offset);
-    const QString separator = systemTimeSeparator(platform().regionalSettings());
+    const QString separator = systemTimeSeparator(Clock::current().regionalSettings());
     bool refused = false;
     const QString result
         = readTimeEntry(uur, separator, { allowMoreThan24Hours, returnHHMM }, refused);
@@ -136,7 +137,7 @@ QString controleerUur(
 QString getTime(QString &uur, qint32 offset)
 {
     useLanguage(offset);
-    const RegionalSettings rs = platform().regionalSettings();
+    const RegionalSettings rs = Clock::current().regionalSettings();
     const QString hoursMinutes = QStringLiteral("HH:mm");
     QString result;
     try {
@@ -182,17 +183,17 @@ void setDText(
     QObject *dText, QString &countryCode, bool valueToDay, bool maxDateToDay, qint32 offset)
 {
     useLanguage(offset);
-    const RegionalSettings rs = platform().regionalSettings();
+    const RegionalSettings rs = Clock::current().regionalSettings();
     onControl([&] { setProperty(dText, "MinDate", QStringLiteral("1/1/1900"), rs); });
     const QString format = controlFormat(rs);
     onControl([&] { setProperty(dText, "Format", format, rs); });
     onControl([&] { setProperty(dText, "DisplayFormat", format, rs); });
     if (trimBlanks(countryCode).isEmpty())
         countryCode = QStringLiteral("BE");
-    const QDate today = platform().now().date();
+    const QDate today = Clock::current().now().date();
     const QString holidays = holidayText(countryCode, offset, today.year());
     if (holidayTableWantsFilling(countryCode, today.year()) && !getKlantPC())
-        platform().systemMessageBox(
+        DialogPresenter::current().systemMessageBox(
             { QStringLiteral("3 variabele Feestdagen invullen in OstGenLib SetDtext"), 0,
                 QString() });
     setCalendar(dText, holidays, rs);

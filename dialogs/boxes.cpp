@@ -4,7 +4,7 @@
 #include "lib/frame/dialogsound.h"
 #include "lib/frame/messageboxlogic.h"
 #include "lib/frame/modgenlib.h"
-#include "platform/platform.h"
+#include "platform/dialogpresenter.h"
 #include "runtime/blanks.h"
 
 namespace qor {
@@ -35,7 +35,7 @@ QString inputBoxE(const QString &prompt, const QString &title, const QString &de
     request.okCaption = QStringLiteral("OK");
     request.cancelCaption = loadCatalogueText(cancelCaption);
     request.firstShown = [] { playDialogSound(MessageBoxLogic::Question); };
-    const InputBoxEAnswer answer = platform().inputBoxE(request);
+    const InputBoxEAnswer answer = DialogPresenter::current().inputBoxE(request);
     const QString result = answer.cancelled ? inputBoxCancelled : trimBlanks(answer.text);
     modGenLib().inputBoxResult = result;
     return result;

@@ -2,6 +2,7 @@
 // regional settings; the display, the help card and the register read after
 // every key, and keys by name as the scripted calculator types them.
 #include "calculator/calculatorengine.h"
+#include "calculator/scriptedcalculator.h"
 #include "fuzz/fuzzinput.h"
 
 #include <cstring>
@@ -24,7 +25,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
     engine.setBeep([] {});
     constexpr int keyCount = int(qor::CalculatorEngine::Key::Conversion) + 1;
     if (byName) {
-        for (const QString &key : qor::RecordingPlatform::calculatorKeys(input.rest())) {
+        for (const QString &key : qor::ScriptedCalculator::calculatorKeys(input.rest())) {
             engine.press(key);
             engine.view();
         }

@@ -2,7 +2,7 @@
 
 #include "grid/gridpicture.h"
 #include "grid/hostcollection.h"
-#include "platform/platform.h"
+#include "platform/clock.h"
 #include "runtime/blanks.h"
 #include "runtime/callbyname.h"
 #include "runtime/conversion.h"
@@ -38,17 +38,17 @@ constexpr double ScrollBarRoom = 240;
 
 void set(QObject *object, const char *name, const QVariant &value)
 {
-    setProperty(object, name, value, platform().regionalSettings());
+    setProperty(object, name, value, Clock::current().regionalSettings());
 }
 
 double number(QObject *object, const char *name)
 {
-    return toDouble(getProperty(object, name), platform().regionalSettings());
+    return toDouble(getProperty(object, name), Clock::current().regionalSettings());
 }
 
 QString text(QObject *object, const char *name)
 {
-    return toText(getProperty(object, name), platform().regionalSettings());
+    return toText(getProperty(object, name), Clock::current().regionalSettings());
 }
 
 QObject *child(QObject *object, const char *name)
@@ -210,7 +210,7 @@ void setDBGridCol(QObject *grid, const GridColumnSpec &column, GridColumnWidths 
 void setDBGridIcon(
     QObject *grid, qint16 colIndex, const QString &forceState, const QString &orderColumn)
 {
-    const RegionalSettings rs = platform().regionalSettings();
+    const RegionalSettings rs = Clock::current().regionalSettings();
     for (QObject *column : hostcollection::elements(columnsOf(grid))) {
         const bool clicked = toLong(getProperty(column, "ColIndex"), rs) == colIndex;
         if (!clicked) {

@@ -1,6 +1,6 @@
 #include "grid/hostcollection.h"
 
-#include "platform/platform.h"
+#include "platform/clock.h"
 #include "runtime/callbyname.h"
 #include "runtime/conversion.h"
 #include "runtime/runtimeerror.h"
@@ -36,7 +36,7 @@ qint32 count(const QVariant &collection)
 {
     if (isArray(collection))
         return qint32(arrayOf(collection).size());
-    return toLong(getProperty(objectOf(collection), "Count"), platform().regionalSettings());
+    return toLong(getProperty(objectOf(collection), "Count"), Clock::current().regionalSettings());
 }
 
 QObject *item(const QVariant &collection, qint32 index)

@@ -2,7 +2,7 @@
 
 #include "grid/hostcollection.h"
 #include "lib/frame/qorenums.h"
-#include "platform/platform.h"
+#include "platform/clock.h"
 #include "runtime/callbyname.h"
 #include "runtime/conversion.h"
 #include "runtime/runtimeerror.h"
@@ -35,7 +35,7 @@ QVariant entry(const QVariantList &entries, qint32 i)
 // contributes nothing for it.
 QString fingerprint(QObject *form, const QString &separator)
 {
-    const RegionalSettings rs = platform().regionalSettings();
+    const RegionalSettings rs = Clock::current().regionalSettings();
     QString print;
     QList<QObject *> controls;
     try {
@@ -58,7 +58,7 @@ QString fingerprint(QObject *form, const QString &separator)
 
 bool setListIndex(QObject *listControl, qint32 itemData, const QString &text, qint32 notFound)
 {
-    const RegionalSettings rs = platform().regionalSettings();
+    const RegionalSettings rs = Clock::current().regionalSettings();
     const qint32 count = toLong(getProperty(listControl, "ListCount"), rs);
     if (count <= 0)
         return false;
@@ -80,7 +80,7 @@ bool setListIndex(QObject *listControl, qint32 itemData, const QString &text, qi
 
 bool dataChange(QObject *form, bool reset, const QString &separator)
 {
-    const RegionalSettings rs = platform().regionalSettings();
+    const RegionalSettings rs = Clock::current().regionalSettings();
     if (reset) {
         try {
             setProperty(form, "Tag", fingerprint(form, separator), rs);

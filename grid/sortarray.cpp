@@ -5,7 +5,7 @@
 #include "input/textfilters.h"
 #include "lib/frame/messageboxlogic.h"
 #include "lib/frame/modgenlib.h"
-#include "platform/platform.h"
+#include "platform/clock.h"
 #include "runtime/conversion.h"
 #include "runtime/runtimeerror.h"
 #include "runtime/variant.h"
@@ -303,7 +303,7 @@ void sortArray(QVariant &arrayName, int sortOrder, QVariant *refArrayName, qint3
         target.refOutput = QVariantList(refSource.size());
         target.publish();
     }
-    sortInto(target, sortOrder, source, refSource, platform().regionalSettings());
+    sortInto(target, sortOrder, source, refSource, Clock::current().regionalSettings());
 }
 
 } // namespace qor

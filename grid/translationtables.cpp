@@ -6,7 +6,7 @@
 #include "lib/frame/catalogue.h"
 #include "lib/frame/modgenlib.h"
 #include "lib/frame/qorenums.h"
-#include "platform/platform.h"
+#include "platform/clock.h"
 #include "runtime/callbyname.h"
 #include "runtime/runtimeerror.h"
 #include "runtime/variant.h"
@@ -115,7 +115,7 @@ QObject *valueItemsOf(QObject *column)
 
 void addItems(QObject *column, QObject *item, const TranslationTable &table)
 {
-    const RegionalSettings rs = platform().regionalSettings();
+    const RegionalSettings rs = Clock::current().regionalSettings();
     for (qsizetype i = 0; i < table.texts.size(); ++i) {
         setProperty(item, "DisplayValue", table.texts.at(i), rs);
         setProperty(item, "Value", table.values.at(i), rs);
@@ -158,7 +158,7 @@ void setDBGridTranslation(
     if (!table)
         throw RuntimeError::subscriptOutOfRange();
     addItems(column, item.get(), *table);
-    setProperty(valueItemsOf(column), "Translate", true, platform().regionalSettings());
+    setProperty(valueItemsOf(column), "Translate", true, Clock::current().regionalSettings());
 }
 
 } // namespace qor

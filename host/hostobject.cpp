@@ -1,6 +1,6 @@
 #include "host/hostobject.h"
 
-#include "platform/platform.h"
+#include "platform/clock.h"
 #include "runtime/callbyname.h"
 #include "runtime/runtimeerror.h"
 
@@ -127,7 +127,8 @@ void HostObject::assign(const QString &name, const QVariant &value)
         bagAssign(resolved.isEmpty() ? name : resolved, value);
         return;
     }
-    qor::setProperty(this, resolved.toLatin1().constData(), value, platform().regionalSettings());
+    qor::setProperty(
+        this, resolved.toLatin1().constData(), value, Clock::current().regionalSettings());
 }
 
 QString HostObject::elementClass(const QString &) const

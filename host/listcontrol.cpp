@@ -1,6 +1,6 @@
 #include "host/listcontrol.h"
 
-#include "platform/platform.h"
+#include "platform/clock.h"
 #include "runtime/conversion.h"
 #include "runtime/runtimeerror.h"
 
@@ -15,7 +15,7 @@ RuntimeError invalidPropertyValue()
 
 QString entryText(const QVariant &item)
 {
-    return toText(item, platform().regionalSettings());
+    return toText(item, Clock::current().regionalSettings());
 }
 
 } // namespace
@@ -56,7 +56,7 @@ void ListControl::setItemData(const QVariantList &numbers)
 {
     m_numbers.clear();
     for (const QVariant &number : numbers)
-        m_numbers.append(toLong(number, platform().regionalSettings()));
+        m_numbers.append(toLong(number, Clock::current().regionalSettings()));
     alignNumbers();
 }
 

@@ -8,7 +8,8 @@
 #include "lib/frame/catalogue.h"
 #include "lib/frame/messageboxlogic.h"
 #include "lib/frame/modgenlib.h"
-#include "platform/platform.h"
+#include "platform/clock.h"
+#include "platform/dialogpresenter.h"
 #include "runtime/blanks.h"
 #include "runtime/callbyname.h"
 #include "runtime/codepage.h"
@@ -124,7 +125,7 @@ QVariant insertResult(const Field &field, short &ka, bool negNumber, const QStri
 QVariant toggleSign(const Field &field, bool negNumber)
 {
     if (!negNumber) {
-        platform().beep();
+        DialogPresenter::current().beep();
         return integerVariant(0);
     }
     const QString text = field.text();
@@ -181,7 +182,7 @@ QVariant typedKey(const Field &field, short &ka, double decimals)
     if (isDigitCode(key))
         modGenLib().calculatorFlag = true;
     if (key == 0)
-        platform().beep();
+        DialogPresenter::current().beep();
     return integerVariant(ka);
 }
 
@@ -198,7 +199,7 @@ void applyRate(const Field &field, qint32 rate)
     if (!std::isfinite(result))
         throw RuntimeError::overflow();
     modGenLib().calculatorRegister = result;
-    platform().showNote({ vatNoteText(rate, field.rs), field.control });
+    DialogPresenter::current().showNote({ vatNoteText(rate, field.rs), field.control });
     modGenLib().calculatorFlag = false;
 }
 
@@ -210,7 +211,7 @@ QVariant keyGetal(QObject *textBox, short &ka, QVariant &nbrDecimals, bool negNu
     useLanguage(settings.offset);
     if (isMissing(nbrDecimals))
         nbrDecimals = longVariant(settings.nbrDec);
-    const RegionalSettings rs = platform().regionalSettings();
+    const RegionalSettings rs = Clock::current().regionalSettings();
     const Field field { textBox, flexgrid ? gridEditor : editControl, flexgrid, rs };
     switch (ka) {
     case KeyCode::Asterisk: openCalculator(field, settings); [[fallthrough]];
@@ -231,7 +232,7 @@ QVariant keyEuro(QObject *textBox, short &ka, QVariant &eurDecimals, bool negNum
     const AmountKeySettings &settings)
 {
     useLanguage(settings.offset);
-    const RegionalSettings rs = platform().regionalSettings();
+    const RegionalSettings rs = Clock::current().regionalSettings();
     if (isMissing(eurDecimals) || isEmpty(eurDecimals) || !isNumeric(eurDecimals, rs))
         eurDecimals = integerVariant(2);
     const double decimals = toDouble(eurDecimals, rs);
@@ -241,7 +242,7 @@ QVariant keyEuro(QObject *textBox, short &ka, QVariant &eurDecimals, bool negNum
     switch (ka) {
     case KeyCode::Percent:
         if (!modGenLib().calculatorFlag) {
-            platform().beep();
+            DialogPresenter::current().beep();
             return integerVariant(0);
         }
         if (settings.btwTar2 == 0)

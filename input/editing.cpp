@@ -1,6 +1,7 @@
 #include "input/editing.h"
 
-#include "platform/platform.h"
+#include "platform/clock.h"
+#include "platform/keyboard.h"
 #include "runtime/callbyname.h"
 #include "runtime/runtimeerror.h"
 
@@ -12,7 +13,7 @@ void selEdit(QObject *control, bool startAtEnd, bool gridEditor)
     const char *startName = gridEditor ? "EditSelStart" : "SelStart";
     const char *lengthName = gridEditor ? "EditSelLength" : "SelLength";
     const int length = int(getProperty(control, textName).toString().size());
-    const RegionalSettings rs = platform().regionalSettings();
+    const RegionalSettings rs = Clock::current().regionalSettings();
     setProperty(control, startName, startAtEnd ? length : 0, rs);
     setProperty(control, lengthName, startAtEnd ? 0 : length, rs);
 }
@@ -22,11 +23,11 @@ void sendAKey(int keyAscii)
     // The character goes through single-byte calls: codes outside 0..255 are not characters.
     if (keyAscii < 0 || keyAscii > 255)
         throw RuntimeError::invalidProcedureCall();
-    Platform &machine = platform();
-    const int virtualKey = machine.virtualKeyOf(keyAscii) & 0xFF;
-    const int scanCode = machine.scanCodeOf(keyAscii) & 0xFF;
-    machine.keyEvent(virtualKey, scanCode, 0);
-    machine.keyEvent(virtualKey, scanCode, 2);
+    Keyboard &keyboard = Keyboard::current();
+    const int virtualKey = keyboard.virtualKeyOf(keyAscii) & 0xFF;
+    const int scanCode = keyboard.scanCodeOf(keyAscii) & 0xFF;
+    keyboard.keyEvent(virtualKey, scanCode, 0);
+    keyboard.keyEvent(virtualKey, scanCode, 2);
 }
 
 } // namespace qor

@@ -1,7 +1,8 @@
 #include "input/keypress.h"
 
 #include "input/keycodes.h"
-#include "platform/platform.h"
+#include "platform/clock.h"
+#include "platform/dialogpresenter.h"
 #include "runtime/codepage.h"
 #include "runtime/conversion.h"
 #include "runtime/dates.h"
@@ -56,7 +57,7 @@ QString timeSeparator(const RegionalSettings &rs)
 
 QVariant refused()
 {
-    platform().beep();
+    DialogPresenter::current().beep();
     return integerVariant(0);
 }
 

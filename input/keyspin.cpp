@@ -1,7 +1,8 @@
 #include "input/keyspin.h"
 
 #include "input/amounts.h"
-#include "platform/platform.h"
+#include "platform/clock.h"
+#include "platform/dialogpresenter.h"
 #include "runtime/callbyname.h"
 #include "runtime/conversion.h"
 #include "runtime/dates.h"
@@ -52,7 +53,7 @@ std::optional<QDateTime> steppedDate(const QDateTime &field, int direction, QVar
 {
     if (direction == arrowUp) {
         if (isMissing(maxValue))
-            maxValue = dateValue(platform().now().date());
+            maxValue = dateValue(Clock::current().now().date());
         if (!isDate(maxValue, rs))
             maxValue = dateValue(QDate(2100, 1, 1));
         if (field.date().daysTo(toDate(maxValue, rs).date()) > 0)
@@ -90,10 +91,10 @@ bool keySpin(int direction, QObject *txtBox, QVariant &maxValue, QVariant &minVa
 {
     if (direction != arrowUp && direction != arrowDown)
         return false;
-    const RegionalSettings rs = platform().regionalSettings();
+    const RegionalSettings rs = Clock::current().regionalSettings();
     const QString text = getProperty(txtBox, "Text").toString();
     if (isBlank(text)) {
-        platform().beep();
+        DialogPresenter::current().beep();
         return false;
     }
     if (!getProperty(txtBox, "Enabled").toBool())
@@ -107,7 +108,7 @@ bool keySpin(int direction, QObject *txtBox, QVariant &maxValue, QVariant &minVa
         stepped = numberText(*number == 0 ? 0.0 : *number, rs);
     }
     if (stepped.isNull()) {
-        platform().beep();
+        DialogPresenter::current().beep();
         return false;
     }
     setProperty(txtBox, "Text", stepped, rs);

@@ -2,7 +2,8 @@
 
 #include "lib/frame/catalogue.h"
 #include "lib/frame/modgenlib.h"
-#include "platform/platform.h"
+#include "platform/clock.h"
+#include "platform/dialogpresenter.h"
 #include "runtime/callbyname.h"
 #include "runtime/codepage.h"
 
@@ -24,9 +25,9 @@ const QString cancelCode = QStringLiteral("%[ANN]");
 void report(bool mbox, const QString &prompt, int style, const QString &title)
 {
     if (mbox)
-        platform().systemMessageBox({ prompt, style, title });
+        DialogPresenter::current().systemMessageBox({ prompt, style, title });
     else
-        platform().beep();
+        DialogPresenter::current().beep();
 }
 
 bool isControlCode(const QString &scan)
@@ -91,7 +92,7 @@ qint16 scanBM(QObject *textBox, qint16 keyAscii, QString &scanFormat, bool retur
     useLanguage(offset);
     QString &buffer = modGenLib().scannerBuffer;
     if (scanFormat.isEmpty() && returnFieldOnly) {
-        platform().systemMessageBox(
+        DialogPresenter::current().systemMessageBox(
             { QStringLiteral("To Return Field Only, you must fill in ScanFormat in procedure "
                              "HoldScanBM"),
                 criticalIcon, QStringLiteral("OstGenLib") });
@@ -117,7 +118,7 @@ qint16 scanBM(QObject *textBox, qint16 keyAscii, QString &scanFormat, bool retur
     case ScanKey::Enter: {
         const QString scanned = buffer;
         buffer.clear();
-        setProperty(textBox, "Text", scanned, platform().regionalSettings());
+        setProperty(textBox, "Text", scanned, Clock::current().regionalSettings());
         return ScanKey::Enter;
     }
     default: buffer += QString(chr(keyAscii)).toUpper();
@@ -155,9 +156,9 @@ qint16 scanBM(QObject *textBox, qint16 keyAscii, QString &scanFormat, bool retur
     const QString scan = buffer;
     buffer.clear();
     const QString value = scannedValue(scan, format, returnFieldOnly);
-    setProperty(textBox, "Text", value, platform().regionalSettings());
+    setProperty(textBox, "Text", value, Clock::current().regionalSettings());
     if (!isControlCode(scan))
-        setProperty(textBox, "SelStart", qint32(value.size()), platform().regionalSettings());
+        setProperty(textBox, "SelStart", qint32(value.size()), Clock::current().regionalSettings());
     return 0;
 }
 

@@ -1,6 +1,7 @@
 #include "interchange/recordfilereader.h"
 
-#include "platform/platform.h"
+#include "platform/clock.h"
+#include "platform/filesystem.h"
 #include "runtime/codepage.h"
 
 #include <cstring>
@@ -148,7 +149,8 @@ RecordFileReader::Summary RecordFileReader::readFile(const QString &path,
     const std::function<void(const RecordFileFault &fault)> &onFault)
 {
     Summary summary;
-    const std::unique_ptr<QIODevice> file = platform().openFile(path, QIODevice::ReadOnly);
+    const std::unique_ptr<QIODevice> file
+        = FileSystem::current().openFile(path, QIODevice::ReadOnly);
     if (!file)
         return summary;
     summary.opened = true;

@@ -1,6 +1,7 @@
 #include "interchange/recordfilewriter.h"
 
-#include "platform/platform.h"
+#include "platform/clock.h"
+#include "platform/filesystem.h"
 #include "runtime/codepage.h"
 
 #include <cstring>
@@ -152,7 +153,7 @@ bool RecordFileWriter::writeFile(const QString &path, const RecordLayout &layout
         return false;
     };
     const std::unique_ptr<QIODevice> file
-        = platform().openFile(path, QIODevice::WriteOnly | QIODevice::Truncate);
+        = FileSystem::current().openFile(path, QIODevice::WriteOnly | QIODevice::Truncate);
     if (!file)
         return fail(QStringLiteral("cannot open %1 for writing").arg(path));
     RecordFileWriter writer(*file, layout, rs);

@@ -7,6 +7,7 @@
 #include "lib/frame/catalogue.h"
 #include "lib/frame/messageboxlogic.h"
 #include "lib/frame/modgenlib.h"
+#include "platform/clock.h"
 #include "runtime/conversion.h"
 #include "runtime/variant.h"
 
@@ -91,7 +92,7 @@ QVariant getExportData(qint32 lineNumber, const QStringList &data, const QVarian
     const QString &paragraphBreak, qint32 offset)
 {
     useLanguage(offset);
-    const RegionalSettings rs = platform().regionalSettings();
+    const RegionalSettings rs = Clock::current().regionalSettings();
     if (!isArray(arrFieldLength))
         return exportFault(loadCatalogueText(ExportWidthsNoArray));
     const qsizetype widthsBound = upperBound(arrFieldLength);
@@ -120,7 +121,7 @@ QVariant getImportData(const QString &inputRecord, const QVariant &arrFieldLengt
     bool lineNumberIncluded, bool checkSumIncluded, qint32 offset)
 {
     useLanguage(offset);
-    const RegionalSettings rs = platform().regionalSettings();
+    const RegionalSettings rs = Clock::current().regionalSettings();
     if (!isArray(arrFieldLength))
         return importFault(loadCatalogueText(ImportWidthsNoArray), delimiterFault);
     RecordLayout layout;

@@ -12,7 +12,7 @@
 #include "runtime/dates.h"
 #include "runtime/runtimeerror.h"
 
-#include "platform/platform.h"
+#include "platform/filesystem.h"
 
 #include <QFile>
 #include <QJsonDocument>
@@ -311,7 +311,7 @@ bool clsqorEInvoice::SaveUBL(const QString &FileName)
     if (!checkRules(invoice, m_Offset).isEmpty())
         return false;
     // Through the platform's door, which writes a whole file or none.
-    if (!platform().writeFile(FileName, writeUbl(invoice)))
+    if (!FileSystem::current().writeFile(FileName, writeUbl(invoice)))
         throw RuntimeError(pathFileAccessError, QStringLiteral("Path/File access error"));
     return true;
 }

@@ -1,35 +1,35 @@
 #include "lib/clsqorgenlib.h"
 
-#include "dialogs/boxes.h"
-#include "dialogs/sound.h"
-#include "input/scanbm.h"
 #include "calculator/showcalculator.h"
 #include "calculator/vatrates.h"
-#include "input/amountkeys.h"
+#include "datetime/datetimechecks.h"
+#include "dialogs/boxes.h"
+#include "dialogs/sound.h"
 #include "grid/gridsetup.h"
 #include "grid/listselection.h"
 #include "grid/sortarray.h"
 #include "grid/translationtables.h"
-#include "datetime/datetimechecks.h"
+#include "input/amountkeys.h"
 #include "input/amounts.h"
+#include "input/editing.h"
 #include "input/keypress.h"
 #include "input/keyspin.h"
-#include "input/editing.h"
+#include "input/scanbm.h"
 #include "input/textfilters.h"
 #include "interchange/recordmethods.h"
 #include "lib/frame/catalogue.h"
-#include "lib/latebinding.h"
 #include "lib/frame/modgenlib.h"
-#include "lib/typelibrary.h"
+#include "lib/frame/paths.h"
 #include "lib/frame/windowsize.h"
+#include "lib/latebinding.h"
+#include "lib/typelibrary.h"
 #include "payments/epcpayload.h"
 #include "payments/paymentmethods.h"
 #include "payments/qrcode.h"
-#include "platform/platform.h"
+#include "platform/clock.h"
 #include "runtime/conversion.h"
 #include "runtime/variant.h"
 #include "system/desktop.h"
-#include "lib/frame/paths.h"
 #include "system/processes.h"
 #include "system/screenhelpers.h"
 #include "system/settingsfile.h"
@@ -43,7 +43,7 @@ namespace {
 
 RegionalSettings regional()
 {
-    return platform().regionalSettings();
+    return Clock::current().regionalSettings();
 }
 
 } // namespace
@@ -302,7 +302,8 @@ QDateTime clsqorGenLib::GetQuarterEnd(QString &Datum)
     return getQuarterEnd(Datum, m_Offset);
 }
 
-void clsqorGenLib::SetDText(QObject *DText, QString &CountryCode, bool ValueToDay, bool MaxDateToDay)
+void clsqorGenLib::SetDText(
+    QObject *DText, QString &CountryCode, bool ValueToDay, bool MaxDateToDay)
 {
     setDText(DText, CountryCode, ValueToDay, MaxDateToDay, m_Offset);
 }
@@ -324,7 +325,8 @@ QVariant clsqorGenLib::GetExportData(qint32 &LineNumber, QStringList &Data,
         isLeftOut(arrFormat) ? nullptr : &arrFormat, AddChecksum, Separator, m_vbCr2, m_Offset);
 }
 
-QVariant clsqorGenLib::GetExportData(qint32 &LineNumber, QStringList &Data, QVariant &arrFieldLength)
+QVariant clsqorGenLib::GetExportData(
+    qint32 &LineNumber, QStringList &Data, QVariant &arrFieldLength)
 {
     QVariant noFormats;
     return GetExportData(LineNumber, Data, arrFieldLength, noFormats);
@@ -333,7 +335,8 @@ QVariant clsqorGenLib::GetExportData(qint32 &LineNumber, QStringList &Data, QVar
 QVariant clsqorGenLib::GetImportData(const QString &InputRecord, QVariant &arrFieldLength,
     bool LineNumberIncluded, bool CheckSumIncluded)
 {
-    return getImportData(InputRecord, arrFieldLength, LineNumberIncluded, CheckSumIncluded, m_Offset);
+    return getImportData(
+        InputRecord, arrFieldLength, LineNumberIncluded, CheckSumIncluded, m_Offset);
 }
 
 // End of fixed-field records
@@ -367,7 +370,8 @@ QVariant clsqorGenLib::KeyGetal(QObject *TextBox, short &KA, QVariant &NbrDecima
 
 QVariant clsqorGenLib::KeyEuro(QObject *TextBox, short &KA, QVariant &EurDecimals, bool &NegNumber)
 {
-    return keyEuro(TextBox, KA, EurDecimals, NegNumber, { m_NbrDec, m_BtwTar1, m_BtwTar2, m_Offset });
+    return keyEuro(
+        TextBox, KA, EurDecimals, NegNumber, { m_NbrDec, m_BtwTar1, m_BtwTar2, m_Offset });
 }
 
 QVariant clsqorGenLib::KeyEuro(QObject *TextBox, short &KA)

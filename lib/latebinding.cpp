@@ -1,6 +1,6 @@
 #include "lib/latebinding.h"
 
-#include "platform/platform.h"
+#include "platform/clock.h"
 #include "runtime/coercion.h"
 #include "runtime/runtimeerror.h"
 #include "runtime/variant.h"
@@ -23,7 +23,7 @@ public:
     const RegionalSettings &get()
     {
         if (!m_settings)
-            m_settings = platform().regionalSettings();
+            m_settings = Clock::current().regionalSettings();
         return *m_settings;
     }
 
@@ -143,7 +143,8 @@ QVariant LateBinding::accessProperty(const PropertyInfo &property, QVariantList 
         return unwrap(meta.read(m_object));
     if (args.size() > 1)
         throw RuntimeError::wrongArgumentCount();
-    const QVariant value = coerceTo(args.first(), meta.metaType(), platform().regionalSettings());
+    const QVariant value
+        = coerceTo(args.first(), meta.metaType(), Clock::current().regionalSettings());
     meta.write(m_object, value);
     return QVariant();
 }

@@ -1,6 +1,6 @@
 #include "payments/qrcode.h"
 
-#include "platform/platform.h"
+#include "platform/filesystem.h"
 
 #include <QtEndian>
 
@@ -132,7 +132,7 @@ bool saveQrCode(const QString &payload, const QString &file, int moduleSize)
     const QrMatrix code = encodeQrCode(payload);
     if (code.isEmpty())
         return false;
-    return platform().writeFile(
+    return FileSystem::current().writeFile(
         file, png ? qrCodePng(code, moduleSize) : qrCodeSvg(code, moduleSize));
 }
 

@@ -7,12 +7,12 @@
 #include <QCoreApplication>
 #include <QDir>
 #include <QFile>
-#include <QSaveFile>
 #include <QFileInfo>
 #include <QLocale>
 #include <QMutex>
 #include <QProcess>
 #include <QRegularExpression>
+#include <QSaveFile>
 #include <QStandardPaths>
 
 #include <cerrno>
@@ -80,11 +80,6 @@ InputBoxEAnswer CorePlatform::inputBoxE(const InputBoxERequest &request)
     if (request.firstShown)
         request.firstShown();
     return { false, request.defaultValue };
-}
-
-CalculatorAnswer CorePlatform::calculator(const CalculatorRequest &request)
-{
-    return { false, request.start };
 }
 
 void CorePlatform::showNote(const NoteRequest &) { }

@@ -27,7 +27,6 @@ public:
     int messageBoxE(const MessageBoxERequest &request) override;
     int systemMessageBox(const SystemMessageBoxRequest &request) override;
     InputBoxEAnswer inputBoxE(const InputBoxERequest &request) override;
-    CalculatorAnswer calculator(const CalculatorRequest &request) override;
     void showNote(const NoteRequest &note) override;
     void beep() override;
     void processEvents() override;

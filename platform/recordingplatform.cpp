@@ -2,15 +2,15 @@
 
 namespace qor {
 
-namespace {
+RecordingPlatform::RecordingPlatform() = default;
 
-bool isCancel(const QVariant &answer)
+bool RecordingPlatform::isCancel(const QVariant &answer)
 {
     return answer.typeId() == QMetaType::QVariantMap
         && answer.toMap().value(QStringLiteral("cancel")).toBool();
 }
 
-bool isNumber(const QVariant &answer)
+bool RecordingPlatform::isNumber(const QVariant &answer)
 {
     switch (answer.typeId()) {
     case QMetaType::Int:
@@ -23,10 +23,6 @@ bool isNumber(const QVariant &answer)
     default: return false;
     }
 }
-
-} // namespace
-
-RecordingPlatform::RecordingPlatform() = default;
 
 void RecordingPlatform::setNow(const QDateTime &now)
 {
@@ -154,69 +150,6 @@ InputBoxEAnswer RecordingPlatform::inputBoxE(const InputBoxERequest &request)
     setAnswer(at,
         answer.cancelled ? QVariant(QVariantMap { { QStringLiteral("cancel"), true } })
                          : QVariant(answer.text));
-    return answer;
-}
-
-// The keys of a scripted text: one character each, or a name in braces.
-QStringList RecordingPlatform::calculatorKeys(const QString &text)
-{
-    QStringList keys;
-    for (qsizetype i = 0; i < text.size(); ++i) {
-        const qsizetype close
-            = text.at(i) == QLatin1Char('{') ? text.indexOf(QLatin1Char('}'), i) : -1;
-        if (close > i + 1) {
-            keys.append(text.mid(i + 1, close - i - 1));
-            i = close;
-        } else {
-            keys.append(text.at(i));
-        }
-    }
-    return keys;
-}
-
-void RecordingPlatform::typeIntoCalculator(CalculatorSession &session, const QString &text)
-{
-    bool helpShown = false;
-    for (const QString &key : calculatorKeys(text)) {
-        if (session.view().closed)
-            return;
-        // The help card takes the next key for itself and closes.
-        if (helpShown) {
-            helpShown = false;
-            continue;
-        }
-        if (key.compare(QLatin1String("Help"), Qt::CaseInsensitive) == 0) {
-            const CalculatorHelpCard card = session.helpCard();
-            record({ { QStringLiteral("kind"), QStringLiteral("CalculatorHelp") },
-                { QStringLiteral("title"), card.title },
-                { QStringLiteral("lines"), card.lines() } });
-            helpShown = true;
-            continue;
-        }
-        session.press(key);
-    }
-    if (!session.view().closed)
-        session.press(QStringLiteral("Esc"));
-}
-
-CalculatorAnswer RecordingPlatform::calculator(const CalculatorRequest &request)
-{
-    CalculatorAnswer answer { false, request.start };
-    const auto scripted = takeAnswer();
-    const QVariantMap map = scripted ? scripted->toMap() : QVariantMap();
-    if (scripted && isCancel(*scripted)) {
-        answer.cancelled = true;
-    } else if (scripted && isNumber(*scripted)) {
-        answer.result = scripted->toDouble();
-    } else if (request.session && map.contains(QStringLiteral("keys"))) {
-        typeIntoCalculator(*request.session, map.value(QStringLiteral("keys")).toString());
-        answer.result = request.session->resultRegister();
-    }
-    record({ { QStringLiteral("kind"), QStringLiteral("Calculator") },
-        { QStringLiteral("start"), request.start },
-        { QStringLiteral("answer"),
-            answer.cancelled ? QVariant(QVariantMap { { QStringLiteral("cancel"), true } })
-                             : QVariant(answer.result) } });
     return answer;
 }
 

@@ -20,10 +20,8 @@ namespace qor {
 ///   no answer;
 /// - input box: a string typed into the field before OK, or {"cancel": true};
 ///   default OK on the default value;
-/// - calculator: a number left in its result register, {"keys": text} typed
-///   into it (one character a key, named keys in braces: "12+3{Enter}{Enter}";
-///   "{Help}" shows the help card, which takes the next key), or
-///   {"cancel": true}; default closed at once with the register unchanged.
+/// - calculator: the calculator's scripted presenter takes its answer from
+///   the same script (calculator/scriptedcalculator.h).
 class QORGENLIB_EXPORT RecordingPlatform : public CorePlatform
 {
 public:
@@ -52,7 +50,6 @@ public:
     int messageBoxE(const MessageBoxERequest &request) override;
     int systemMessageBox(const SystemMessageBoxRequest &request) override;
     InputBoxEAnswer inputBoxE(const InputBoxERequest &request) override;
-    CalculatorAnswer calculator(const CalculatorRequest &request) override;
     void showNote(const NoteRequest &note) override;
     void beep() override;
     void processEvents() override;
@@ -65,14 +62,16 @@ public:
     void setMousePointer(int pointer) override;
     void keyEvent(int virtualKey, int scanCode, int flags) override;
 
-    /// The keys of a scripted calculator text, in order.
-    static QStringList calculatorKeys(const QString &text);
+    /// The next scripted answer, taken from the script; nothing when it is spent.
+    std::optional<QVariant> takeAnswer();
+    /// Records what the user saw or heard.
+    void record(const QVariantMap &event) { m_shown.append(event); }
+    /// A scripted answer that cancels ({"cancel": true}), or that is a number.
+    static bool isCancel(const QVariant &answer);
+    static bool isNumber(const QVariant &answer);
 
 private:
-    std::optional<QVariant> takeAnswer();
-    void typeIntoCalculator(CalculatorSession &session, const QString &text);
     int messageBoxEAnswer(const MessageBoxERequest &request);
-    void record(const QVariantMap &event) { m_shown.append(event); }
     void setAnswer(qsizetype at, const QVariant &answer);
 
     QDateTime m_now;

@@ -1,6 +1,6 @@
 #include "python/belgiannumbers.h"
 
-#include "platform/platform.h"
+#include "platform/clock.h"
 #include "validate/checktext.h"
 #include "validate/nationalnumber.h"
 #include "validate/paymentreference.h"
@@ -72,7 +72,7 @@ bool hasCheckBefore2000(const QString &compacted)
 bool bornInAPastYear(const QString &compacted)
 {
     const qint64 year = 2000 + digitsNumber(leftPart(compacted, 2));
-    return year <= platform().now().date().year();
+    return year <= Clock::current().now().date().year();
 }
 
 Fault checkNationalNumber(const QString &compacted)

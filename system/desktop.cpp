@@ -2,7 +2,8 @@
 
 #include "lib/frame/messageboxlogic.h"
 #include "lib/frame/modgenlib.h"
-#include "platform/platform.h"
+#include "platform/clock.h"
+#include "platform/dialogpresenter.h"
 #include "runtime/callbyname.h"
 #include "runtime/conversion.h"
 #include "runtime/runtimeerror.h"
@@ -19,7 +20,7 @@ constexpr int shapeCount = 8;
 
 RegionalSettings regional()
 {
-    return platform().regionalSettings();
+    return Clock::current().regionalSettings();
 }
 
 void set(QObject *object, const char *name, const QVariant &value)
@@ -79,7 +80,7 @@ void checkDesign(QObject *form)
     };
     for (const DesignSetting &setting : settings) {
         if (differs(form, setting))
-            platform().systemMessageBox(
+            DialogPresenter::current().systemMessageBox(
                 { QString::fromLatin1(setting.message), MessageBoxStyle::OK, QString() });
     }
 }
@@ -110,7 +111,7 @@ void dressMonthView(QObject *monthView, double titleColour)
     set(monthView, "TitleBackColor", titleColour);
     set(monthView, "TrailingForeColor", buttonFace);
     set(monthView, "ShowWeekNumbers", true);
-    set(monthView, "Value", platform().now().date());
+    set(monthView, "Value", Clock::current().now().date());
     set(monthView, "Visible", true);
 }
 

@@ -2,7 +2,9 @@
 
 #include "lib/frame/messageboxlogic.h"
 #include "lib/frame/paths.h"
-#include "platform/platform.h"
+#include "platform/dialogpresenter.h"
+#include "platform/filesystem.h"
+#include "platform/processes.h"
 #include "runtime/runtimeerror.h"
 
 namespace qor {
@@ -13,7 +15,7 @@ void reportStartFailure(const QString &commandLine, int number)
 {
     const QString prompt = QStringLiteral("Error starting task ") + commandLine
         + QStringLiteral("\r\n") + RuntimeError::classicDescription(number);
-    platform().systemMessageBox(
+    DialogPresenter::current().systemMessageBox(
         { prompt, MessageBoxStyle::Exclamation | MessageBoxStyle::OK, QStringLiteral("Error") });
 }
 
@@ -28,13 +30,13 @@ qint32 shellAndWait(const QString &commandLine, qint32 windowStyle)
         reportStartFailure(commandLine, RuntimeError::InvalidProcedureCall);
         return RuntimeError::InvalidProcedureCall;
     }
-    const qint64 process = platform().startProcess(commandLine, windowStyle);
+    const qint64 process = Processes::current().startProcess(commandLine, windowStyle);
     if (process < 0) {
         const int number = int(-process);
         reportStartFailure(commandLine, number);
         return number;
     }
-    platform().waitForProcess(process);
+    Processes::current().waitForProcess(process);
     return 0;
 }
 
@@ -52,8 +54,9 @@ QString getFileList(
     const QString directory = cut == 0 ? QStringLiteral("\\") : pattern.left(cut);
     pattern = pattern.mid(cut + 1);
     QString list;
-    for (const FileEntry &entry : platform().listFiles(directory, pattern)) {
-        const auto attributes = platform().fileAttributes(base + QLatin1Char('\\') + entry.name);
+    for (const FileEntry &entry : FileSystem::current().listFiles(directory, pattern)) {
+        const auto attributes
+            = FileSystem::current().fileAttributes(base + QLatin1Char('\\') + entry.name);
         if (!attributes || *attributes == 0)
             continue;
         if (!list.isEmpty())
@@ -65,7 +68,7 @@ QString getFileList(
 
 QString getSystemDir()
 {
-    QString folder = platform().systemDirectory().left(255);
+    QString folder = FileSystem::current().systemDirectory().left(255);
     if (folder.endsWith(QLatin1Char('\\')))
         folder.chop(1);
     return folder;
@@ -73,7 +76,7 @@ QString getSystemDir()
 
 void shutDownPC()
 {
-    platform().shutDown();
+    Processes::current().shutDown();
 }
 
 } // namespace qor

@@ -1,7 +1,9 @@
 #include "system/screenhelpers.h"
 
 #include "lib/frame/messageboxlogic.h"
-#include "platform/platform.h"
+#include "platform/clock.h"
+#include "platform/desktop.h"
+#include "platform/dialogpresenter.h"
 #include "runtime/callbyname.h"
 #include "runtime/conversion.h"
 #include "runtime/runtimeerror.h"
@@ -46,7 +48,7 @@ Edges workAreaIn(const Edges &desk, const Edges &bar)
 
 double numberProperty(QObject *object, const char *name)
 {
-    return toDouble(getProperty(object, name), platform().regionalSettings());
+    return toDouble(getProperty(object, name), Clock::current().regionalSettings());
 }
 
 QObject *parentOf(QObject *control)
@@ -72,7 +74,7 @@ constexpr int titleBarAndBorder = 330;
 
 qorGenLib::WindowSize getWorkArea()
 {
-    const ScreenInfo screen = platform().screen();
+    const ScreenInfo screen = Desktop::current().screen();
     const Edges desk = edgesOf(QRect(screen.origin, QSize(screen.width, screen.height)));
     const Edges bar = screen.taskbar ? edgesOf(*screen.taskbar) : Edges();
     const Edges area = workAreaIn(desk, bar);
@@ -90,7 +92,7 @@ qorGenLib::WindowSize getWorkArea()
 
 qint32 getMousePointerPos(const QString &xy, QObject *relativeObject)
 {
-    const ScreenInfo screen = platform().screen();
+    const ScreenInfo screen = Desktop::current().screen();
     const QString axis = xy.toUpper();
     qint32 result = 0;
     if (axis == QLatin1String("X")) {
@@ -110,15 +112,16 @@ qint32 getMousePointerPos(const QString &xy, QObject *relativeObject)
                 QObject *form = parentOf(relativeObject);
                 result = roundToLong(result - numberProperty(form, "Top"));
                 const QString caption
-                    = toText(getProperty(form, "Caption"), platform().regionalSettings());
+                    = toText(getProperty(form, "Caption"), Clock::current().regionalSettings());
                 if (!caption.isEmpty())
                     result = roundToLong(double(result) - titleBarAndBorder);
             }
         }
     } else {
-        platform().systemMessageBox({ QStringLiteral("Invalid XY-coordinate / GetMousePointerPos"),
-            MessageBoxStyle::Critical | MessageBoxStyle::OK,
-            QStringLiteral("qorSoft General DLL") });
+        DialogPresenter::current().systemMessageBox(
+            { QStringLiteral("Invalid XY-coordinate / GetMousePointerPos"),
+                MessageBoxStyle::Critical | MessageBoxStyle::OK,
+                QStringLiteral("qorSoft General DLL") });
     }
     return result;
 }
@@ -126,13 +129,13 @@ qint32 getMousePointerPos(const QString &xy, QObject *relativeObject)
 QVariant formOnTop(QObject *form)
 {
     if (form && form->isWidgetType()) {
-        platform().keepOnTop(form, 0);
+        Desktop::current().keepOnTop(form, 0);
         return QVariant();
     }
     const double handle = numberProperty(form, "hWnd");
     if (!std::isfinite(handle) || std::fabs(handle) > 9.0e15)
         throw RuntimeError::overflow();
-    platform().keepOnTop(form, qint64(handle));
+    Desktop::current().keepOnTop(form, qint64(handle));
     return QVariant();
 }
 

@@ -3,7 +3,8 @@
 #include "lib/frame/catalogue.h"
 #include "lib/frame/messageboxlogic.h"
 #include "lib/frame/modgenlib.h"
-#include "platform/platform.h"
+#include "platform/dialogpresenter.h"
+#include "platform/filesystem.h"
 #include "system/processes.h"
 #include "system/profilefile.h"
 #include "system/systemmessages.h"
@@ -23,7 +24,7 @@ void reportMissing(const QString &header, const QString &section, const QString 
     const QString prompt = QLatin1Char('[') + header + QStringLiteral("] - ") + section
         + QStringLiteral("= ?") + QString(2, QChar(13))
         + loadCatalogueText(catalogue::ParameterNotFound) + iniFile + QStringLiteral(" !");
-    platform().systemMessageBox({ prompt, MessageBoxStyle::Critical, QString() });
+    DialogPresenter::current().systemMessageBox({ prompt, MessageBoxStyle::Critical, QString() });
 }
 
 } // namespace
@@ -39,7 +40,7 @@ QString getIni(
     useLanguage(offset);
     useDefaultWhenEmpty(iniFile);
     QString result;
-    if (const auto contents = platform().readFile(iniFile))
+    if (const auto contents = FileSystem::current().readFile(iniFile))
         result = ProfileFile(*contents).value(header, section).value_or(QString());
     result.truncate(settingValueLength);
     if (result.isEmpty() && mbox)
@@ -50,9 +51,10 @@ QString getIni(
 void writeIni(const QString &header, const QString &section, const QString &value, QString &iniFile)
 {
     useDefaultWhenEmpty(iniFile);
-    platform().updateFile(iniFile, [&](const QByteArray &old) -> std::optional<QByteArray> {
-        return ProfileFile(old).withValue(header, section, value);
-    });
+    FileSystem::current().updateFile(
+        iniFile, [&](const QByteArray &old) -> std::optional<QByteArray> {
+            return ProfileFile(old).withValue(header, section, value);
+        });
 }
 
 } // namespace qor

@@ -3,7 +3,8 @@
 #include "lib/frame/catalogue.h"
 #include "lib/frame/messageboxlogic.h"
 #include "lib/frame/modgenlib.h"
-#include "platform/platform.h"
+#include "platform/clock.h"
+#include "platform/processes.h"
 #include "runtime/callbyname.h"
 #include "runtime/conversion.h"
 #include "runtime/runtimeerror.h"
@@ -30,7 +31,7 @@ QVariant applicationValue(QObject *application, const char *name)
 QString applicationText(QObject *application, const char *name)
 {
     try {
-        return toText(applicationValue(application, name), platform().regionalSettings());
+        return toText(applicationValue(application, name), Clock::current().regionalSettings());
     } catch (const RuntimeError &) {
         return QString();
     }
@@ -39,7 +40,7 @@ QString applicationText(QObject *application, const char *name)
 bool applicationFlag(QObject *application, const char *name)
 {
     try {
-        return toBoolean(applicationValue(application, name), platform().regionalSettings());
+        return toBoolean(applicationValue(application, name), Clock::current().regionalSettings());
     } catch (const RuntimeError &) {
         return false;
     }
@@ -79,7 +80,7 @@ bool startUp(QObject *application, bool otherDLL, bool multiUse, qint32 offset)
     const QString exeName = applicationText(application, "EXEName");
     const QString instanceName
         = exeName.trimmed().isEmpty() ? QCoreApplication::applicationName() : exeName.trimmed();
-    const bool anotherCopy = platform().registerInstance(instanceName);
+    const bool anotherCopy = Processes::current().registerInstance(instanceName);
     if (!multiUse && (anotherCopy || applicationFlag(application, "PrevInstance"))) {
         reportAlreadyOpen(applicationText(application, "ProductName"), exeName);
         return false;

@@ -1,6 +1,6 @@
 #include "system/stationflags.h"
 
-#include "platform/platform.h"
+#include "platform/clock.h"
 #include "runtime/conversion.h"
 #include "system/settingsfile.h"
 
@@ -45,7 +45,7 @@ void setDebug(
 
 QString getTimerCode()
 {
-    const QDateTime now = platform().now();
+    const QDateTime now = Clock::current().now();
     const int day = now.date().day();
     return twoDigits(day * now.date().month()) + twoDigits(now.time().hour() + day);
 }

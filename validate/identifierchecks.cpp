@@ -3,7 +3,7 @@
 #include "lib/frame/catalogue.h"
 #include "lib/frame/messageboxlogic.h"
 #include "lib/frame/modgenlib.h"
-#include "platform/platform.h"
+#include "platform/clock.h"
 #include "validate/bankaccount.h"
 #include "validate/identifiermessages.h"
 #include "validate/identitycard.h"
@@ -60,7 +60,7 @@ QString controleerNatNr(QString &natNr, bool mbox, const QString &landCode, qint
 QString controleerIdentNr(QString &identNr, bool mbox, qint32 offset)
 {
     useLanguage(offset);
-    const CheckResult check = checkIdentityCard(identNr, platform().regionalSettings());
+    const CheckResult check = checkIdentityCard(identNr, Clock::current().regionalSettings());
     // The identity-number box: answer 1 accepts the number as a foreign card.
     if (mbox && check.refused
         && showMessageBoxE(

@@ -1,6 +1,6 @@
 #include "calculator/qt/vatnoteform.h"
 
-#include "platform/platform.h"
+#include "platform/desktop.h"
 
 #include <QHBoxLayout>
 #include <QLabel>
@@ -39,7 +39,7 @@ VatNoteForm::VatNoteForm(const QString &text, QWidget *field)
     auto *layout = new QHBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(m_label);
-    const ScreenInfo screen = platform().screen();
+    const ScreenInfo screen = Desktop::current().screen();
     setFixedSize(m_label->sizeHint().width() + twipsToPixels(extraWidthTwips, screen),
         m_label->sizeHint().height() + 2);
     placeBeside(field, screen);

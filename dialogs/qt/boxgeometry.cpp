@@ -17,7 +17,7 @@ constexpr int buttonPadding = 24; // pixels beside a caption
 } // namespace
 
 BoxGeometry::BoxGeometry(const QWidget *textWidget)
-    : m_screen(platform().screen())
+    : m_screen(Desktop::current().screen())
     , m_font(textWidget->font())
 {
     m_screen.twipsPerPixelX = std::max(1, m_screen.twipsPerPixelX);

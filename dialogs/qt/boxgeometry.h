@@ -1,7 +1,7 @@
 #pragma once
 
 #include "dialogs/boxlayout.h"
-#include "platform/platform.h"
+#include "platform/desktop.h"
 
 #include <QFont>
 #include <QPixmap>

@@ -125,7 +125,7 @@ void frmInputBoxE::showEvent(QShowEvent *event)
 
 void frmInputBoxE::firstShown()
 {
-    platform().setMousePointer(0);
+    Desktop::current().setMousePointer(0);
     if (m_firstShown)
         m_firstShown();
 }

@@ -137,7 +137,7 @@ void frmMsgBoxE::firstShown()
 {
     m_scanner->clear();
     modGenLib().scannerBuffer.clear();
-    platform().setMousePointer(0);
+    Desktop::current().setMousePointer(0);
     if (m_request.firstShown)
         m_request.firstShown();
 }

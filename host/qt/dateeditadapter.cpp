@@ -1,7 +1,7 @@
 #include "host/qt/dateeditadapter.h"
 
 #include "host/qt/calendarwidgetadapter.h"
-#include "platform/platform.h"
+#include "platform/clock.h"
 #include "runtime/conversion.h"
 #include "runtime/runtimeerror.h"
 
@@ -19,7 +19,7 @@ QDateEdit *require(const QPointer<QDateEdit> &field)
 
 QDate dateOf(const QVariant &value)
 {
-    return toDate(value, platform().regionalSettings()).date();
+    return toDate(value, Clock::current().regionalSettings()).date();
 }
 
 QVariant dateValue(const QDate &date)
@@ -37,7 +37,7 @@ DateEditAdapter::DateEditAdapter(QDateEdit *field, QObject *parent)
         return;
     field->setCalendarPopup(true);
     // Month names in the user's language; the week titles come from the library.
-    field->setLocale(QLocale(platform().regionalSettings().localeName));
+    field->setLocale(QLocale(Clock::current().regionalSettings().localeName));
     m_calendar = new CalendarWidgetAdapter(field->calendarWidget(), this);
 }
 

@@ -3,7 +3,7 @@
 #include "host/qt/lineeditadapter.h"
 #include "input/keycodes.h"
 #include "lib/clsqorgenlib.h"
-#include "platform/platform.h"
+#include "platform/dialogpresenter.h"
 #include "runtime/codepage.h"
 #include "runtime/runtimeerror.h"
 #include "runtime/variant.h"
@@ -134,7 +134,7 @@ bool KeyFilterAdapter::eventFilter(QObject *watched, QEvent *event)
             return filterCharacter(key);
     } catch (const RuntimeError &) {
         // A host's handler would stop on the error; the key is lost, the field kept.
-        platform().beep();
+        DialogPresenter::current().beep();
         return true;
     }
     return false;

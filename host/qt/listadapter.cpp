@@ -1,6 +1,6 @@
 #include "host/qt/listadapter.h"
 
-#include "platform/platform.h"
+#include "platform/clock.h"
 #include "runtime/conversion.h"
 #include "runtime/runtimeerror.h"
 
@@ -28,7 +28,7 @@ QVariantList ListAdapter::itemData() const
 
 void ListAdapter::setItemData(const QVariantList &numbers)
 {
-    const RegionalSettings rs = platform().regionalSettings();
+    const RegionalSettings rs = Clock::current().regionalSettings();
     for (int i = 0; i < itemCount() && i < numbers.size(); ++i)
         setItemNumber(i, toLong(numbers.at(i), rs));
 }

@@ -1,6 +1,6 @@
 #include "host/qt/monthviewadapter.h"
 
-#include "platform/platform.h"
+#include "platform/clock.h"
 #include "runtime/conversion.h"
 
 #include <QTextCharFormat>
@@ -78,7 +78,7 @@ QVariant MonthViewAdapter::value() const
 
 void MonthViewAdapter::setValue(const QVariant &value)
 {
-    const QDate date = toDate(value, platform().regionalSettings()).date();
+    const QDate date = toDate(value, Clock::current().regionalSettings()).date();
     calendar()->setSelectedDate(date);
     calendar()->setCurrentPage(date.year(), date.month());
 }

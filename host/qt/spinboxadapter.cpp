@@ -1,6 +1,6 @@
 #include "host/qt/spinboxadapter.h"
 
-#include "platform/platform.h"
+#include "platform/clock.h"
 #include "runtime/conversion.h"
 #include "runtime/runtimeerror.h"
 
@@ -46,7 +46,7 @@ QVariant SpinBoxAdapter::value() const
 
 void SpinBoxAdapter::setValue(const QVariant &value)
 {
-    const RegionalSettings rs = platform().regionalSettings();
+    const RegionalSettings rs = Clock::current().regionalSettings();
     if (auto *whole = qobject_cast<QSpinBox *>(box()))
         whole->setValue(toLong(value, rs));
     else if (auto *fraction = qobject_cast<QDoubleSpinBox *>(box()))

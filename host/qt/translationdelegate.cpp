@@ -1,6 +1,6 @@
 #include "host/qt/translationdelegate.h"
 
-#include "platform/platform.h"
+#include "platform/clock.h"
 #include "runtime/conversion.h"
 #include "runtime/variant.h"
 
@@ -19,7 +19,7 @@ bool sameValue(const QVariant &cell, const QVariant &item)
         return missing(cell) && isNull(item);
     if (isArray(cell) || isObject(cell) || isArray(item) || isObject(item))
         return false;
-    const RegionalSettings rs = platform().regionalSettings();
+    const RegionalSettings rs = Clock::current().regionalSettings();
     if (isNumeric(cell, rs) && isNumeric(item, rs))
         return toDouble(cell, rs) == toDouble(item, rs);
     return toText(cell, rs) == toText(item, rs);
@@ -34,7 +34,7 @@ QString TranslationDelegate::displayText(const QVariant &value, const QLocale &l
             if (sameValue(value, item.value))
                 return missing(item.displayValue)
                     ? QString()
-                    : toText(item.displayValue, platform().regionalSettings());
+                    : toText(item.displayValue, Clock::current().regionalSettings());
         }
     }
     return QStyledItemDelegate::displayText(value, locale);

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/platform.h"
+#include "platform/desktop.h"
 #include "runtime/runtimeerror.h"
 
 #include <QColor>
@@ -22,19 +22,19 @@ inline int toPixels(double twips, double twipsPerPixel)
 }
 inline int toPixelsX(double twips)
 {
-    return toPixels(twips, platform().screen().twipsPerPixelX);
+    return toPixels(twips, Desktop::current().screen().twipsPerPixelX);
 }
 inline int toPixelsY(double twips)
 {
-    return toPixels(twips, platform().screen().twipsPerPixelY);
+    return toPixels(twips, Desktop::current().screen().twipsPerPixelY);
 }
 inline float fromPixelsX(int pixels)
 {
-    return float(pixels) * float(platform().screen().twipsPerPixelX);
+    return float(pixels) * float(Desktop::current().screen().twipsPerPixelX);
 }
 inline float fromPixelsY(int pixels)
 {
-    return float(pixels) * float(platform().screen().twipsPerPixelY);
+    return float(pixels) * float(Desktop::current().screen().twipsPerPixelY);
 }
 
 /// Colours: &HBBGGRR, or &H800000nn for a system colour of the palette.

@@ -4,7 +4,9 @@
 #include "lib/frame/klantpc.h"
 #include "lib/frame/modgenlib.h"
 #include "lib/frame/paths.h"
-#include "platform/platform.h"
+#include "platform/dialogpresenter.h"
+#include "platform/filesystem.h"
+#include "platform/sound.h"
 #include "runtime/callbyname.h"
 #include "runtime/runtimeerror.h"
 
@@ -32,8 +34,8 @@ QString applicationPath()
 void reportMissing(const QString &fullName)
 {
     const QString paragraph = QStringLiteral("\r\r");
-    platform().systemMessageBox({ QStringLiteral("Cannot Find Sound :") + paragraph + fullName
-            + paragraph + loadCatalogueText(helpDeskText),
+    DialogPresenter::current().systemMessageBox({ QStringLiteral("Cannot Find Sound :") + paragraph
+            + fullName + paragraph + loadCatalogueText(helpDeskText),
         criticalIcon, QStringLiteral("qorSoft General Library") });
 }
 
@@ -42,19 +44,19 @@ void reportMissing(const QString &fullName)
 void playSoundFile(QString &fileName, bool continuous, QString &soundDirectory)
 {
     if (fileName.isEmpty()) {
-        platform().stopSound();
+        Sound::current().stopSound();
         return;
     }
     if (!getKlantPC())
-        soundDirectory = platform().developmentSoundDirectory();
+        soundDirectory = Sound::current().developmentSoundDirectory();
     else if (soundDirectory.isEmpty())
         soundDirectory = pathRS(applicationPath()) + QStringLiteral("\\MultiMedia");
     fileName = pathRS(soundDirectory) + QLatin1Char('\\') + fileName;
-    if (!platform().fileExists(fileName)) {
+    if (!FileSystem::current().fileExists(fileName)) {
         reportMissing(fileName);
         return;
     }
-    platform().playSound(fileName, continuous);
+    Sound::current().playSound(fileName, continuous);
 }
 
 QString typeSoundFile(int type)

@@ -176,7 +176,8 @@ MessageBoxERequest prepare(const QString &prompt, int style, const QString &titl
 
 int showMessageBoxE(const QString &prompt, int style, const QString &title)
 {
-    const int result = platform().messageBoxE(MessageBoxLogic::prepare(prompt, style, title));
+    const int result
+        = DialogPresenter::current().messageBoxE(MessageBoxLogic::prepare(prompt, style, title));
     modGenLib().msgBoxResult = result;
     return result;
 }

@@ -1,11 +1,11 @@
 #include "platform/qt/qtplatform.h"
 
-#include "platform/keyboardlayout.h"
+#include "calculator/qt/calculatorform.h"
+#include "calculator/qt/vatnoteform.h"
 #include "dialogs/qt/frminputboxe.h"
 #include "dialogs/qt/frmmsgboxe.h"
 #include "dialogs/qt/soundplayer.h"
-#include "calculator/qt/calculatorform.h"
-#include "calculator/qt/vatnoteform.h"
+#include "platform/keyboardlayout.h"
 
 #include <QApplication>
 #include <QDBusConnection>
@@ -110,13 +110,14 @@ InputBoxEAnswer QtPlatform::inputBoxE(const InputBoxERequest &request)
     return dialog.answer();
 }
 
-CalculatorAnswer QtPlatform::calculator(const CalculatorRequest &request)
+CalculatorAnswer QtPlatform::presentCalculator(
+    double start, const std::shared_ptr<CalculatorSession> &session)
 {
-    if (!request.session)
-        return CorePlatform::calculator(request);
-    CalculatorForm form(request.session, QApplication::activeWindow());
+    if (!session)
+        return { false, start };
+    CalculatorForm form(session, QApplication::activeWindow());
     form.exec();
-    return { false, request.session->resultRegister() };
+    return { false, session->resultRegister() };
 }
 
 // The widget of a host control: the control itself, or the widget an adapter belongs to.

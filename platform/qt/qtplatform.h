@@ -2,6 +2,7 @@
 
 #include "qorgenlib_export.h"
 
+#include "calculator/calculatorpresenter.h"
 #include "platform/coreplatform.h"
 
 #include <memory>
@@ -12,7 +13,7 @@ namespace qor {
 /// system beep, wave sounds, the screen's size and resolution, the mouse
 /// pointer, and keys posted to the widget that has the focus. Needs a
 /// QApplication.
-class QORGENLIB_WIDGETS_EXPORT QtPlatform : public CorePlatform
+class QORGENLIB_WIDGETS_EXPORT QtPlatform : public CorePlatform, public CalculatorPresenter
 {
 public:
     QtPlatform();
@@ -23,8 +24,9 @@ public:
     InputBoxEAnswer inputBoxE(const InputBoxERequest &request) override;
     void beep() override;
     void processEvents() override;
-    /// The calculator and the VAT note (calculator/qt).
-    CalculatorAnswer calculator(const CalculatorRequest &request) override;
+    /// The calculator window and the VAT note (calculator/qt).
+    CalculatorAnswer presentCalculator(
+        double start, const std::shared_ptr<CalculatorSession> &session) override;
     void showNote(const NoteRequest &note) override;
     void playSound(const QString &file, bool continuous) override;
     void stopSound() override;

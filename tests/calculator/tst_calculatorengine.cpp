@@ -1,4 +1,5 @@
 #include "calculator/calculatorengine.h"
+#include "calculator/scriptedcalculator.h"
 #include "lib/clsqorgenlib.h"
 #include "lib/frame/modgenlib.h"
 #include "platform/recordingplatform.h"
@@ -80,7 +81,7 @@ private slots:
         CalculatorEngine engine(
             { start, rate1, rate2, true, RegionalSettings::fromLocale(locale) });
         engine.setBeep([&beeps] { ++beeps; });
-        for (const QString &key : RecordingPlatform::calculatorKeys(keys))
+        for (const QString &key : ScriptedCalculator::calculatorKeys(keys))
             engine.press(key);
         QTEST(engine.view().display, "display");
         QTEST(engine.isClosed(), "closed");

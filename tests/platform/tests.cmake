@@ -1,3 +1,4 @@
 qor_add_test(tst_recordingplatform ${dir}/tst_recordingplatform.cpp)
 qor_add_test(tst_qtplatform ${dir}/tst_qtplatform.cpp WIDGETS)
 qor_add_test(tst_screeninfo ${dir}/tst_screeninfo.cpp)
+qor_add_test(tst_platformroles ${dir}/tst_platformroles.cpp)

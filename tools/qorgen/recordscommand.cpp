@@ -2,7 +2,8 @@
 
 #include "interchange/recordfilereader.h"
 #include "interchange/recordfilewriter.h"
-#include "platform/platform.h"
+#include "platform/clock.h"
+#include "platform/filesystem.h"
 #include "runtime/conversion.h"
 #include "runtime/runtimeerror.h"
 #include "tools/qorgen/linereader.h"
@@ -146,7 +147,7 @@ std::unique_ptr<QIODevice> open(const QString &file, QIODevice::OpenMode mode, s
             return nullptr;
         return device;
     }
-    return platform().openFile(file, mode);
+    return FileSystem::current().openFile(file, mode);
 }
 
 // One JSON array of strings (numbers taken as their JSON text) per line.
@@ -241,7 +242,7 @@ int RecordsCommand::run(const QStringList &arguments, std::FILE *in, std::FILE *
     try {
         const Options options = parse(arguments);
         const RegionalSettings rs
-            = options.settings ? *options.settings : platform().regionalSettings();
+            = options.settings ? *options.settings : Clock::current().regionalSettings();
         const int status = options.direction == QLatin1String("write")
             ? writeRecords(options, rs, in, err)
             : readRecords(options, rs, out, err);

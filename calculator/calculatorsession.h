@@ -3,13 +3,11 @@
 #include "qorgenlib_export.h"
 
 #include <QList>
-#include <QObject>
 #include <QPair>
 #include <QString>
 #include <QStringList>
 
 #include <array>
-#include <memory>
 
 namespace qor {
 
@@ -51,7 +49,7 @@ struct QORGENLIB_EXPORT CalculatorHelpCard
     QStringList lines() const;
 };
 
-/// A calculator the library runs itself: the platform shows it and hands it
+/// A calculator the library runs itself: a presenter shows it and hands it
 /// the user's keys until it closes. Keys are named as typed ("0".."9", ",",
 /// ".", "+", "-", "*", "x", "/", "=", "%") or by name ("Enter", "Esc",
 /// "Insert", "BackSpace", "Delete", "VAT1", "VAT2", "Euro").
@@ -66,26 +64,6 @@ public:
     virtual CalculatorHelpCard helpCard() const = 0;
     /// The value to insert: the result register as the calculator leaves it.
     virtual double resultRegister() const = 0;
-};
-
-struct QORGENLIB_EXPORT CalculatorRequest
-{
-    double start = 0;
-    /// The calculator to show; without one the platform can only answer a register.
-    std::shared_ptr<CalculatorSession> session;
-};
-
-struct QORGENLIB_EXPORT CalculatorAnswer
-{
-    bool cancelled = false;
-    double result = 0; // the result register when the calculator closed
-};
-
-/// The VAT note: a short text shown beside a field for half a second.
-struct QORGENLIB_EXPORT NoteRequest
-{
-    QString text;
-    QObject *field = nullptr; // the host control it belongs beside, when known
 };
 
 } // namespace qor
