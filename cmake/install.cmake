@@ -16,7 +16,7 @@ qor_public_headers(
   einvoice/invoicetotals.h einvoice/invoicejson.h einvoice/ublwriter.h einvoice/ublreader.h
   payments/paymentcheck.h payments/iban.h payments/ibanregistry.h payments/bic.h
   payments/belgianbanks.h payments/creditorreference.h payments/epcpayload.h payments/qrcode.h
-  host/*.h)
+  host/*.h host/controls/*.h)
 set(QOR_PACKAGE_TARGETS qorGenLib)
 if(QORGENLIB_BUILD_WIDGETS)
   qor_public_headers(platform/qt/qtplatform.h host/qt/*.h)

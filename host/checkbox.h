@@ -2,6 +2,8 @@
 
 #include "qorgenlib_export.h"
 
+#include "host/controls/checkbox.h"
+
 #include "host/control.h"
 
 namespace qor {
@@ -19,7 +21,7 @@ public:
 
 private:
     QString m_caption;
-    qint16 m_value = 0;
+    qint16 m_value = controls::initial<qint16>(controls::checkBox, "Value");
 };
 
 } // namespace qor

@@ -2,6 +2,8 @@
 
 #include "qorgenlib_export.h"
 
+#include "host/controls/column.h"
+
 #include "host/hostobject.h"
 #include "host/valueitems.h"
 
@@ -43,19 +45,19 @@ public:
     void setTranslate(bool on);
 
 private:
-    qint32 m_colIndex = 0;
+    qint32 m_colIndex = controls::initial<qint32>(controls::column, "ColIndex");
     QString m_dataField;
     QString m_caption;
-    qint32 m_alignment = 0;
-    float m_width = 0;
-    bool m_fetchStyle = false;
-    bool m_visible = true;
-    bool m_merge = false;
-    bool m_allowFocus = true;
-    bool m_allowSizing = true;
+    qint32 m_alignment = controls::initial<qint32>(controls::column, "Alignment");
+    float m_width = controls::initial<float>(controls::column, "Width");
+    bool m_fetchStyle = controls::initial<bool>(controls::column, "FetchStyle");
+    bool m_visible = controls::initial<bool>(controls::column, "Visible");
+    bool m_merge = controls::initial<bool>(controls::column, "Merge");
+    bool m_allowFocus = controls::initial<bool>(controls::column, "AllowFocus");
+    bool m_allowSizing = controls::initial<bool>(controls::column, "AllowSizing");
     QString m_numberFormat;
-    qint32 m_dividerStyle = 0;
-    qint32 m_headAlignment = 0;
+    qint32 m_dividerStyle = controls::initial<qint32>(controls::column, "DividerStyle");
+    qint32 m_headAlignment = controls::initial<qint32>(controls::column, "HeadAlignment");
     QString m_tag;
     QObject *m_headingStyle = nullptr;
     ValueItems *m_valueItems = nullptr;

@@ -2,6 +2,8 @@
 
 #include "qorgenlib_export.h"
 
+#include "host/controls/propertyspec.h"
+
 #include "host/hostobject.h"
 
 namespace qor {
@@ -28,10 +30,10 @@ public:
 private:
     void place(const QVariantList &values);
 
-    float m_left = 0;
-    float m_top = 0;
-    float m_width = 0;
-    float m_height = 0;
+    float m_left = controls::initial<float>(controls::control, "Left");
+    float m_top = controls::initial<float>(controls::control, "Top");
+    float m_width = controls::initial<float>(controls::control, "Width");
+    float m_height = controls::initial<float>(controls::control, "Height");
 };
 
 } // namespace qor

@@ -2,6 +2,8 @@
 
 #include "qorgenlib_export.h"
 
+#include "host/controls/form.h"
+
 #include "host/hostobject.h"
 
 namespace qor {
@@ -27,12 +29,12 @@ public:
 private:
     QString m_tag;
     QString m_caption;
-    float m_left = 0;
-    float m_top = 0;
-    float m_width = 0;
-    float m_height = 0;
+    float m_left = controls::initial<float>(controls::form, "Left");
+    float m_top = controls::initial<float>(controls::form, "Top");
+    float m_width = controls::initial<float>(controls::form, "Width");
+    float m_height = controls::initial<float>(controls::form, "Height");
     QVariantList m_controls;
-    qint32 m_hWnd = 0; // the window handle; a model form has no window
+    qint32 m_hWnd = controls::initial<qint32>(controls::form, "hWnd");
 };
 
 } // namespace qor

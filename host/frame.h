@@ -2,6 +2,8 @@
 
 #include "qorgenlib_export.h"
 
+#include "host/controls/frame.h"
+
 #include "host/control.h"
 
 namespace qor {
@@ -20,8 +22,8 @@ public:
 
 private:
     QString m_caption;
-    qint32 m_backColor = qint32(0x8000000F); // the system's button face colour
-    qint32 m_borderStyle = 1;
+    qint32 m_backColor = controls::initial<qint32>(controls::frame, "BackColor");
+    qint32 m_borderStyle = controls::initial<qint32>(controls::frame, "BorderStyle");
 };
 
 } // namespace qor

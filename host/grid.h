@@ -2,6 +2,8 @@
 
 #include "qorgenlib_export.h"
 
+#include "host/controls/grid.h"
+
 #include "host/columns.h"
 #include "host/hostobject.h"
 
@@ -49,26 +51,26 @@ public:
     void setColumns(const QVariant &columns);
 
 private:
-    bool m_allowAddNew = false;
-    bool m_allowDelete = false;
-    bool m_allowUpdate = false;
-    bool m_allowColSelect = false;
-    qint32 m_deadAreaBackColor = 0;
-    qint16 m_borderStyle = 0;
-    double m_headLines = 1;
-    bool m_recordSelectors = false;
-    bool m_partialRightColumn = true; // the grid control's own default
-    qint16 m_multipleLines = 0;
-    qint32 m_marqueeStyle = 0;
-    qint32 m_multiSelect = 0;
-    qint32 m_scrollBars = 0;
-    qint32 m_rowDividerStyle = 0;
-    bool m_fetchRowStyle = false;
-    float m_left = 0;
-    float m_top = 0;
-    float m_width = 0;
-    float m_height = 0;
-    float m_rowHeight = 225; // one text line and its divider
+    bool m_allowAddNew = controls::initial<bool>(controls::grid, "AllowAddNew");
+    bool m_allowDelete = controls::initial<bool>(controls::grid, "AllowDelete");
+    bool m_allowUpdate = controls::initial<bool>(controls::grid, "AllowUpdate");
+    bool m_allowColSelect = controls::initial<bool>(controls::grid, "AllowColSelect");
+    qint32 m_deadAreaBackColor = controls::initial<qint32>(controls::grid, "DeadAreaBackColor");
+    qint16 m_borderStyle = controls::initial<qint16>(controls::grid, "BorderStyle");
+    double m_headLines = controls::initial<double>(controls::grid, "HeadLines");
+    bool m_recordSelectors = controls::initial<bool>(controls::grid, "RecordSelectors");
+    bool m_partialRightColumn = controls::initial<bool>(controls::grid, "PartialRightColumn");
+    qint16 m_multipleLines = controls::initial<qint16>(controls::grid, "MultipleLines");
+    qint32 m_marqueeStyle = controls::initial<qint32>(controls::grid, "MarqueeStyle");
+    qint32 m_multiSelect = controls::initial<qint32>(controls::grid, "MultiSelect");
+    qint32 m_scrollBars = controls::initial<qint32>(controls::grid, "ScrollBars");
+    qint32 m_rowDividerStyle = controls::initial<qint32>(controls::grid, "RowDividerStyle");
+    bool m_fetchRowStyle = controls::initial<bool>(controls::grid, "FetchRowStyle");
+    float m_left = controls::initial<float>(controls::grid, "Left");
+    float m_top = controls::initial<float>(controls::grid, "Top");
+    float m_width = controls::initial<float>(controls::grid, "Width");
+    float m_height = controls::initial<float>(controls::grid, "Height");
+    float m_rowHeight = controls::initial<float>(controls::grid, "RowHeight");
     QString m_tag;
     QObject *m_style = nullptr;
     QObject *m_highlightRowStyle = nullptr;

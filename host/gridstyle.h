@@ -2,6 +2,8 @@
 
 #include "qorgenlib_export.h"
 
+#include "host/controls/gridstyle.h"
+
 #include "host/hostobject.h"
 
 namespace qor {
@@ -20,10 +22,10 @@ public:
     explicit GridStyle(QObject *parent = nullptr);
 
 private:
-    qint32 m_backColor = 0;
-    qint32 m_foreColor = 0;
-    bool m_wrapText = false;
-    qint32 m_borderAppearance = 0;
+    qint32 m_backColor = controls::initial<qint32>(controls::gridStyle, "BackColor");
+    qint32 m_foreColor = controls::initial<qint32>(controls::gridStyle, "ForeColor");
+    bool m_wrapText = controls::initial<bool>(controls::gridStyle, "WrapText");
+    qint32 m_borderAppearance = controls::initial<qint32>(controls::gridStyle, "BorderAppearance");
 };
 
 } // namespace qor

@@ -2,6 +2,8 @@
 
 #include "qorgenlib_export.h"
 
+#include "host/controls/headingstyle.h"
+
 #include "host/hostobject.h"
 
 namespace qor {
@@ -20,10 +22,12 @@ public:
     explicit HeadingStyle(QObject *parent = nullptr);
 
 private:
-    bool m_ellipsisText = false;
+    bool m_ellipsisText = controls::initial<bool>(controls::headingStyle, "EllipsisText");
     QVariant m_foregroundPicture;
-    qint32 m_foregroundPicturePosition = 0;
-    bool m_transparentForegroundPicture = false;
+    qint32 m_foregroundPicturePosition
+        = controls::initial<qint32>(controls::headingStyle, "ForegroundPicturePosition");
+    bool m_transparentForegroundPicture
+        = controls::initial<bool>(controls::headingStyle, "TransparentForegroundPicture");
 };
 
 } // namespace qor

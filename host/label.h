@@ -2,6 +2,8 @@
 
 #include "qorgenlib_export.h"
 
+#include "host/controls/label.h"
+
 #include "host/control.h"
 
 namespace qor {
@@ -28,10 +30,10 @@ public:
 private:
     void fitCaption();
 
-    qint32 m_alignment = 0;
-    bool m_autoSize = false;
+    qint32 m_alignment = controls::initial<qint32>(controls::label, "Alignment");
+    bool m_autoSize = controls::initial<bool>(controls::label, "AutoSize");
     QString m_caption;
-    qint32 m_foreColor = qint32(0x80000012); // the system's button text colour
+    qint32 m_foreColor = controls::initial<qint32>(controls::label, "ForeColor");
 };
 
 } // namespace qor

@@ -2,6 +2,8 @@
 
 #include "qorgenlib_export.h"
 
+#include "host/controls/combobox.h"
+
 #include "host/hostobject.h"
 
 namespace qor {
@@ -47,8 +49,8 @@ private:
 
     QStringList m_entries;
     QList<qint32> m_numbers;
-    qint32 m_listIndex = -1;
-    qint32 m_newIndex = -1;
+    qint32 m_listIndex = controls::initial<qint32>(controls::comboBox, "ListIndex");
+    qint32 m_newIndex = controls::initial<qint32>(controls::comboBox, "NewIndex");
 };
 
 } // namespace qor

@@ -2,6 +2,8 @@
 
 #include "qorgenlib_export.h"
 
+#include "host/controls/menuform.h"
+
 #include "host/form.h"
 
 namespace qor {
@@ -33,14 +35,14 @@ public:
 
 private:
     /// A new form has the settings of a new form of the host's designer.
-    qint32 m_borderStyle = 2;
-    bool m_controlBox = true;
-    bool m_maxButton = true;
-    bool m_minButton = true;
-    bool m_moveable = true;
-    bool m_showInTaskbar = true;
-    qint32 m_startUpPosition = 3;
-    qint32 m_windowState = 0;
+    qint32 m_borderStyle = controls::initial<qint32>(controls::menuForm, "BorderStyle");
+    bool m_controlBox = controls::initial<bool>(controls::menuForm, "ControlBox");
+    bool m_maxButton = controls::initial<bool>(controls::menuForm, "MaxButton");
+    bool m_minButton = controls::initial<bool>(controls::menuForm, "MinButton");
+    bool m_moveable = controls::initial<bool>(controls::menuForm, "Moveable");
+    bool m_showInTaskbar = controls::initial<bool>(controls::menuForm, "ShowInTaskbar");
+    qint32 m_startUpPosition = controls::initial<qint32>(controls::menuForm, "StartUpPosition");
+    qint32 m_windowState = controls::initial<qint32>(controls::menuForm, "WindowState");
     QObject *m_frameMenu = nullptr;
     QObject *m_monthView = nullptr;
     QVariantList m_shapeMenu;

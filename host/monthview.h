@@ -2,6 +2,8 @@
 
 #include "qorgenlib_export.h"
 
+#include "host/controls/monthview.h"
+
 #include "host/control.h"
 
 #include <QVariant>
@@ -32,19 +34,20 @@ public:
     explicit MonthView(QObject *parent = nullptr);
 
 private:
-    qint32 m_backColor = qint32(0x8000000F);
-    qint32 m_borderStyle = 1;
-    qint32 m_day = 1;
-    qint32 m_foreColor = qint32(0x80000012);
-    qint32 m_monthBackColor = qint32(0x80000005);
-    qint32 m_monthColumns = 1;
-    qint32 m_monthRows = 1;
-    qint32 m_titleForeColor = qint32(0x80000009);
-    qint32 m_titleBackColor = qint32(0x80000002);
-    qint32 m_trailingForeColor = qint32(0x80000011);
-    bool m_showWeekNumbers = false;
+    qint32 m_backColor = controls::initial<qint32>(controls::monthView, "BackColor");
+    qint32 m_borderStyle = controls::initial<qint32>(controls::monthView, "BorderStyle");
+    qint32 m_day = controls::initial<qint32>(controls::monthView, "Day");
+    qint32 m_foreColor = controls::initial<qint32>(controls::monthView, "ForeColor");
+    qint32 m_monthBackColor = controls::initial<qint32>(controls::monthView, "MonthBackColor");
+    qint32 m_monthColumns = controls::initial<qint32>(controls::monthView, "MonthColumns");
+    qint32 m_monthRows = controls::initial<qint32>(controls::monthView, "MonthRows");
+    qint32 m_titleForeColor = controls::initial<qint32>(controls::monthView, "TitleForeColor");
+    qint32 m_titleBackColor = controls::initial<qint32>(controls::monthView, "TitleBackColor");
+    qint32 m_trailingForeColor
+        = controls::initial<qint32>(controls::monthView, "TrailingForeColor");
+    bool m_showWeekNumbers = controls::initial<bool>(controls::monthView, "ShowWeekNumbers");
     QVariant m_value;
-    bool m_visible = true;
+    bool m_visible = controls::initial<bool>(controls::monthView, "Visible");
 };
 
 } // namespace qor

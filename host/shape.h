@@ -2,6 +2,8 @@
 
 #include "qorgenlib_export.h"
 
+#include "host/controls/shape.h"
+
 #include "host/control.h"
 
 namespace qor {
@@ -24,10 +26,10 @@ public:
     Q_INVOKABLE void ZOrder(qint32 position = 0);
 
 private:
-    qint32 m_borderStyle = 1;
-    qint32 m_fillStyle = 1; // transparent
-    qint32 m_borderColor = 0;
-    qint32 m_fillColor = 0;
+    qint32 m_borderStyle = controls::initial<qint32>(controls::shape, "BorderStyle");
+    qint32 m_fillStyle = controls::initial<qint32>(controls::shape, "FillStyle");
+    qint32 m_borderColor = controls::initial<qint32>(controls::shape, "BorderColor");
+    qint32 m_fillColor = controls::initial<qint32>(controls::shape, "FillColor");
 };
 
 } // namespace qor

@@ -2,6 +2,8 @@
 
 #include "qorgenlib_export.h"
 
+#include "host/controls/textbox.h"
+
 #include "host/hostobject.h"
 #include "host/textselection.h"
 
@@ -39,12 +41,12 @@ public:
 
 private:
     TextSelection m_edit;
-    qint32 m_maxLength = 0;
-    bool m_enabled = true;
-    float m_left = 0;
-    float m_top = 0;
-    float m_width = 0;
-    float m_height = 0;
+    qint32 m_maxLength = controls::initial<qint32>(controls::textBox, "MaxLength");
+    bool m_enabled = controls::initial<bool>(controls::textBox, "Enabled");
+    float m_left = controls::initial<float>(controls::textBox, "Left");
+    float m_top = controls::initial<float>(controls::textBox, "Top");
+    float m_width = controls::initial<float>(controls::textBox, "Width");
+    float m_height = controls::initial<float>(controls::textBox, "Height");
 };
 
 } // namespace qor

@@ -2,6 +2,8 @@
 
 #include "qorgenlib_export.h"
 
+#include "host/controls/valueitems.h"
+
 #include "host/objectcollection.h"
 
 namespace qor {
@@ -26,7 +28,7 @@ public:
     QString elementClass(const QString &property) const override;
 
 private:
-    bool m_translate = false;
+    bool m_translate = controls::initial<bool>(controls::valueItems, "Translate");
 };
 
 } // namespace qor

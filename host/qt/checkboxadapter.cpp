@@ -5,7 +5,7 @@
 namespace qor {
 
 CheckBoxAdapter::CheckBoxAdapter(QCheckBox *box, QObject *parent)
-    : QObject(parent)
+    : WidgetAdapter(box, parent)
     , m_box(box)
 { }
 

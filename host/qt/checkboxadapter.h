@@ -2,15 +2,17 @@
 
 #include "qorgenlib_export.h"
 
+#include "host/qt/widgetadapter.h"
+
 #include <QCheckBox>
-#include <QObject>
 #include <QPointer>
 
 namespace qor {
 
 /// Gives a QCheckBox the names of a check box: Value 0 unchecked, 1 checked,
-/// 2 greyed (partly checked), and Caption.
-class QORGENLIB_WIDGETS_EXPORT CheckBoxAdapter : public QObject
+/// 2 greyed (partly checked), and Caption, besides the position and size in
+/// twips of every placed control.
+class QORGENLIB_WIDGETS_EXPORT CheckBoxAdapter : public WidgetAdapter
 {
     Q_OBJECT
     Q_PROPERTY(qint16 Value READ value WRITE setValue)

@@ -5,7 +5,7 @@
 namespace qor {
 
 ComboBoxAdapter::ComboBoxAdapter(QComboBox *combo, QObject *parent)
-    : ListAdapter(parent)
+    : ListAdapter(combo, parent)
     , m_combo(combo)
 { }
 

@@ -30,7 +30,7 @@ QVariant dateValue(const QDate &date)
 } // namespace
 
 DateEditAdapter::DateEditAdapter(QDateEdit *field, QObject *parent)
-    : QObject(parent)
+    : WidgetAdapter(field, parent)
     , m_field(field)
 {
     if (!field)

@@ -2,6 +2,8 @@
 
 #include "qorgenlib_export.h"
 
+#include "host/qt/widgetadapter.h"
+
 #include <QDateEdit>
 #include <QObject>
 #include <QPointer>
@@ -15,8 +17,9 @@ class CalendarWidgetAdapter;
 /// Value take a date or a date text in the regional settings, Format and
 /// DisplayFormat a classic format text ("dd/mm/yyyy", where mm is the month),
 /// and Calendar is the drop-down calendar with its holidays and week titles.
-/// Text is the date as the field shows it. The adapter does not own the field; it turns the calendar pop-up on.
-class QORGENLIB_WIDGETS_EXPORT DateEditAdapter : public QObject
+/// Text is the date as the field shows it; position and size are in twips as
+/// for every placed control. The adapter does not own the field; it turns the calendar pop-up on.
+class QORGENLIB_WIDGETS_EXPORT DateEditAdapter : public WidgetAdapter
 {
     Q_OBJECT
     Q_PROPERTY(QString Text READ text)

@@ -2,6 +2,8 @@
 
 #include "qorgenlib_export.h"
 
+#include "host/controls/gridstyle.h"
+
 #include <QObject>
 #include <QPalette>
 #include <QPointer>
@@ -39,8 +41,8 @@ private:
     QPalette::ColorRole m_back;
     QPalette::ColorRole m_fore;
     qint32 m_backColor = 0xFFFFFF;
-    qint32 m_foreColor = 0;
-    qint32 m_borderAppearance = 0;
+    qint32 m_foreColor = controls::initial<qint32>(controls::gridStyle, "ForeColor");
+    qint32 m_borderAppearance = controls::initial<qint32>(controls::gridStyle, "BorderAppearance");
 };
 
 } // namespace qor

@@ -2,6 +2,8 @@
 
 #include "qorgenlib_export.h"
 
+#include "host/controls/headingstyle.h"
+
 #include <QObject>
 #include <QVariant>
 
@@ -34,10 +36,12 @@ private:
     void showPicture();
 
     TableColumnAdapter *m_column;
-    bool m_ellipsisText = false;
+    bool m_ellipsisText = controls::initial<bool>(controls::headingStyle, "EllipsisText");
     QVariant m_picture;
-    qint32 m_picturePosition = 0;
-    bool m_transparent = false;
+    qint32 m_picturePosition
+        = controls::initial<qint32>(controls::headingStyle, "ForegroundPicturePosition");
+    bool m_transparent
+        = controls::initial<bool>(controls::headingStyle, "TransparentForegroundPicture");
 };
 
 } // namespace qor

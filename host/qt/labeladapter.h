@@ -2,6 +2,8 @@
 
 #include "qorgenlib_export.h"
 
+#include "host/controls/label.h"
+
 #include "host/qt/widgetadapter.h"
 
 #include <QLabel>
@@ -34,8 +36,8 @@ private:
     QLabel *label() const;
     void fit();
 
-    bool m_autoSize = false;
-    qint32 m_foreColor = qint32(0x80000012);
+    bool m_autoSize = controls::initial<bool>(controls::label, "AutoSize");
+    qint32 m_foreColor = controls::initial<qint32>(controls::label, "ForeColor");
 };
 
 } // namespace qor

@@ -6,8 +6,8 @@
 
 namespace qor {
 
-ListAdapter::ListAdapter(QObject *parent)
-    : QObject(parent)
+ListAdapter::ListAdapter(QWidget *widget, QObject *parent)
+    : WidgetAdapter(widget, parent)
 { }
 
 QVariantList ListAdapter::list() const

@@ -2,6 +2,10 @@
 
 #include "qorgenlib_export.h"
 
+#include "host/controls/combobox.h"
+
+#include "host/qt/widgetadapter.h"
+
 #include <QObject>
 #include <QVariantList>
 
@@ -9,10 +13,11 @@ namespace qor {
 
 /// What a combo box and a list box have in common: List and ItemData (the
 /// item's user data) as arrays, ListCount, ListIndex (the current row, -1 for
-/// none; anything beyond raises 380), NewIndex, Clear and AddItem. A subclass
+/// none; anything beyond raises 380), NewIndex, Clear and AddItem, besides the
+/// position and size in twips of every placed control. A subclass
 /// reaches its widget through the few primitives below and raises 91 when the
 /// widget is gone.
-class QORGENLIB_WIDGETS_EXPORT ListAdapter : public QObject
+class QORGENLIB_WIDGETS_EXPORT ListAdapter : public WidgetAdapter
 {
     Q_OBJECT
     Q_PROPERTY(QVariantList List READ list)
@@ -35,7 +40,7 @@ public:
     Q_INVOKABLE void AddItem(const QString &item, qint32 index);
 
 protected:
-    explicit ListAdapter(QObject *parent);
+    ListAdapter(QWidget *widget, QObject *parent);
 
     virtual int itemCount() const = 0;
     virtual QString itemText(int row) const = 0;
@@ -48,7 +53,7 @@ protected:
     virtual void insertItem(int row, const QString &text) = 0;
 
 private:
-    qint32 m_newIndex = -1;
+    qint32 m_newIndex = controls::initial<qint32>(controls::comboBox, "NewIndex");
 };
 
 } // namespace qor

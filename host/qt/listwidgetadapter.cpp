@@ -5,7 +5,7 @@
 namespace qor {
 
 ListWidgetAdapter::ListWidgetAdapter(QListWidget *list, QObject *parent)
-    : ListAdapter(parent)
+    : ListAdapter(list, parent)
     , m_list(list)
 { }
 

@@ -2,6 +2,8 @@
 
 #include "qorgenlib_export.h"
 
+#include "host/controls/menuform.h"
+
 #include <QMainWindow>
 #include <QObject>
 #include <QPointer>
@@ -82,9 +84,9 @@ private:
     template <typename W> W *childWidget(const QString &name);
 
     QPointer<QMainWindow> m_window;
-    qint32 m_borderStyle = 2;
-    bool m_moveable = true;
-    qint32 m_startUpPosition = 3;
+    qint32 m_borderStyle = controls::initial<qint32>(controls::menuForm, "BorderStyle");
+    bool m_moveable = controls::initial<bool>(controls::menuForm, "Moveable");
+    qint32 m_startUpPosition = controls::initial<qint32>(controls::menuForm, "StartUpPosition");
     FrameAdapter *m_frame = nullptr;
     MonthViewAdapter *m_monthView = nullptr;
     QVariantList m_shapes;

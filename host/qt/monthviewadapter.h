@@ -2,6 +2,8 @@
 
 #include "qorgenlib_export.h"
 
+#include "host/controls/monthview.h"
+
 #include "host/qt/widgetadapter.h"
 
 #include <QCalendarWidget>
@@ -59,9 +61,9 @@ private:
     void applyColours();
 
     qint32 m_colours[ColourCount];
-    qint32 m_borderStyle = 1;
-    qint32 m_monthColumns = 1;
-    qint32 m_monthRows = 1;
+    qint32 m_borderStyle = controls::initial<qint32>(controls::monthView, "BorderStyle");
+    qint32 m_monthColumns = controls::initial<qint32>(controls::monthView, "MonthColumns");
+    qint32 m_monthRows = controls::initial<qint32>(controls::monthView, "MonthRows");
 };
 
 } // namespace qor

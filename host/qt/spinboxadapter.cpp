@@ -10,7 +10,7 @@
 namespace qor {
 
 SpinBoxAdapter::SpinBoxAdapter(QAbstractSpinBox *box, QObject *parent)
-    : QObject(parent)
+    : WidgetAdapter(box, parent)
     , m_box(box)
 { }
 

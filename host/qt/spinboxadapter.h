@@ -2,6 +2,8 @@
 
 #include "qorgenlib_export.h"
 
+#include "host/qt/widgetadapter.h"
+
 #include <QAbstractSpinBox>
 #include <QObject>
 #include <QPointer>
@@ -10,8 +12,9 @@
 namespace qor {
 
 /// Gives a QSpinBox or QDoubleSpinBox the names of an up-down field: Text as
-/// shown and Value as a number (Long for a QSpinBox, Double otherwise).
-class QORGENLIB_WIDGETS_EXPORT SpinBoxAdapter : public QObject
+/// shown and Value as a number (Long for a QSpinBox, Double otherwise),
+/// besides the position and size in twips of every placed control.
+class QORGENLIB_WIDGETS_EXPORT SpinBoxAdapter : public WidgetAdapter
 {
     Q_OBJECT
     Q_PROPERTY(QString Text READ text)

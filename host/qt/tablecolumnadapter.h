@@ -2,6 +2,8 @@
 
 #include "qorgenlib_export.h"
 
+#include "host/controls/column.h"
+
 #include <QObject>
 #include <QPointer>
 #include <QTableView>
@@ -72,15 +74,15 @@ private:
     HeadingStyleAdapter *m_headingStyle;
     ValueItemsAdapter *m_valueItems;
     QString m_dataField;
-    qint32 m_alignment = 0;
+    qint32 m_alignment = controls::initial<qint32>(controls::column, "Alignment");
     int m_widthPixels = 0; // kept for a hidden column, whose section has no size
-    bool m_fetchStyle = false;
-    bool m_merge = false;
-    bool m_allowFocus = true;
-    bool m_allowSizing = true;
+    bool m_fetchStyle = controls::initial<bool>(controls::column, "FetchStyle");
+    bool m_merge = controls::initial<bool>(controls::column, "Merge");
+    bool m_allowFocus = controls::initial<bool>(controls::column, "AllowFocus");
+    bool m_allowSizing = controls::initial<bool>(controls::column, "AllowSizing");
     QString m_numberFormat;
-    qint32 m_dividerStyle = 0;
-    qint32 m_headAlignment = 0;
+    qint32 m_dividerStyle = controls::initial<qint32>(controls::column, "DividerStyle");
+    qint32 m_headAlignment = controls::initial<qint32>(controls::column, "HeadAlignment");
     QString m_tag;
 };
 

@@ -29,7 +29,7 @@ QTableView *prepared(QTableView *view)
 } // namespace
 
 TableViewAdapter::TableViewAdapter(QTableView *view, QObject *parent)
-    : QObject(parent)
+    : WidgetAdapter(prepared(view), parent)
     , m_view(prepared(view))
     , m_style(new GridStyleAdapter(view, QPalette::Base, QPalette::Text, this))
     , m_highlightRowStyle(
@@ -127,39 +127,6 @@ void TableViewAdapter::setRowDividerStyle(qint32 style)
 {
     m_rowDividerStyle = style;
     view()->setShowGrid(style != RowDividerNone);
-}
-
-float TableViewAdapter::left() const
-{
-    return twips::fromPixelsX(view()->x());
-}
-void TableViewAdapter::setLeft(float twipsLeft)
-{
-    view()->move(twips::toPixelsX(twipsLeft), view()->y());
-}
-float TableViewAdapter::top() const
-{
-    return twips::fromPixelsY(view()->y());
-}
-void TableViewAdapter::setTop(float twipsTop)
-{
-    view()->move(view()->x(), twips::toPixelsY(twipsTop));
-}
-float TableViewAdapter::width() const
-{
-    return twips::fromPixelsX(view()->width());
-}
-void TableViewAdapter::setWidth(float twipsWidth)
-{
-    view()->resize(qMax(0, twips::toPixelsX(twipsWidth)), view()->height());
-}
-float TableViewAdapter::height() const
-{
-    return twips::fromPixelsY(view()->height());
-}
-void TableViewAdapter::setHeight(float twipsHeight)
-{
-    view()->resize(view()->width(), qMax(0, twips::toPixelsY(twipsHeight)));
 }
 
 float TableViewAdapter::rowHeight() const

@@ -2,6 +2,9 @@
 
 #include "qorgenlib_export.h"
 
+#include "host/controls/grid.h"
+#include "host/qt/widgetadapter.h"
+
 #include <QObject>
 #include <QPointer>
 #include <QTableView>
@@ -16,7 +19,7 @@ class TableColumnsAdapter;
 /// row height, selection and editing, the style colours, and the Columns
 /// collection. A view without a model gets an empty QStandardItemModel. The
 /// adapter does not own the view.
-class QORGENLIB_WIDGETS_EXPORT TableViewAdapter : public QObject
+class QORGENLIB_WIDGETS_EXPORT TableViewAdapter : public WidgetAdapter
 {
     Q_OBJECT
     Q_PROPERTY(bool AllowAddNew MEMBER m_allowAddNew)
@@ -34,10 +37,6 @@ class QORGENLIB_WIDGETS_EXPORT TableViewAdapter : public QObject
     Q_PROPERTY(qint32 ScrollBars READ scrollBars WRITE setScrollBars)
     Q_PROPERTY(qint32 RowDividerStyle READ rowDividerStyle WRITE setRowDividerStyle)
     Q_PROPERTY(bool FetchRowStyle MEMBER m_fetchRowStyle)
-    Q_PROPERTY(float Left READ left WRITE setLeft)
-    Q_PROPERTY(float Top READ top WRITE setTop)
-    Q_PROPERTY(float Width READ width WRITE setWidth)
-    Q_PROPERTY(float Height READ height WRITE setHeight)
     Q_PROPERTY(float RowHeight READ rowHeight WRITE setRowHeight)
     Q_PROPERTY(QString Tag MEMBER m_tag)
     Q_PROPERTY(QObject *Style READ style)
@@ -68,14 +67,6 @@ public:
     void setScrollBars(qint32 bars);
     qint32 rowDividerStyle() const { return m_rowDividerStyle; }
     void setRowDividerStyle(qint32 style);
-    float left() const;
-    void setLeft(float twips);
-    float top() const;
-    void setTop(float twips);
-    float width() const;
-    void setWidth(float twips);
-    float height() const;
-    void setHeight(float twips);
     float rowHeight() const;
     void setRowHeight(float twips);
     QObject *style() const;
@@ -89,18 +80,18 @@ private:
     GridStyleAdapter *m_highlightRowStyle;
     GridStyleAdapter *m_selectedStyle;
     TableColumnsAdapter *m_columns;
-    bool m_allowAddNew = false;
-    bool m_allowDelete = false;
-    bool m_allowColSelect = false;
-    qint32 m_deadAreaBackColor = 0;
-    double m_headLines = 1;
-    bool m_partialRightColumn = true;
-    qint16 m_multipleLines = 0;
-    qint32 m_marqueeStyle = 0;
-    qint32 m_multiSelect = 0;
-    qint32 m_scrollBars = 3;
-    qint32 m_rowDividerStyle = 0;
-    bool m_fetchRowStyle = false;
+    bool m_allowAddNew = controls::initial<bool>(controls::grid, "AllowAddNew");
+    bool m_allowDelete = controls::initial<bool>(controls::grid, "AllowDelete");
+    bool m_allowColSelect = controls::initial<bool>(controls::grid, "AllowColSelect");
+    qint32 m_deadAreaBackColor = controls::initial<qint32>(controls::grid, "DeadAreaBackColor");
+    double m_headLines = controls::initial<double>(controls::grid, "HeadLines");
+    bool m_partialRightColumn = controls::initial<bool>(controls::grid, "PartialRightColumn");
+    qint16 m_multipleLines = controls::initial<qint16>(controls::grid, "MultipleLines");
+    qint32 m_marqueeStyle = controls::initial<qint32>(controls::grid, "MarqueeStyle");
+    qint32 m_multiSelect = controls::initial<qint32>(controls::grid, "MultiSelect");
+    qint32 m_scrollBars = 3; // a fresh view shows both scroll bars when needed
+    qint32 m_rowDividerStyle = controls::initial<qint32>(controls::grid, "RowDividerStyle");
+    bool m_fetchRowStyle = controls::initial<bool>(controls::grid, "FetchRowStyle");
     QString m_tag;
 };
 

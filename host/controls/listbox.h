@@ -1,0 +1,14 @@
+#pragma once
+
+#include "host/controls/listcontrol.h"
+
+namespace qor::controls {
+
+/// A real list box also shows the selected entry's text.
+inline constexpr auto listBoxProperties = join(listProperties,
+    std::array { PropertySpec { "Text", QMetaType::QString, Unit::None, 0, Side::Widget } });
+
+/// The list box.
+inline constexpr ControlSpec listBox { "ListBox", listBoxProperties, listOperations };
+
+} // namespace qor::controls
