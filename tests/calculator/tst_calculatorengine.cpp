@@ -167,14 +167,12 @@ private slots:
         QTEST(lib.ShowCalculator(10), "result");
         QTEST(modGenLib().calculatorRegister, "result");
         QStringList kinds;
-        for (const QVariant &shown : machine->shown())
-            kinds.append(shown.toMap().value("kind").toString());
+        for (const ShownEvent &shown : machine->shown())
+            kinds.append(kindOf(shown));
         QTEST(kinds, "kinds");
-        if (kinds.first() == QLatin1String("CalculatorHelp")) {
-            const QVariantMap help = machine->shown().first().toMap();
-            QCOMPARE(
-                help.value("title").toString(), QStringLiteral("  Help bij Velantis Calculator"));
-            QCOMPARE(help.value("lines").toStringList().size(), 12);
+        if (const auto *help = std::get_if<CalculatorHelpShown>(&machine->shown().first())) {
+            QCOMPARE(help->title, QStringLiteral("  Help bij Velantis Calculator"));
+            QCOMPARE(help->lines.size(), 12);
         }
     }
 

@@ -147,8 +147,7 @@ private slots:
         QCOMPARE(test::onlyMessage(*machine),
             (QVariantMap { { "prompt", "Invalid XY-coordinate / GetMousePointerPos" },
                 { "buttons", 16 }, { "title", "qorSoft General DLL" } }));
-        QCOMPARE(
-            machine->shown().first().toMap().value("kind").toString(), QStringLiteral("MsgBox"));
+        QVERIFY(std::holds_alternative<MessageBoxShown>(machine->shown().first()));
     }
 
     void units_data()
@@ -185,9 +184,7 @@ private slots:
         form.setProperty("hWnd", 4242);
         clsqorGenLib lib;
         QVERIFY(!lib.FormOnTop(&form).isValid());
-        QCOMPARE(machine->actions(),
-            (QVariantList { QVariantMap {
-                { "kind", "onTop" }, { "object", QVariant::fromValue<QObject *>(&form) } } }));
+        QCOMPARE(machine->actions(), QList<MachineAction> { FormKeptOnTop { &form } });
         QObject noWindow;
         QCOMPARE(test::errorNumber([&] { lib.FormOnTop(&noWindow); }), 438);
     }
@@ -203,10 +200,12 @@ private slots:
         clsqorGenLib lib;
         lib.SetDeskTop(&form);
         QStringList prompts;
-        for (const QVariant &shown : machine->shown()) {
-            QCOMPARE(shown.toMap().value("buttons").toInt(), 0);
-            QCOMPARE(shown.toMap().value("title").toString(), QString());
-            prompts << shown.toMap().value("prompt").toString();
+        for (const ShownEvent &shown : machine->shown()) {
+            const auto *box = std::get_if<MessageBoxShown>(&shown);
+            QVERIFY(box);
+            QCOMPARE(box->buttons, 0);
+            QCOMPARE(box->title, QString());
+            prompts << box->prompt;
         }
         QCOMPARE(prompts,
             (QStringList { messageText("BorderStyle", "2 - Sizable"),

@@ -115,8 +115,7 @@ private slots:
                 + QStringLiteral(" !");
             QCOMPARE(test::onlyMessage(*machine),
                 (QVariantMap { { "prompt", prompt }, { "buttons", 16 }, { "title", QString() } }));
-            QCOMPARE(machine->shown().first().toMap().value("kind").toString(),
-                QStringLiteral("MsgBox"));
+            QVERIFY(std::holds_alternative<MessageBoxShown>(machine->shown().first()));
         }
         // Reading never changes the file.
         QCOMPARE(contentsOf(file), contents == "<none>" ? QByteArray("<missing>") : contents);
