@@ -38,9 +38,7 @@ void ScriptedCalculator::typeInto(CalculatorSession &session, const QString &tex
         }
         if (key.compare(QLatin1String("Help"), Qt::CaseInsensitive) == 0) {
             const CalculatorHelpCard card = session.helpCard();
-            m_machine.record({ { QStringLiteral("kind"), QStringLiteral("CalculatorHelp") },
-                { QStringLiteral("title"), card.title },
-                { QStringLiteral("lines"), card.lines() } });
+            m_machine.record(CalculatorHelpShown { card.title, card.lines() });
             helpShown = true;
             continue;
         }
@@ -64,11 +62,7 @@ CalculatorAnswer ScriptedCalculator::presentCalculator(
         typeInto(*session, map.value(QStringLiteral("keys")).toString());
         answer.result = session->resultRegister();
     }
-    m_machine.record({ { QStringLiteral("kind"), QStringLiteral("Calculator") },
-        { QStringLiteral("start"), start },
-        { QStringLiteral("answer"),
-            answer.cancelled ? QVariant(QVariantMap { { QStringLiteral("cancel"), true } })
-                             : QVariant(answer.result) } });
+    m_machine.record(CalculatorShown { start, answer.cancelled, answer.result });
     return answer;
 }
 

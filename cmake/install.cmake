@@ -8,7 +8,7 @@ qor_public_headers(
   platform/platform.h platform/clock.h platform/dialogpresenter.h platform/sound.h
   platform/filesystem.h platform/processes.h platform/desktop.h platform/keyboard.h
   platform/coreplatform.h calculator/calculatorsession.h calculator/calculatorpresenter.h
-  platform/recordingplatform.h
+  platform/recordingplatform.h platform/recordedevent.h
   runtime/regionalsettings.h runtime/runtimeerror.h runtime/variant.h runtime/propertybag.h
   grid/gridcolumnwidths.h
   einvoice/decimal.h einvoice/party.h einvoice/vatcategory.h einvoice/allowancecharge.h

@@ -95,19 +95,16 @@ int RecordingPlatform::messageBoxE(const MessageBoxERequest &request)
 {
     const qsizetype at = m_shown.size();
     // Dialogs: the visible buttons, left to right, as the user read them.
-    QVariantList buttonsShown;
+    QList<ShownButton> buttonsShown;
     for (const DialogButton &button : request.buttons)
-        buttonsShown.append(QVariantMap { { QStringLiteral("name"), button.name },
-            { QStringLiteral("caption"), button.caption } });
-    record({ { QStringLiteral("kind"), QStringLiteral("MsgBoxE") },
-        { QStringLiteral("prompt"), request.prompt }, { QStringLiteral("buttons"), request.style },
-        { QStringLiteral("title"), request.title }, { QStringLiteral("caption"), request.caption },
-        { QStringLiteral("type"), request.typeName },
-        { QStringLiteral("buttonsShown"), buttonsShown } });
+        buttonsShown.append({ button.name, button.caption });
+    record(MessageBoxEShown { request.prompt, request.style, request.title, request.caption,
+        request.typeName, buttonsShown, std::nullopt });
     if (request.firstShown)
         request.firstShown();
     const int answer = messageBoxEAnswer(request);
-    setAnswer(at, answer);
+    if (auto *box = shownAt<MessageBoxEShown>(at))
+        box->answer = answer;
     return answer;
 }
 
@@ -122,19 +119,15 @@ int RecordingPlatform::systemMessageBox(const SystemMessageBoxRequest &request)
         if (scripted && isNumber(*scripted))
             answer = scripted->toInt();
     }
-    record({ { QStringLiteral("kind"), QStringLiteral("MsgBox") },
-        { QStringLiteral("prompt"), request.prompt }, { QStringLiteral("buttons"), request.style },
-        { QStringLiteral("title"), request.title }, { QStringLiteral("answer"), answer } });
+    record(MessageBoxShown { request.prompt, request.style, request.title, answer });
     return answer;
 }
 
 InputBoxEAnswer RecordingPlatform::inputBoxE(const InputBoxERequest &request)
 {
     const qsizetype at = m_shown.size();
-    record({ { QStringLiteral("kind"), QStringLiteral("InputBoxE") },
-        { QStringLiteral("prompt"), request.prompt }, { QStringLiteral("title"), request.title },
-        { QStringLiteral("default"), request.defaultValue },
-        { QStringLiteral("maxLength"), request.maxLength } });
+    record(InputBoxEShown {
+        request.prompt, request.title, request.defaultValue, request.maxLength, std::nullopt });
     if (request.firstShown)
         request.firstShown();
     InputBoxEAnswer answer { false, request.defaultValue };
@@ -147,30 +140,19 @@ InputBoxEAnswer RecordingPlatform::inputBoxE(const InputBoxERequest &request)
     // The field refuses what its maximum length does not hold.
     if (request.maxLength > 0 && answer.text.size() > request.maxLength)
         answer.text.truncate(request.maxLength);
-    setAnswer(at,
-        answer.cancelled ? QVariant(QVariantMap { { QStringLiteral("cancel"), true } })
-                         : QVariant(answer.text));
+    if (auto *box = shownAt<InputBoxEShown>(at))
+        box->answer = InputBoxEShown::Answer { answer.cancelled, answer.text };
     return answer;
-}
-
-void RecordingPlatform::setAnswer(qsizetype at, const QVariant &answer)
-{
-    if (at >= m_shown.size())
-        return;
-    QVariantMap event = m_shown.at(at).toMap();
-    event.insert(QStringLiteral("answer"), answer);
-    m_shown[at] = event;
 }
 
 void RecordingPlatform::showNote(const NoteRequest &note)
 {
-    record({ { QStringLiteral("kind"), QStringLiteral("Note") },
-        { QStringLiteral("text"), note.text } });
+    record(NoteShown { note.text });
 }
 
 void RecordingPlatform::beep()
 {
-    record({ { QStringLiteral("kind"), QStringLiteral("beep") } });
+    record(BeepSounded {});
 }
 
 // No events are pending in a recorded session; running them could re-enter the caller.
@@ -178,37 +160,33 @@ void RecordingPlatform::processEvents() { }
 
 void RecordingPlatform::playSound(const QString &file, bool continuous)
 {
-    record({ { QStringLiteral("kind"), QStringLiteral("sound") }, { QStringLiteral("file"), file },
-        { QStringLiteral("continuous"), continuous } });
+    record(SoundPlayed { file, continuous });
     if (m_play)
         m_play(file, continuous);
 }
 
 void RecordingPlatform::stopSound()
 {
-    record({ { QStringLiteral("kind"), QStringLiteral("stopSound") } });
+    record(SoundStopped {});
     if (m_stop)
         m_stop();
 }
 
 qint64 RecordingPlatform::startProcess(const QString &commandLine, int windowStyle)
 {
-    m_actions.append(QVariantMap { { QStringLiteral("kind"), QStringLiteral("start") },
-        { QStringLiteral("command"), commandLine },
-        { QStringLiteral("windowStyle"), windowStyle } });
+    m_actions.append(ProcessStarted { commandLine, windowStyle });
     return CorePlatform::startProcess(commandLine, windowStyle);
 }
 
 // A recorded session never switches the machine off.
 void RecordingPlatform::shutDown()
 {
-    m_actions.append(QVariantMap { { QStringLiteral("kind"), QStringLiteral("shutdown") } });
+    m_actions.append(ShutDownAsked {});
 }
 
 void RecordingPlatform::keepOnTop(QObject *form, qint64)
 {
-    m_actions.append(QVariantMap { { QStringLiteral("kind"), QStringLiteral("onTop") },
-        { QStringLiteral("object"), QVariant::fromValue(form) } });
+    m_actions.append(FormKeptOnTop { form });
 }
 
 ScreenInfo RecordingPlatform::screen() const
@@ -218,15 +196,12 @@ ScreenInfo RecordingPlatform::screen() const
 
 void RecordingPlatform::setMousePointer(int pointer)
 {
-    m_actions.append(QVariantMap { { QStringLiteral("kind"), QStringLiteral("mousePointer") },
-        { QStringLiteral("pointer"), pointer } });
+    m_actions.append(MousePointerSet { pointer });
 }
 
 void RecordingPlatform::keyEvent(int virtualKey, int scanCode, int flags)
 {
-    m_actions.append(QVariantMap { { QStringLiteral("kind"), QStringLiteral("key") },
-        { QStringLiteral("virtualKey"), virtualKey }, { QStringLiteral("scanCode"), scanCode },
-        { QStringLiteral("flags"), flags } });
+    m_actions.append(KeySent { virtualKey, scanCode, flags });
 }
 
 } // namespace qor

@@ -3,9 +3,9 @@
 #include "qorgenlib_export.h"
 
 #include "platform/coreplatform.h"
+#include "platform/recordedevent.h"
 
 #include <QVariantList>
-#include <QVariantMap>
 
 namespace qor {
 
@@ -39,11 +39,11 @@ public:
     void addAnswer(const QVariant &answer);
     QVariantList pendingAnswers() const { return m_answers; }
 
-    /// What the user saw or heard, in order: maps with a "kind" field.
-    QVariantList shown() const { return m_shown; }
+    /// What the user saw or heard, in order.
+    const QList<ShownEvent> &shown() const { return m_shown; }
     /// What the library did to the machine: key events, program starts, mouse
     /// pointer, shut-down, topmost forms.
-    QVariantList actions() const { return m_actions; }
+    const QList<MachineAction> &actions() const { return m_actions; }
     void clearRecords();
 
     QDateTime now() const override;
@@ -65,20 +65,24 @@ public:
     /// The next scripted answer, taken from the script; nothing when it is spent.
     std::optional<QVariant> takeAnswer();
     /// Records what the user saw or heard.
-    void record(const QVariantMap &event) { m_shown.append(event); }
+    void record(const ShownEvent &event) { m_shown.append(event); }
     /// A scripted answer that cancels ({"cancel": true}), or that is a number.
     static bool isCancel(const QVariant &answer);
     static bool isNumber(const QVariant &answer);
 
 private:
     int messageBoxEAnswer(const MessageBoxERequest &request);
-    void setAnswer(qsizetype at, const QVariant &answer);
+    // The record at the place a dialog took, while it is still there.
+    template <class Shown> Shown *shownAt(qsizetype at)
+    {
+        return at < m_shown.size() ? std::get_if<Shown>(&m_shown[at]) : nullptr;
+    }
 
     QDateTime m_now;
     ScreenInfo m_screen;
     QVariantList m_answers;
-    QVariantList m_shown;
-    QVariantList m_actions;
+    QList<ShownEvent> m_shown;
+    QList<MachineAction> m_actions;
     std::function<void(const QString &, bool)> m_play;
     std::function<void()> m_stop;
 };

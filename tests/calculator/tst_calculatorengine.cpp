@@ -169,8 +169,8 @@ private slots:
         QTEST(lib.ShowCalculator(10), "result");
         QTEST(modGenLib().calculatorRegister, "result");
         QStringList kinds;
-        for (const QVariant &shown : machine->shown())
-            kinds.append(shown.toMap().value("kind").toString());
+        for (const ShownEvent &shown : machine->shown())
+            kinds.append(kindOf(shown));
         QTEST(kinds, "kinds");
         QTEST(modGenLib().calculatorMode, "mode");
     }

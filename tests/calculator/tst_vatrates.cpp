@@ -106,7 +106,7 @@ private slots:
         lib.setProperty("Offset", 10000);
         modGenLib().calculatorFlag = true;
         lib.ControleerBtwClick();
-        QCOMPARE(machine->shown().first().toMap().value("prompt").toString(), lib.LLGenLib(11050));
+        QCOMPARE(test::onlyMessage(*machine).value("prompt").toString(), lib.LLGenLib(11050));
     }
 };
 

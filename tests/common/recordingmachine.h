@@ -24,25 +24,32 @@ inline std::shared_ptr<RecordingPlatform> installRecordingPlatform(
 }
 
 // A message box as the user reads it.
-inline QVariantMap messageBox(const QString &prompt, int buttons, const QString &title)
+inline QVariantMap messageBox(
+    const QString &prompt, int buttons, const QString &title, const QString &caption)
 {
     return { { QStringLiteral("prompt"), prompt }, { QStringLiteral("buttons"), buttons },
-        { QStringLiteral("title"), title }, { QStringLiteral("caption"), title } };
+        { QStringLiteral("title"), title }, { QStringLiteral("caption"), caption } };
+}
+inline QVariantMap messageBox(const QString &prompt, int buttons, const QString &title)
+{
+    return messageBox(prompt, buttons, title, title);
 }
 
 // The one message box shown, reduced to what the user reads; empty when nothing was
 // shown, the count when more than one was.
 inline QVariantMap onlyMessage(const RecordingPlatform &machine)
 {
-    const QVariantList shown = machine.shown();
+    const QList<ShownEvent> shown = machine.shown();
     if (shown.isEmpty())
         return {};
     if (shown.size() > 1)
         return { { QStringLiteral("count"), shown.size() } };
-    QVariantMap box = shown.first().toMap();
-    for (const char *detail : { "kind", "type", "answer", "buttonsShown" })
-        box.remove(QLatin1String(detail));
-    return box;
+    if (const auto *box = std::get_if<MessageBoxEShown>(&shown.first()))
+        return messageBox(box->prompt, box->buttons, box->title, box->caption);
+    if (const auto *box = std::get_if<MessageBoxShown>(&shown.first()))
+        return { { QStringLiteral("prompt"), box->prompt },
+            { QStringLiteral("buttons"), box->buttons }, { QStringLiteral("title"), box->title } };
+    return { { QStringLiteral("kind"), kindOf(shown.first()) } };
 }
 
 } // namespace qor::test

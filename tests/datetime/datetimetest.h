@@ -30,12 +30,12 @@ inline std::shared_ptr<RecordingPlatform> installDateMachine(
 // The prompts of the one message shown, or "" when none was.
 inline QString shownPrompt(const RecordingPlatform &machine)
 {
-    const QVariantList shown = machine.shown();
+    const QList<ShownEvent> shown = machine.shown();
     if (shown.isEmpty())
         return QString();
     if (shown.size() > 1)
         return QStringLiteral("%1 messages").arg(shown.size());
-    return shown.first().toMap().value(QStringLiteral("prompt")).toString();
+    return onlyMessage(machine).value(QStringLiteral("prompt")).toString();
 }
 
 } // namespace qor::test

@@ -91,11 +91,10 @@ private slots:
         // A text that is no date is reported by each of the two.
         const bool refused = start == day(1899, 12, 30);
         QCOMPARE(machine->shown().size(), refused ? 2 : 0);
-        for (const QVariant &shown : machine->shown()) {
-            QVariantMap box = shown.toMap();
-            for (const char *detail : { "kind", "type", "answer", "buttonsShown" })
-                box.remove(QLatin1String(detail));
-            QCOMPARE(box, fault);
+        for (const ShownEvent &shown : machine->shown()) {
+            const auto *box = std::get_if<MessageBoxEShown>(&shown);
+            QVERIFY(box);
+            QCOMPARE(test::messageBox(box->prompt, box->buttons, box->title, box->caption), fault);
         }
     }
 
@@ -193,9 +192,8 @@ private slots:
         clsqorGenLib lib;
         DateControl control;
         lib.SetDText(&control, country);
-        const QVariantMap shown { { "kind", "MsgBox" }, { "prompt", developmentNotice },
-            { "buttons", 0 }, { "title", QString() }, { "answer", 1 } };
-        QCOMPARE(machine->shown(), notice ? QVariantList { shown } : QVariantList());
+        const ShownEvent shown = MessageBoxShown { developmentNotice, 0, QString(), 1 };
+        QCOMPARE(machine->shown(), notice ? QList<ShownEvent> { shown } : QList<ShownEvent>());
         // The holidays are set whether the notice was shown or not.
         QVERIFY(control.property("Calendar")
                     .value<QObject *>()

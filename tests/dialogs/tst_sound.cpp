@@ -83,15 +83,12 @@ private slots:
         playSound(file, true, directory, 0);
         QCOMPARE(file, fileAfter.replace(QLatin1Char('~'), root));
         QCOMPARE(directory, directoryAfter.replace(QLatin1Char('~'), root));
-        const QVariantMap shown = machine->shown().value(0).toMap();
         QCOMPARE(machine->shown().size(), 1);
-        if (found) {
-            QCOMPARE(shown.value(QStringLiteral("kind")).toString(), QStringLiteral("sound"));
-            QCOMPARE(shown.value(QStringLiteral("file")).toString(), file);
-            QCOMPARE(shown.value(QStringLiteral("continuous")).toBool(), true);
-        } else {
-            QCOMPARE(shown.value(QStringLiteral("kind")).toString(), QStringLiteral("MsgBox"));
-        }
+        const ShownEvent shown = machine->shown().first();
+        if (found)
+            QCOMPARE(shown, ShownEvent(SoundPlayed { file, true }));
+        else
+            QVERIFY(std::holds_alternative<MessageBoxShown>(shown));
     }
 
     void missingFileNotice_data()
@@ -123,8 +120,7 @@ private slots:
         QCOMPARE(file, first);
         library.PlaySound(file);
         QCOMPARE(file, root + QStringLiteral("\\app\\MultiMedia\\") + first);
-        QCOMPARE(machine->shown().value(1).toMap().value(QStringLiteral("kind")).toString(),
-            QStringLiteral("MsgBox"));
+        QVERIFY(std::holds_alternative<MessageBoxShown>(machine->shown().value(1)));
     }
 
     void emptyNameStops()
@@ -132,7 +128,7 @@ private slots:
         QString file;
         QString directory = QStringLiteral("untouched");
         playSound(file, true, directory, 0);
-        QCOMPARE(machine->shown(), (QVariantList { QVariantMap { { "kind", "stopSound" } } }));
+        QCOMPARE(machine->shown(), QList<ShownEvent> { SoundStopped {} });
         QCOMPARE(directory, QStringLiteral("untouched"));
     }
 
@@ -143,8 +139,7 @@ private slots:
         QString directory;
         playSound(file, false, directory, 0);
         QCOMPARE(file, QStringLiteral("\\MultiMedia\\Ding.wav"));
-        QCOMPARE(machine->shown().value(0).toMap().value(QStringLiteral("kind")).toString(),
-            QStringLiteral("MsgBox"));
+        QVERIFY(std::holds_alternative<MessageBoxShown>(machine->shown().value(0)));
     }
 
     // Every platform, the recording one too, runs a box's sound step once when
@@ -185,16 +180,13 @@ private slots:
         else
             library.InputBoxE(QStringLiteral("Tekst"), QStringLiteral("Titel"));
         QStringList heard;
-        for (const QVariant &entry : machine->shown()) {
-            const QVariantMap record = entry.toMap();
-            const QString kind = record.value(QStringLiteral("kind")).toString();
-            if (kind == QLatin1String("sound"))
-                heard.append(
-                    record.value(QStringLiteral("file")).toString().section(QLatin1Char('\\'), -1));
-            else if (kind == QLatin1String("MsgBox"))
-                heard.append(record.value(QStringLiteral("title")).toString());
+        for (const ShownEvent &entry : machine->shown()) {
+            if (const auto *sound = std::get_if<SoundPlayed>(&entry))
+                heard.append(sound->file.section(QLatin1Char('\\'), -1));
+            else if (const auto *box = std::get_if<MessageBoxShown>(&entry))
+                heard.append(box->title);
             else
-                heard.append(kind);
+                heard.append(kindOf(entry));
         }
         QTEST(heard.join(QLatin1Char('|')), "heard");
     }

@@ -125,14 +125,13 @@ private slots:
         QCOMPARE(
             showMessageBoxE(QStringLiteral("Doorgaan ?"), 36, QStringLiteral("Mijn titel")), 7);
         QCOMPARE(modGenLib().msgBoxResult, 7);
-        const QVariantMap shown = machine->shown().at(0).toMap();
-        QCOMPARE(shown.value("kind").toString(), QStringLiteral("MsgBoxE"));
-        QCOMPARE(shown.value("caption").toString(), QStringLiteral("Mijn titel"));
-        QCOMPARE(shown.value("type").toString(), QStringLiteral("Question"));
-        QCOMPARE(shown.value("answer").toInt(), 7);
-        QCOMPARE(shown.value("buttonsShown").toList(),
-            (QVariantList { QVariantMap { { "name", "cmdYes" }, { "caption", "Ja" } },
-                QVariantMap { { "name", "cmdNo" }, { "caption", "Nee" } } }));
+        const auto *shown = std::get_if<MessageBoxEShown>(&machine->shown().at(0));
+        QVERIFY(shown);
+        QCOMPARE(shown->caption, QStringLiteral("Mijn titel"));
+        QCOMPARE(shown->type, QStringLiteral("Question"));
+        QCOMPARE(shown->answer, 7);
+        QCOMPARE(
+            shown->buttonsShown, (QList<ShownButton> { { "cmdYes", "Ja" }, { "cmdNo", "Nee" } }));
         QVERIFY(machine->pendingAnswers().isEmpty());
     }
 };

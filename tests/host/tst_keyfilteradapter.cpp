@@ -17,8 +17,8 @@ namespace {
 int count(const RecordingPlatform &machine, const QString &kind)
 {
     int n = 0;
-    for (const QVariant &shown : machine.shown())
-        n += shown.toMap().value("kind").toString() == kind ? 1 : 0;
+    for (const ShownEvent &shown : machine.shown())
+        n += kindOf(shown) == kind ? 1 : 0;
     return n;
 }
 

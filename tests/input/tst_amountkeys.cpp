@@ -37,19 +37,15 @@ Outcome outcomeOf(const RecordingPlatform &machine, const QList<int> &results)
 {
     Outcome outcome;
     outcome.results = results;
-    for (const QVariant &shown : machine.shown()) {
-        const QVariantMap event = shown.toMap();
-        const QString kind = event.value("kind").toString();
-        if (kind == QLatin1String("beep"))
+    for (const ShownEvent &event : machine.shown()) {
+        if (std::holds_alternative<BeepSounded>(event))
             ++outcome.beeps;
-        else if (kind == QLatin1String("MsgBoxE")) {
+        else if (const auto *box = std::get_if<MessageBoxEShown>(&event)) {
             // Every refusal of the calculator's result has the same title and buttons.
-            const bool calculatorBox = event.value("title").toString() == calculatorTitle
-                && event.value("buttons").toInt() == 48;
-            outcome.prompts.append(
-                calculatorBox ? event.value("prompt").toString() : QStringLiteral("another box"));
-        } else if (kind == QLatin1String("Note"))
-            outcome.notes.append(event.value("text").toString());
+            const bool calculatorBox = box->title == calculatorTitle && box->buttons == 48;
+            outcome.prompts.append(calculatorBox ? box->prompt : QStringLiteral("another box"));
+        } else if (const auto *note = std::get_if<NoteShown>(&event))
+            outcome.notes.append(note->text);
     }
     return outcome;
 }

@@ -35,11 +35,9 @@ private slots:
         const auto machine = test::installRecordingPlatform();
         clsqorGenLib().SendAKey(short(key));
         // A key down, then the same key up.
-        const auto event = [&](int flags) {
-            return QVariantMap { { "kind", "key" }, { "virtualKey", virtualKey },
-                { "scanCode", scanCode }, { "flags", flags } };
-        };
-        QCOMPARE(machine->actions(), QVariantList({ event(0), event(2) }));
+        QCOMPARE(machine->actions(),
+            (QList<MachineAction> {
+                KeySent { virtualKey, scanCode, 0 }, KeySent { virtualKey, scanCode, 2 } }));
     }
 };
 

@@ -15,12 +15,9 @@ namespace {
 QStringList seen(const RecordingPlatform &machine)
 {
     QStringList kinds;
-    for (const QVariant &event : machine.shown()) {
-        const QVariantMap map = event.toMap();
-        const QString kind = map.value(QStringLiteral("kind")).toString();
-        kinds << (kind == QLatin1String("MsgBox")
-                ? kind + QLatin1Char(':') + map.value(QStringLiteral("title")).toString()
-                : kind);
+    for (const ShownEvent &event : machine.shown()) {
+        const auto *box = std::get_if<MessageBoxShown>(&event);
+        kinds << (box ? kindOf(event) + QLatin1Char(':') + box->title : kindOf(event));
     }
     return kinds;
 }
@@ -134,7 +131,7 @@ private slots:
         for (const QChar key : keys)
             library.ScanBM(&field, qint16(key.unicode()), format, false, true);
         QTEST(test::onlyMessage(*machine).value(QStringLiteral("prompt")).toString(), "prompt");
-        QCOMPARE(machine->shown().value(0).toMap().value(QStringLiteral("buttons")).toInt(), 48);
+        QCOMPARE(test::onlyMessage(*machine).value(QStringLiteral("buttons")).toInt(), 48);
     }
 
     void caretAfterTheScan()

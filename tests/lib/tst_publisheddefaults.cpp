@@ -19,7 +19,7 @@ struct Outcome
 {
     QVariant result;
     QVariantList arguments;
-    QVariantList shown;
+    QList<ShownEvent> shown;
     int error = 0;
 };
 

@@ -66,7 +66,7 @@ private slots:
         QVERIFY(!byDefault.cancelled);
         QCOMPARE(byDefault.text, QStringLiteral("abc"));
         QCOMPARE(machine.shown().size(), 3);
-        QCOMPARE(machine.shown().at(0).toMap().value("maxLength").toInt(), 4);
+        QCOMPARE(std::get<InputBoxEShown>(machine.shown().at(0)).maxLength, 4);
     }
 };
 

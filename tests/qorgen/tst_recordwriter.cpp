@@ -31,11 +31,11 @@ void produce(RecordingPlatform &machine, const QString &kind, QObject *form)
         machine.keepOnTop(form, 0);
 }
 
-QJsonObject written(const QVariantMap &record, bool shown)
+template <class Record> QJsonObject written(const Record &record)
 {
     QByteArray text;
     JsonWriter out(text);
-    if (shown)
+    if constexpr (std::is_same_v<Record, ShownEvent>)
         RecordWriter::writeShown(out, record);
     else
         RecordWriter::writeAction(out, record);
@@ -78,27 +78,29 @@ private slots:
         Platform::install(previous);
 
         QStringList kinds;
-        for (const bool shown : { true, false }) {
-            for (const QVariant &entry : shown ? machine->shown() : machine->actions()) {
-                const QVariantMap record = entry.toMap();
-                kinds.append(record.value("kind").toString());
-                const QJsonObject json = written(record, shown);
-                QCOMPARE(json.keys(), record.keys());
-                for (auto it = record.begin(); it != record.end(); ++it) {
-                    const QJsonValue actual = json.value(it.key());
-                    // A host object is written whole, as the codec writes every object.
-                    const QJsonValue expected = it.value().typeId() == QMetaType::QObjectStar
-                        ? QJsonValue(QStringLiteral("Form"))
-                        : QJsonValue::fromVariant(it.value());
-                    const QJsonValue compared = it.value().typeId() == QMetaType::QObjectStar
-                        ? actual.toObject().value("$object")
-                        : actual;
-                    QVERIFY2(compared == expected,
-                        qPrintable(kind + "." + it.key() + ": "
-                            + QJsonDocument(QJsonArray { actual }).toJson(QJsonDocument::Compact)));
-                }
+        const auto check = [&](const auto &entry) {
+            const QVariantMap record = RecordWriter::fields(entry);
+            kinds.append(kindOf(entry));
+            const QJsonObject json = written(entry);
+            QCOMPARE(json.keys(), record.keys());
+            for (auto it = record.begin(); it != record.end(); ++it) {
+                const QJsonValue actual = json.value(it.key());
+                // A host object is written whole, as the codec writes every object.
+                const QJsonValue expected = it.value().typeId() == QMetaType::QObjectStar
+                    ? QJsonValue(QStringLiteral("Form"))
+                    : QJsonValue::fromVariant(it.value());
+                const QJsonValue compared = it.value().typeId() == QMetaType::QObjectStar
+                    ? actual.toObject().value("$object")
+                    : actual;
+                QVERIFY2(compared == expected,
+                    qPrintable(kind + "." + it.key() + ": "
+                        + QJsonDocument(QJsonArray { actual }).toJson(QJsonDocument::Compact)));
             }
-        }
+        };
+        for (const ShownEvent &entry : machine->shown())
+            check(entry);
+        for (const MachineAction &entry : machine->actions())
+            check(entry);
         QVERIFY2(kinds.contains(kind), qPrintable(kinds.join(", ")));
     }
 };

@@ -121,9 +121,9 @@ private slots:
         timer.start();
         QTEST(lib.ShellAndWait(commandLine, style), "result");
         QVERIFY(timer.elapsed() >= waited);
-        const QVariantMap start { { "kind", "start" }, { "command", commandLine },
-            { "windowStyle", style } };
-        QCOMPARE(machine->actions(), started ? QVariantList { start } : QVariantList());
+        const MachineAction start = ProcessStarted { commandLine, style };
+        QCOMPARE(
+            machine->actions(), started ? QList<MachineAction> { start } : QList<MachineAction>());
         if (description.isEmpty()) {
             QVERIFY(machine->shown().isEmpty());
         } else {

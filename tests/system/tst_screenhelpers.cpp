@@ -183,9 +183,7 @@ private slots:
         form.setProperty("hWnd", 4242);
         clsqorGenLib lib;
         QVERIFY(!lib.FormOnTop(&form).isValid());
-        QCOMPARE(machine->actions(),
-            (QVariantList { QVariantMap {
-                { "kind", "onTop" }, { "object", QVariant::fromValue<QObject *>(&form) } } }));
+        QCOMPARE(machine->actions(), QList<MachineAction> { FormKeptOnTop { &form } });
         QObject noWindow;
         QCOMPARE(test::errorNumber([&] { lib.FormOnTop(&noWindow); }), 438);
     }
@@ -201,10 +199,12 @@ private slots:
         clsqorGenLib lib;
         lib.SetDeskTop(&form);
         QStringList prompts;
-        for (const QVariant &shown : machine->shown()) {
-            QCOMPARE(shown.toMap().value("buttons").toInt(), 0);
-            QCOMPARE(shown.toMap().value("title").toString(), QString());
-            prompts << shown.toMap().value("prompt").toString();
+        for (const ShownEvent &shown : machine->shown()) {
+            const auto *box = std::get_if<MessageBoxShown>(&shown);
+            QVERIFY(box);
+            QCOMPARE(box->buttons, 0);
+            QCOMPARE(box->title, QString());
+            prompts << box->prompt;
         }
         QCOMPARE(prompts,
             (QStringList { messageText("BorderStyle", "2 - Sizable"),

@@ -48,10 +48,121 @@ void writeField(JsonSink &out, const QString &key, const QVariant &value)
     writePlain(out, value);
 }
 
+QVariant cancelled()
+{
+    return QVariantMap { { QStringLiteral("cancel"), true } };
+}
+
+QVariantMap fieldsOf(const MessageBoxEShown &box)
+{
+    QVariantList buttons;
+    for (const ShownButton &button : box.buttonsShown)
+        buttons.append(QVariantMap { { QStringLiteral("name"), button.name },
+            { QStringLiteral("caption"), button.caption } });
+    QVariantMap fields { { QStringLiteral("prompt"), box.prompt },
+        { QStringLiteral("buttons"), box.buttons }, { QStringLiteral("title"), box.title },
+        { QStringLiteral("caption"), box.caption }, { QStringLiteral("type"), box.type },
+        { QStringLiteral("buttonsShown"), buttons } };
+    if (box.answer)
+        fields.insert(QStringLiteral("answer"), *box.answer);
+    return fields;
+}
+
+QVariantMap fieldsOf(const MessageBoxShown &box)
+{
+    return { { QStringLiteral("prompt"), box.prompt }, { QStringLiteral("buttons"), box.buttons },
+        { QStringLiteral("title"), box.title }, { QStringLiteral("answer"), box.answer } };
+}
+
+QVariantMap fieldsOf(const InputBoxEShown &box)
+{
+    QVariantMap fields { { QStringLiteral("prompt"), box.prompt },
+        { QStringLiteral("title"), box.title }, { QStringLiteral("default"), box.defaultValue },
+        { QStringLiteral("maxLength"), box.maxLength } };
+    if (box.answer)
+        fields.insert(QStringLiteral("answer"),
+            box.answer->cancelled ? cancelled() : QVariant(box.answer->text));
+    return fields;
+}
+
+QVariantMap fieldsOf(const CalculatorShown &calculator)
+{
+    return { { QStringLiteral("start"), calculator.start },
+        { QStringLiteral("answer"),
+            calculator.cancelled ? cancelled() : QVariant(calculator.result) } };
+}
+
+QVariantMap fieldsOf(const CalculatorHelpShown &card)
+{
+    return { { QStringLiteral("title"), card.title }, { QStringLiteral("lines"), card.lines } };
+}
+
+QVariantMap fieldsOf(const NoteShown &note)
+{
+    return { { QStringLiteral("text"), note.text } };
+}
+
+QVariantMap fieldsOf(const SoundPlayed &sound)
+{
+    return { { QStringLiteral("file"), sound.file },
+        { QStringLiteral("continuous"), sound.continuous } };
+}
+
+QVariantMap fieldsOf(const ProcessStarted &start)
+{
+    return { { QStringLiteral("command"), start.command },
+        { QStringLiteral("windowStyle"), start.windowStyle } };
+}
+
+QVariantMap fieldsOf(const FormKeptOnTop &onTop)
+{
+    return { { QStringLiteral("object"), QVariant::fromValue(onTop.form) } };
+}
+
+QVariantMap fieldsOf(const MousePointerSet &pointer)
+{
+    return { { QStringLiteral("pointer"), pointer.pointer } };
+}
+
+QVariantMap fieldsOf(const KeySent &key)
+{
+    return { { QStringLiteral("virtualKey"), key.virtualKey },
+        { QStringLiteral("scanCode"), key.scanCode }, { QStringLiteral("flags"), key.flags } };
+}
+
+// A record without fields of its own: its kind alone.
+template <class Record> QVariantMap fieldsOf(const Record &)
+{
+    return {};
+}
+
+template <class Record> QVariantMap withKind(const Record &record)
+{
+    return std::visit(
+        [](const auto &event) {
+            QVariantMap fields = fieldsOf(event);
+            fields.insert(
+                QStringLiteral("kind"), QString::fromLatin1(std::decay_t<decltype(event)>::kind));
+            return fields;
+        },
+        record);
+}
+
 } // namespace
 
-void RecordWriter::writeShown(JsonSink &out, const QVariantMap &record)
+QVariantMap RecordWriter::fields(const ShownEvent &record)
 {
+    return withKind(record);
+}
+
+QVariantMap RecordWriter::fields(const MachineAction &record)
+{
+    return withKind(record);
+}
+
+void RecordWriter::writeShown(JsonSink &out, const ShownEvent &shown)
+{
+    const QVariantMap record = fields(shown);
     static const QStringList order { QStringLiteral("kind"), QStringLiteral("prompt"),
         QStringLiteral("text"), QStringLiteral("buttons"), QStringLiteral("title"),
         QStringLiteral("caption"), QStringLiteral("type"), QStringLiteral("default"),
@@ -69,9 +180,9 @@ void RecordWriter::writeShown(JsonSink &out, const QVariantMap &record)
     out.endObject();
 }
 
-void RecordWriter::writeAction(JsonSink &out, const QVariantMap &record)
+void RecordWriter::writeAction(JsonSink &out, const MachineAction &action)
 {
-    writePlain(out, record);
+    writePlain(out, fields(action));
 }
 
 } // namespace qor

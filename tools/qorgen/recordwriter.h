@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/recordedevent.h"
+
 #include <QVariantMap>
 
 namespace qor {
@@ -7,15 +9,18 @@ namespace qor {
 class JsonSink;
 
 // Writes what the recording platform recorded (the "shown" and "actions" of a
-// response) as JSON objects, every field with its nested lists and maps as the
-// platform holds them.
+// response) as JSON objects: a "kind" and the fields of the record, with their
+// nested lists and maps.
 class RecordWriter
 {
 public:
+    // The fields a record is written with, its kind among them.
+    static QVariantMap fields(const ShownEvent &record);
+    static QVariantMap fields(const MachineAction &record);
     // A shown record, its fields in the order people read them.
-    static void writeShown(JsonSink &out, const QVariantMap &record);
-    // An action record, its fields in the platform's order.
-    static void writeAction(JsonSink &out, const QVariantMap &record);
+    static void writeShown(JsonSink &out, const ShownEvent &record);
+    // An action record, its fields in the order of their names.
+    static void writeAction(JsonSink &out, const MachineAction &record);
 };
 
 } // namespace qor

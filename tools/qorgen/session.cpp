@@ -331,14 +331,14 @@ Session::Outcome Session::run(Call &call, JsonSink &out)
     }
     out.key(u"shown");
     out.beginArray();
-    for (const QVariant &record : m_platform->shown())
-        RecordWriter::writeShown(out, record.toMap());
+    for (const ShownEvent &record : m_platform->shown())
+        RecordWriter::writeShown(out, record);
     out.endArray();
     if (!m_platform->actions().isEmpty()) {
         out.key(u"actions");
         out.beginArray();
-        for (const QVariant &record : m_platform->actions())
-            RecordWriter::writeAction(out, record.toMap());
+        for (const MachineAction &record : m_platform->actions())
+            RecordWriter::writeAction(out, record);
         out.endArray();
     }
     if (error) {
