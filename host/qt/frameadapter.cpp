@@ -1,7 +1,5 @@
 #include "host/qt/frameadapter.h"
 
-#include "host/qt/twips.h"
-
 #include <QFrame>
 #include <QGroupBox>
 
@@ -46,14 +44,12 @@ void FrameAdapter::setBorderStyle(qint32 style)
 qint32 FrameAdapter::backColor() const
 {
     QWidget *frame = widget();
-    return twips::fromColor(frame->palette().color(frame->backgroundRole()));
+    return colourNumber(frame->palette().color(frame->backgroundRole()));
 }
 void FrameAdapter::setBackColor(qint32 colour)
 {
     QWidget *frame = widget();
-    QPalette palette = frame->palette();
-    palette.setColor(frame->backgroundRole(), twips::toColor(colour, palette));
-    frame->setPalette(palette);
+    paint(frame, frame->backgroundRole(), colour);
     frame->setAutoFillBackground(true);
 }
 

@@ -1,6 +1,6 @@
 #include "host/qt/gridstyleadapter.h"
 
-#include "host/qt/twips.h"
+#include "host/qt/widgetadapter.h"
 #include "runtime/runtimeerror.h"
 
 #include <QAbstractItemView>
@@ -20,9 +20,7 @@ void GridStyleAdapter::paint(QPalette::ColorRole role, qint32 colour)
 {
     if (!m_view)
         throw RuntimeError::objectNotSet();
-    QPalette palette = m_view->palette();
-    palette.setColor(role, twips::toColor(colour, palette));
-    m_view->setPalette(palette);
+    WidgetAdapter::paint(m_view, role, colour);
 }
 
 void GridStyleAdapter::setBackColor(qint32 colour)

@@ -2,8 +2,8 @@
 
 #include "host/qt/headingstyleadapter.h"
 #include "host/qt/translationdelegate.h"
-#include "host/qt/twips.h"
 #include "host/qt/valueitemsadapter.h"
+#include "host/qt/widgetadapter.h"
 #include "runtime/runtimeerror.h"
 
 #include <QHeaderView>
@@ -75,13 +75,13 @@ float TableColumnAdapter::width() const
 {
     const int pixels
         = header()->isSectionHidden(m_index) ? m_widthPixels : header()->sectionSize(m_index);
-    return twips::fromPixelsX(pixels);
+    return WidgetAdapter::twips(pixels, true);
 }
 
 void TableColumnAdapter::setWidth(float twipsWidth)
 {
     // A section has no negative size: a negative width shows as 0.
-    m_widthPixels = qMax(0, twips::toPixelsX(twipsWidth));
+    m_widthPixels = qMax(0, WidgetAdapter::pixels(twipsWidth, true));
     if (!header()->isSectionHidden(m_index))
         header()->resizeSection(m_index, m_widthPixels);
 }

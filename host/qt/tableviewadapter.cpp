@@ -2,7 +2,6 @@
 
 #include "host/qt/gridstyleadapter.h"
 #include "host/qt/tablecolumnsadapter.h"
-#include "host/qt/twips.h"
 #include "runtime/runtimeerror.h"
 
 #include <QHeaderView>
@@ -61,9 +60,7 @@ void TableViewAdapter::setAllowUpdate(bool allow)
 void TableViewAdapter::setDeadAreaBackColor(qint32 colour)
 {
     // The area beside and below the cells is the view's window colour.
-    QPalette palette = view()->palette();
-    palette.setColor(QPalette::Window, twips::toColor(colour, palette));
-    view()->setPalette(palette);
+    paint(view(), QPalette::Window, colour);
     m_deadAreaBackColor = colour;
 }
 
@@ -131,7 +128,7 @@ void TableViewAdapter::setRowDividerStyle(qint32 style)
 
 float TableViewAdapter::rowHeight() const
 {
-    return twips::fromPixelsY(view()->verticalHeader()->defaultSectionSize());
+    return twips(view()->verticalHeader()->defaultSectionSize(), false);
 }
 
 void TableViewAdapter::setRowHeight(float twipsHeight)
@@ -139,7 +136,7 @@ void TableViewAdapter::setRowHeight(float twipsHeight)
     QHeaderView *rows = view()->verticalHeader();
     rows->setMinimumSectionSize(1);
     rows->setSectionResizeMode(QHeaderView::Fixed);
-    rows->setDefaultSectionSize(qMax(1, twips::toPixelsY(twipsHeight)));
+    rows->setDefaultSectionSize(qMax(1, pixels(twipsHeight, false)));
 }
 
 QObject *TableViewAdapter::style() const

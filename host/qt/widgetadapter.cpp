@@ -105,4 +105,16 @@ QColor WidgetAdapter::colourOf(qint32 colour)
     return qor::twips::toColor(colour, QApplication::palette());
 }
 
+qint32 WidgetAdapter::colourNumber(const QColor &colour)
+{
+    return qor::twips::fromColor(colour);
+}
+
+void WidgetAdapter::paint(QWidget *widget, QPalette::ColorRole role, qint32 colour)
+{
+    QPalette palette = widget->palette();
+    palette.setColor(role, qor::twips::toColor(colour, palette));
+    widget->setPalette(palette);
+}
+
 } // namespace qor

@@ -4,6 +4,7 @@
 
 #include <QColor>
 #include <QObject>
+#include <QPalette>
 #include <QPointer>
 #include <QWidget>
 
@@ -46,6 +47,11 @@ public:
 
     /// A classic colour number (&HBBGGRR, or &H800000xx for a system colour).
     static QColor colourOf(qint32 colour);
+    /// The classic colour number (&HBBGGRR) of a colour.
+    static qint32 colourNumber(const QColor &colour);
+    /// Gives a role of the widget's palette a classic colour number; a system
+    /// colour is taken from that palette.
+    static void paint(QWidget *widget, QPalette::ColorRole role, qint32 colour);
     /// Twips to pixels and back, horizontally or vertically.
     static int pixels(double twips, bool horizontal);
     static float twips(int pixels, bool horizontal);
