@@ -4,13 +4,13 @@
 include(CMakePackageConfigHelpers)
 
 qor_public_headers(
-  lib/clsqorgenlib.h lib/clsqoreinvoice.h lib/typelibrary.h lib/frame/qorenums.h lib/frame/windowsize.h
+  lib/clsqorgenlib.h lib/clsqorgenlibdefaults.h lib/publisheddefault.h lib/clsqoreinvoice.h
+  lib/typelibrary.h lib/frame/qorenums.h lib/frame/windowsize.h
   platform/platform.h platform/clock.h platform/dialogpresenter.h platform/sound.h
   platform/filesystem.h platform/processes.h platform/desktop.h platform/keyboard.h
   platform/coreplatform.h calculator/calculatorsession.h calculator/calculatorpresenter.h
   platform/recordingplatform.h platform/recordedevent.h
   runtime/regionalsettings.h runtime/runtimeerror.h runtime/variant.h runtime/propertybag.h
-  grid/gridcolumnwidths.h
   einvoice/decimal.h einvoice/party.h einvoice/vatcategory.h einvoice/allowancecharge.h
   einvoice/invoiceline.h einvoice/payment.h einvoice/invoiceamounts.h einvoice/invoice.h
   einvoice/invoicetotals.h einvoice/invoicejson.h einvoice/ublwriter.h einvoice/ublreader.h

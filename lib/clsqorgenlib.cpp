@@ -1,4 +1,5 @@
 #include "lib/clsqorgenlib.h"
+#include "lib/clsqorgenlibprivate.h"
 
 #include "calculator/showcalculator.h"
 #include "calculator/vatrates.h"
@@ -50,6 +51,7 @@ RegionalSettings regional()
 
 clsqorGenLib::clsqorGenLib(QObject *parent)
     : QObject(parent)
+    , d(std::make_unique<clsqorGenLibPrivate>())
 {
     // Construction order is part of the contract: the station flag comes last.
     m_vbSplit = QString(2, QChar(0x00AD));
@@ -69,7 +71,7 @@ clsqorGenLib::~clsqorGenLib() = default;
 
 const TypeLibrary &clsqorGenLib::typeLibrary()
 {
-    static const TypeLibrary library(&clsqorGenLib::staticMetaObject,
+    static const TypeLibrary library(&clsqorGenLib::staticMetaObject, clsqorGenLibDefaults,
         { &qorGenLib::staticMetaObject }, { &qorGenLib::WindowSize::staticMetaObject });
     return library;
 }
@@ -152,7 +154,7 @@ QString clsqorGenLib::ControleerVAT(QString &VATnr, bool MBox, QString &LandCode
 
 QString clsqorGenLib::ControleerVAT(QString &VATnr, bool MBox)
 {
-    QString landCode;
+    QString landCode = genLibDefault<QLatin1StringView>("ControleerVAT", "LandCode");
     return ControleerVAT(VATnr, MBox, landCode);
 }
 
@@ -247,8 +249,9 @@ qint16 clsqorGenLib::ScanBM(
 
 qint16 clsqorGenLib::ScanBM(QObject *TextBox, qint16 KA)
 {
-    QString scanFormat;
-    return ScanBM(TextBox, KA, scanFormat, false, true);
+    QString scanFormat = genLibDefault<QLatin1StringView>("ScanBM", "ScanFormat");
+    return ScanBM(TextBox, KA, scanFormat, genLibDefault<bool>("ScanBM", "ReturnFieldOnly"),
+        genLibDefault<bool>("ScanBM", "MBox"));
 }
 
 void clsqorGenLib::PlaySound(QString &FileName, bool Continuous, QString &SoundDirectory)
@@ -258,7 +261,7 @@ void clsqorGenLib::PlaySound(QString &FileName, bool Continuous, QString &SoundD
 
 void clsqorGenLib::PlaySound(QString &FileName, bool Continuous)
 {
-    QString soundDirectory;
+    QString soundDirectory = genLibDefault<QLatin1StringView>("PlaySound", "SoundDirectory");
     PlaySound(FileName, Continuous, soundDirectory);
 }
 
@@ -310,7 +313,7 @@ void clsqorGenLib::SetDText(
 
 void clsqorGenLib::SetDText(QObject *DText)
 {
-    QString countryCode = QStringLiteral("BE");
+    QString countryCode = genLibDefault<QLatin1StringView>("SetDText", "CountryCode");
     SetDText(DText, countryCode);
 }
 
@@ -328,7 +331,7 @@ QVariant clsqorGenLib::GetExportData(qint32 &LineNumber, QStringList &Data,
 QVariant clsqorGenLib::GetExportData(
     qint32 &LineNumber, QStringList &Data, QVariant &arrFieldLength)
 {
-    QVariant noFormats;
+    QVariant noFormats = genLibDefault("GetExportData", "arrFormat").toVariant();
     return GetExportData(LineNumber, Data, arrFieldLength, noFormats);
 }
 
@@ -357,14 +360,14 @@ QVariant clsqorGenLib::KeyGetal(
 
 QVariant clsqorGenLib::KeyGetal(QObject *TextBox, short &KA)
 {
-    QVariant nbrDecimals = missingVariant();
+    QVariant nbrDecimals = genLibDefault("KeyGetal", "NbrDecimals").toVariant();
     return KeyGetal(TextBox, KA, nbrDecimals);
 }
 
 QVariant clsqorGenLib::KeyGetal(QObject *TextBox, short &KA, QVariant &NbrDecimals)
 {
-    bool negNumber = false;
-    bool flexgrid = false;
+    bool negNumber = genLibDefault<bool>("KeyGetal", "NegNumber");
+    bool flexgrid = genLibDefault<bool>("KeyGetal", "Flexgrid");
     return KeyGetal(TextBox, KA, NbrDecimals, negNumber, flexgrid);
 }
 
@@ -376,8 +379,8 @@ QVariant clsqorGenLib::KeyEuro(QObject *TextBox, short &KA, QVariant &EurDecimal
 
 QVariant clsqorGenLib::KeyEuro(QObject *TextBox, short &KA)
 {
-    QVariant eurDecimals = missingVariant();
-    bool negNumber = false;
+    QVariant eurDecimals = genLibDefault("KeyEuro", "EurDecimals").toVariant();
+    bool negNumber = genLibDefault<bool>("KeyEuro", "NegNumber");
     return KeyEuro(TextBox, KA, eurDecimals, negNumber);
 }
 
@@ -389,8 +392,8 @@ bool clsqorGenLib::KeySpin(
 
 bool clsqorGenLib::KeySpin(qorGenLib::SpinUpDown UpDown, QObject *TxtBox)
 {
-    QVariant maxValue = missingVariant();
-    QVariant minValue = missingVariant();
+    QVariant maxValue = genLibDefault("KeySpin", "MaxValue").toVariant();
+    QVariant minValue = genLibDefault("KeySpin", "MinValue").toVariant();
     return KeySpin(UpDown, TxtBox, maxValue, minValue);
 }
 
@@ -401,8 +404,8 @@ void clsqorGenLib::LoadComboBTW(QObject *Cbo, qint32 &SetValue, qint32 &SetListI
 
 void clsqorGenLib::LoadComboBTW(QObject *Cbo)
 {
-    qint32 setValue = 0;
-    qint32 setListIndex = 0;
+    qint32 setValue = genLibDefault<qint32>("LoadComboBTW", "SetValue");
+    qint32 setListIndex = genLibDefault<qint32>("LoadComboBTW", "SetListIndex");
     LoadComboBTW(Cbo, setValue, setListIndex);
 }
 
@@ -413,7 +416,7 @@ bool clsqorGenLib::ControleerBtwClick(bool &Reset)
 
 bool clsqorGenLib::ControleerBtwClick()
 {
-    bool reset = false;
+    bool reset = genLibDefault<bool>("ControleerBtwClick", "Reset");
     return ControleerBtwClick(reset);
 }
 
@@ -428,7 +431,7 @@ double clsqorGenLib::ShowCalculator(double Value)
 
 void clsqorGenLib::SetDBGridSize(QObject *DBGrid, QObject *Frame, bool FetchRowStyle)
 {
-    setDBGridSize(DBGrid, Frame, FetchRowStyle, m_gridWidths);
+    setDBGridSize(DBGrid, Frame, FetchRowStyle, d->gridWidths);
 }
 
 void clsqorGenLib::SetDBGridCol(QObject *DBGrid, short ColIndex, const QString &DataField,
@@ -438,7 +441,7 @@ void clsqorGenLib::SetDBGridCol(QObject *DBGrid, short ColIndex, const QString &
     setDBGridCol(DBGrid,
         { ColIndex, DataField, Caption, Alignment, ColWidth, Visible, NumberFormat, Merge,
             FetchStyle, AllowColSizing },
-        m_gridWidths);
+        d->gridWidths);
 }
 
 void clsqorGenLib::SetDBGridIcon(
@@ -472,7 +475,8 @@ void clsqorGenLib::SortArray(
 
 void clsqorGenLib::SortArray(QVariant &ArrayName, qorGenLib::OstSortOrder SortOrder)
 {
-    sortArray(ArrayName, SortOrder, nullptr, m_Offset);
+    QVariant refArrayName = genLibDefault("SortArray", "RefArrayName").toVariant();
+    SortArray(ArrayName, SortOrder, refArrayName);
 }
 
 // End of grids, lists and sorting
@@ -512,7 +516,7 @@ void clsqorGenLib::WriteIni(
 
 void clsqorGenLib::WriteIni(const QString &Header, const QString &Section, const QString &Value)
 {
-    QString iniFile;
+    QString iniFile = genLibDefault<QLatin1StringView>("WriteIni", "INIFile");
     WriteIni(Header, Section, Value, iniFile);
 }
 
@@ -524,7 +528,7 @@ QString clsqorGenLib::GetIni(
 
 QString clsqorGenLib::GetIni(const QString &Header, const QString &Section)
 {
-    QString iniFile;
+    QString iniFile = genLibDefault<QLatin1StringView>("GetIni", "INIFile");
     return GetIni(Header, Section, iniFile);
 }
 

@@ -2,7 +2,7 @@
 
 #include "qorgenlib_export.h"
 
-#include "grid/gridcolumnwidths.h"
+#include "lib/clsqorgenlibdefaults.h"
 #include "lib/frame/qorenums.h"
 #include "lib/frame/windowsize.h"
 
@@ -12,9 +12,12 @@
 #include <QVariant>
 #include <QVariantList>
 
+#include <memory>
+
 namespace qor {
 class TypeLibrary;
 }
+class clsqorGenLibPrivate;
 
 /// The library object a host creates once and keeps.
 ///
@@ -40,16 +43,11 @@ class TypeLibrary;
 ///   `FrmAct`, `AnEd`, `HoldSysData`, `HoldErr`, `HoldErrDes`, `vbRequery`,
 ///   `vbSee`, `DataCH`.
 ///
-/// Optional arguments are published as class info: one JSON object per method,
-/// parameter name to default value (null when the argument has no default).
+/// Optional arguments are published with the defaults of
+/// qor::clsqorGenLibDefaults, which the C++ default arguments name too.
 class QORGENLIB_EXPORT clsqorGenLib : public QObject
 {
     Q_OBJECT
-    Q_CLASSINFO("FilterAccenten", "{\"OnlyThese\": \"\"}")
-    Q_CLASSINFO("FilterText", "{\"FilterAccent\": false, \"DoNotRemove\": \"\"}")
-    Q_CLASSINFO("CGetal", "{\"Number\": 0}")
-    Q_CLASSINFO("SetEuro", "{\"AddSymbol\": 0}")
-    Q_CLASSINFO("SelEdit", "{\"StartAtEnd\": false, \"Flexgrid\": false}")
 
     Q_PROPERTY(QString msg MEMBER m_msg)
     Q_PROPERTY(QString SQL MEMBER m_SQL)
@@ -101,26 +99,34 @@ public:
     /// Text with accented letters replaced by plain ones (Æ to A, ß to ss), the
     /// apostrophe and the double quote by the acute accent; only the characters of
     /// OnlyThese when it is not empty.
-    Q_INVOKABLE QVariant FilterAccenten(QVariant &Text, const QString &OnlyThese = QString());
+    Q_INVOKABLE QVariant FilterAccenten(QVariant &Text,
+        const QString &OnlyThese
+        = qor::genLibDefault<QLatin1StringView>("FilterAccenten", "OnlyThese"));
     /// Plain letters only: accented letters unaccented (FilterAccent) or kept, and
     /// the characters of DoNotRemove kept.
-    Q_INVOKABLE QString FilterText(
-        const QString &Text, bool FilterAccent = false, const QString &DoNotRemove = QString());
+    Q_INVOKABLE QString FilterText(const QString &Text,
+        bool FilterAccent = qor::genLibDefault<bool>("FilterText", "FilterAccent"),
+        const QString &DoNotRemove
+        = qor::genLibDefault<QLatin1StringView>("FilterText", "DoNotRemove"));
     /// xText in lower case with a capital at the start of every word; xText is lowered.
     Q_INVOKABLE QString SCase(QString &xText);
 
     // Editing and amount helpers.
     /// Selects the whole text of an edit control (of a grid's cell editor with
     /// Flexgrid), or puts the caret after its last character (StartAtEnd).
-    Q_INVOKABLE void SelEdit(QObject *Obj, bool StartAtEnd = false, bool Flexgrid = false);
+    Q_INVOKABLE void SelEdit(QObject *Obj,
+        bool StartAtEnd = qor::genLibDefault<bool>("SelEdit", "StartAtEnd"),
+        bool Flexgrid = qor::genLibDefault<bool>("SelEdit", "Flexgrid"));
     /// What a field holds as a number under the regional settings: a Double, or
     /// the Integer 0 for Null, Empty, an empty text and anything not numeric.
-    Q_INVOKABLE QVariant CGetal(const QVariant &Number = QVariant::fromValue<short>(0));
+    Q_INVOKABLE QVariant CGetal(
+        const QVariant &Number = qor::genLibDefault("CGetal", "Number").toVariant());
     /// An amount with grouping and two decimals ("- 1.234,50" for a negative one
     /// under comma decimals), followed by " EUR" or a blank and the euro sign as
     /// AddSymbol asks.
-    Q_INVOKABLE QString SetEuro(
-        float Value, qorGenLib::OstSymbolType AddSymbol = qorGenLib::vbSymbolNone);
+    Q_INVOKABLE QString SetEuro(float Value,
+        qorGenLib::OstSymbolType AddSymbol
+        = qor::genLibDefault<qorGenLib::OstSymbolType>("SetEuro", "AddSymbol"));
     /// Types one character into whatever has the keyboard focus.
     Q_INVOKABLE void SendAKey(short KeyAscii);
 
@@ -132,48 +138,45 @@ public:
     // Identifier checks.
     // Each cleans the caller's variable, returns the number in its notation (""
     // when refused or blank) and, with MBox, reports a wrong number.
-    Q_CLASSINFO("ControleerBankNr", "{\"MBox\": true}")
-    Q_CLASSINFO("ControleerVAT", "{\"MBox\": false, \"LandCode\": \"\"}")
-    Q_CLASSINFO("ControleerNatNr", "{\"MBox\": true, \"LandCode\": \"\"}")
-    Q_CLASSINFO("ControleerIdentNr", "{\"MBox\": true}")
-    Q_CLASSINFO("ControleerOGM", "{\"MBox\": true}")
     /// A Belgian bank account: BankNr keeps its digits only; returns
     /// "000-0000000-00" or "" when the check digits are wrong.
-    Q_INVOKABLE QString ControleerBankNr(QString &BankNr, bool MBox = true);
+    Q_INVOKABLE QString ControleerBankNr(
+        QString &BankNr, bool MBox = qor::genLibDefault<bool>("ControleerBankNr", "MBox"));
     /// A VAT number: "0000.000.000" for a Belgian one (a deliberate "0" stands
     /// for a known absent number), the number as given for another land.
     /// LandCode is written back ("" becomes "BE"), so C++ gets its default
     /// through the overload below, which is not published.
     Q_INVOKABLE QString ControleerVAT(QString &VATnr, bool MBox, QString &LandCode);
     /// ControleerVAT() for a Belgian number.
-    QString ControleerVAT(QString &VATnr, bool MBox = false);
+    QString ControleerVAT(
+        QString &VATnr, bool MBox = qor::genLibDefault<bool>("ControleerVAT", "MBox"));
     /// A national register number, "000000.000.00", with the check of births
     /// before and from 2000; a LandCode other than "BE" passes the number as it is.
-    Q_INVOKABLE QString ControleerNatNr(
-        QString &NatNr, bool MBox = true, const QString &LandCode = QString());
+    Q_INVOKABLE QString ControleerNatNr(QString &NatNr,
+        bool MBox = qor::genLibDefault<bool>("ControleerNatNr", "MBox"),
+        const QString &LandCode
+        = qor::genLibDefault<QLatin1StringView>("ControleerNatNr", "LandCode"));
     /// An identity card number of twelve digits; check digits "97" are kept as
     /// "00". A refused number may still be accepted by the user as a foreign card.
-    Q_INVOKABLE QString ControleerIdentNr(QString &IdentNr, bool MBox = true);
+    Q_INVOKABLE QString ControleerIdentNr(
+        QString &IdentNr, bool MBox = qor::genLibDefault<bool>("ControleerIdentNr", "MBox"));
     /// Makes a structured payment reference "000/0000/00000" from the last ten
     /// digits of ReferentieNummer, which comes back as that number without leading
     /// zeros; more than ten digits are refused with a message.
     Q_INVOKABLE QString GetOGM(QString &ReferentieNummer);
     /// Checks a structured payment reference, "000/0000/00000" or "". A first
     /// part beyond 32 bits raises RuntimeError 6 to the caller.
-    Q_INVOKABLE QString ControleerOGM(QString &OGM, bool MBox = true);
+    Q_INVOKABLE QString ControleerOGM(
+        QString &OGM, bool MBox = qor::genLibDefault<bool>("ControleerOGM", "MBox"));
     // End of identifier checks.
 
     // Payments: IBAN, BIC, creditor reference and the payment QR code.
-    Q_CLASSINFO("ControleerIBAN", "{\"MBox\": true}")
-    Q_CLASSINFO("ControleerBIC", "{\"MBox\": true}")
-    Q_CLASSINFO("ControleerRF", "{\"MBox\": true}")
-    Q_CLASSINFO("GetEPCQR", "{\"BIC\": \"\", \"Reference\": \"\", \"Text\": \"\"}")
-    Q_CLASSINFO("SaveQRCode", "{\"ModuleSize\": 4}")
     /// Checks an IBAN of any country of the IBAN registry (for Belgium also the
     /// account's own check digits). IBAN becomes its electronic form ("BE71096123456769");
     /// returns the print form ("BE71 0961 2345 6769"), or "" with, when MBox, the
     /// message of a wrong IBAN. A blank IBAN is left as it is and returns "".
-    Q_INVOKABLE QString ControleerIBAN(QString &IBAN, bool MBox = true);
+    Q_INVOKABLE QString ControleerIBAN(
+        QString &IBAN, bool MBox = qor::genLibDefault<bool>("ControleerIBAN", "MBox"));
     /// A Belgian account in the notation before IBAN ("096-1234567-69" or its twelve
     /// digits) to its IBAN in print form; "" when the account is wrong.
     Q_INVOKABLE QString GetIBAN(const QString &BankNr);
@@ -186,40 +189,42 @@ public:
     Q_INVOKABLE QString GetBIC(const QString &Account);
     /// Checks a BIC (8 or 11 characters, a country ISO 3166 assigns). BIC becomes its
     /// electronic form, which is returned; "" with, when MBox, the message of a wrong BIC.
-    Q_INVOKABLE QString ControleerBIC(QString &BIC, bool MBox = true);
+    Q_INVOKABLE QString ControleerBIC(
+        QString &BIC, bool MBox = qor::genLibDefault<bool>("ControleerBIC", "MBox"));
     /// The creditor reference of the creditor's own reference (1 to 21 letters and
     /// digits, blanks ignored) in print form ("RF85 2024 0017"); "" when it cannot be made.
     Q_INVOKABLE QString GetRF(const QString &Reference);
     /// Checks a creditor reference. RF becomes its electronic form; returns the print
     /// form, or "" with, when MBox, the message of a wrong reference.
-    Q_INVOKABLE QString ControleerRF(QString &RF, bool MBox = true);
+    Q_INVOKABLE QString ControleerRF(
+        QString &RF, bool MBox = qor::genLibDefault<bool>("ControleerRF", "MBox"));
     /// The text of the payment QR code of a SEPA credit transfer (EPC069-12). Reference
     /// is a creditor reference or a Belgian structured communication; a reference and
     /// a Text do not go together. "" when something is wrong (see docs/payments.md).
     Q_INVOKABLE QString GetEPCQR(const QString &Name, const QString &IBAN, double Amount,
-        const QString &BIC = QString(), const QString &Reference = QString(),
-        const QString &Text = QString());
+        const QString &BIC = qor::genLibDefault<QLatin1StringView>("GetEPCQR", "BIC"),
+        const QString &Reference = qor::genLibDefault<QLatin1StringView>("GetEPCQR", "Reference"),
+        const QString &Text = qor::genLibDefault<QLatin1StringView>("GetEPCQR", "Text"));
     /// Saves the QR code of Payload as PNG or SVG, by the extension of File, with
     /// ModuleSize (1 to 20) pixels or units per module. False when it cannot be drawn
     /// or written; a file is written whole or not at all.
-    Q_INVOKABLE bool SaveQRCode(
-        const QString &Payload, const QString &File, qint32 ModuleSize = 4);
+    Q_INVOKABLE bool SaveQRCode(const QString &Payload, const QString &File,
+        qint32 ModuleSize = qor::genLibDefault<qint32>("SaveQRCode", "ModuleSize"));
     // End of payments.
 
     // Dialogs, scanner input and sound.
     // Message and input boxes in the language of Offset.
-    Q_CLASSINFO("MsgBoxE", "{\"Buttons\": 0, \"Title\": \"\"}")
-    Q_CLASSINFO("InputBoxE", "{\"DefaultValue\": \"\", \"MaxLength\": 250}")
-    Q_CLASSINFO("ScanBM", "{\"ScanFormat\": \"\", \"ReturnFieldOnly\": false, \"MBox\": true}")
-    Q_CLASSINFO("PlaySound", "{\"Continuous\": false, \"SoundDirectory\": \"\"}")
     /// The extended message box: returns 1 OK, 2 Cancel, 6 Yes or 7 No. Buttons
     /// takes the classic style values; -1 is the identity-number box.
-    Q_INVOKABLE qint32 MsgBoxE(
-        const QString &Prompt, qint32 Buttons = 0, const QString &Title = QString());
+    Q_INVOKABLE qint32 MsgBoxE(const QString &Prompt,
+        qint32 Buttons = qor::genLibDefault<qint32>("MsgBoxE", "Buttons"),
+        const QString &Title = qor::genLibDefault<QLatin1StringView>("MsgBoxE", "Title"));
     /// The extended input box: the trimmed text on OK, "-9999" when cancelled.
     /// A MaxLength of 0 or less means no limit.
     Q_INVOKABLE QString InputBoxE(const QString &Prompt, const QString &Title,
-        const QString &DefaultValue = QString(), qint32 MaxLength = 250);
+        const QString &DefaultValue
+        = qor::genLibDefault<QLatin1StringView>("InputBoxE", "DefaultValue"),
+        qint32 MaxLength = qor::genLibDefault<qint32>("InputBoxE", "MaxLength"));
     /// Scanner input through a field's key-press handler: a scan typed as
     /// "%[data]" is collected out of sight and checked against ScanFormat; the
     /// key code the host passes on is returned (0 swallows the key). ScanFormat
@@ -234,25 +239,26 @@ public:
     /// full path and the folder used.
     Q_INVOKABLE void PlaySound(QString &FileName, bool Continuous, QString &SoundDirectory);
     /// PlaySound() from the application's sound folder.
-    void PlaySound(QString &FileName, bool Continuous = false);
+    void PlaySound(
+        QString &FileName, bool Continuous = qor::genLibDefault<bool>("PlaySound", "Continuous"));
     /// Switches the dialogs' own sounds off (true) or on; PlaySound() always plays.
     Q_INVOKABLE void SetSound(bool SetSoundOFF);
     // End of dialogs, scanner input and sound.
 
     // Dates and times.
     // The checks clean the caller's variable and, with MBox, report a wrong entry.
-    Q_CLASSINFO("ControleerDatum", "{\"AllowFuture\": null, \"MBox\": true}")
-    Q_CLASSINFO("ControleerUur",
-        "{\"MBox\": true, \"AllowMoreThan24Hours\": false, \"ReturnHHMM\": true}")
-    Q_CLASSINFO("SetDText",
-        "{\"CountryCode\": \"BE\", \"ValueToDay\": false, \"MaxDateToDay\": true}")
     /// A typed date in the short date notation, or "". A missing AllowFuture
     /// counts as False: future dates are refused.
-    Q_INVOKABLE QString ControleerDatum(QString &DT, bool AllowFuture = false, bool MBox = true);
+    Q_INVOKABLE QString ControleerDatum(QString &DT,
+        bool AllowFuture = qor::genLibDefault<bool>("ControleerDatum", "AllowFuture"),
+        bool MBox = qor::genLibDefault<bool>("ControleerDatum", "MBox"));
     /// A typed time ("830", "8h30") as hours, separator and minutes, or "".
     /// Hours beyond a Long raise RuntimeError 6 to the caller.
-    Q_INVOKABLE QString ControleerUur(QString &Uur, bool MBox = true,
-        bool AllowMoreThan24Hours = false, bool ReturnHHMM = true);
+    Q_INVOKABLE QString ControleerUur(QString &Uur,
+        bool MBox = qor::genLibDefault<bool>("ControleerUur", "MBox"),
+        bool AllowMoreThan24Hours
+        = qor::genLibDefault<bool>("ControleerUur", "AllowMoreThan24Hours"),
+        bool ReturnHHMM = qor::genLibDefault<bool>("ControleerUur", "ReturnHHMM"));
     /// Uur as a query literal "#HH:mm#"; "" and a message when it is no time.
     Q_INVOKABLE QString GetTime(QString &Uur);
     /// The name of the weekday of XS in the language of Offset.
@@ -264,30 +270,31 @@ public:
     /// Sets up a host date control: range, format, holidays and week titles.
     /// CountryCode is written back ("" becomes "BE"), so C++ gets its default
     /// through the overload below, which is not published.
-    Q_INVOKABLE void SetDText(
-        QObject *DText, QString &CountryCode, bool ValueToDay = false, bool MaxDateToDay = true);
+    Q_INVOKABLE void SetDText(QObject *DText, QString &CountryCode,
+        bool ValueToDay = qor::genLibDefault<bool>("SetDText", "ValueToDay"),
+        bool MaxDateToDay = qor::genLibDefault<bool>("SetDText", "MaxDateToDay"));
     /// SetDText() for Belgium.
     void SetDText(QObject *DText);
     // End of dates and times.
 
     // Fixed-field records.
     // Fixed-field records of the given widths, with line number and checksum.
-    Q_CLASSINFO("GetExportData", "{\"arrFormat\": null, \"AddChecksum\": true, \"Separator\": \" \"}")
-    Q_CLASSINFO("GetImportData", "{\"LineNumberIncluded\": true, \"CheckSumIncluded\": true}")
     /// One record of the fields of Data, cut or padded to arrFieldLength. A fault
     /// is reported (critical box) and Empty returned. arrFormat left out (or
     /// Empty) writes every field as text; C++ gets that through the overload
     /// below, which is not published.
     Q_INVOKABLE QVariant GetExportData(qint32 &LineNumber, QStringList &Data,
-        QVariant &arrFieldLength, QVariant &arrFormat, bool AddChecksum = true,
-        const QVariant &Separator = QStringLiteral(" "));
+        QVariant &arrFieldLength, QVariant &arrFormat,
+        bool AddChecksum = qor::genLibDefault<bool>("GetExportData", "AddChecksum"),
+        const QVariant &Separator = qor::genLibDefault("GetExportData", "Separator").toVariant());
     /// GetExportData() with every field as text.
     QVariant GetExportData(qint32 &LineNumber, QStringList &Data, QVariant &arrFieldLength);
     /// The fields of a record as an array of String with one empty element behind
     /// the last; -4 for a wrong checksum or line number, -6 for a wrong delimiter
     /// or widths that are no array.
     Q_INVOKABLE QVariant GetImportData(const QString &InputRecord, QVariant &arrFieldLength,
-        bool LineNumberIncluded = true, bool CheckSumIncluded = true);
+        bool LineNumberIncluded = qor::genLibDefault<bool>("GetImportData", "LineNumberIncluded"),
+        bool CheckSumIncluded = qor::genLibDefault<bool>("GetImportData", "CheckSumIncluded"));
     // End of fixed-field records.
 
     // Keystroke handlers, the calculator and VAT.
@@ -295,12 +302,6 @@ public:
     // KA where they refuse or translate a key. Optional arguments are written
     // back, so C++ gets their defaults through the overloads, which are not
     // published.
-    Q_CLASSINFO("KeyGetal", "{\"NbrDecimals\": null, \"NegNumber\": false, \"Flexgrid\": false}")
-    Q_CLASSINFO("KeyEuro", "{\"EurDecimals\": 2, \"NegNumber\": false}")
-    Q_CLASSINFO("KeySpin", "{\"MaxValue\": null, \"MinValue\": null}")
-    Q_CLASSINFO("LoadComboBTW", "{\"SetValue\": 0, \"SetListIndex\": 0}")
-    Q_CLASSINFO("ControleerBtwClick", "{\"Reset\": false}")
-    Q_CLASSINFO("ShowCalculator", "{\"Value\": 0}")
     /// The key filter of a free-text field. ToegelatenTekens holds literal
     /// characters and the classes C (digits), D (date), U (time), L (letters) and
     /// H (letters, upper-cased); it is upper-cased in the caller's variable.
@@ -339,44 +340,49 @@ public:
     /// ControleerBtwClick() without reset.
     bool ControleerBtwClick();
     /// Shows the calculator with Value and returns the result register it leaves.
-    Q_INVOKABLE double ShowCalculator(double Value = 0);
+    Q_INVOKABLE double ShowCalculator(
+        double Value = qor::genLibDefault<double>("ShowCalculator", "Value"));
     // End of keystroke handlers, the calculator and VAT.
 
     // Grids, lists and sorting.
-    Q_CLASSINFO("SetDBGridSize", "{\"FetchRowStyle\": false}")
-    Q_CLASSINFO("SetDBGridCol",
-        "{\"Visible\": true, \"NumberFormat\": \"\", \"Merge\": false, \"FetchStyle\": false, "
-        "\"AllowColSizing\": false}")
-    Q_CLASSINFO("SetDBGridIcon", "{\"ForceState\": \"\", \"OrderColumn\": \"\"}")
-    Q_CLASSINFO("SetDBGridTranslation", "{\"CrossValue\": -1, \"TypeADO\": false}")
-    Q_CLASSINFO("SetListIndex", "{\"ItemData\": -9999, \"Text\": \"\", \"NotFoundSetIndex\": -1}")
-    Q_CLASSINFO("DataChange", "{\"Reset\": false}")
-    Q_CLASSINFO("SortArray", "{\"SortOrder\": 3, \"RefArrayName\": null}")
     /// Clears a grid, gives it the house style and fits it, in whole rows, into
     /// its frame.
-    Q_INVOKABLE void SetDBGridSize(QObject *DBGrid, QObject *Frame, bool FetchRowStyle = false);
+    Q_INVOKABLE void SetDBGridSize(QObject *DBGrid, QObject *Frame,
+        bool FetchRowStyle = qor::genLibDefault<bool>("SetDBGridSize", "FetchRowStyle"));
     /// Defines one column of the grid set up last; the last visible column takes
     /// the width that is left.
     Q_INVOKABLE void SetDBGridCol(QObject *DBGrid, short ColIndex, const QString &DataField,
-        const QString &Caption, qint32 Alignment, qint32 ColWidth, bool Visible = true,
-        const QString &NumberFormat = QString(), bool Merge = false, bool FetchStyle = false,
-        bool AllowColSizing = false);
+        const QString &Caption, qint32 Alignment, qint32 ColWidth,
+        bool Visible = qor::genLibDefault<bool>("SetDBGridCol", "Visible"),
+        const QString &NumberFormat
+        = qor::genLibDefault<QLatin1StringView>("SetDBGridCol", "NumberFormat"),
+        bool Merge = qor::genLibDefault<bool>("SetDBGridCol", "Merge"),
+        bool FetchStyle = qor::genLibDefault<bool>("SetDBGridCol", "FetchStyle"),
+        bool AllowColSizing = qor::genLibDefault<bool>("SetDBGridCol", "AllowColSizing"));
     /// Shows the sort direction of a column in its heading, toggled or forced
     /// ("ASC", "DESC"); a forced one leaves the sort clause in the grid's Tag.
     Q_INVOKABLE void SetDBGridIcon(QObject *DBGrid, short ColIndex,
-        const QString &ForceState = QString(), const QString &OrderColumn = QString());
+        const QString &ForceState
+        = qor::genLibDefault<QLatin1StringView>("SetDBGridIcon", "ForceState"),
+        const QString &OrderColumn
+        = qor::genLibDefault<QLatin1StringView>("SetDBGridIcon", "OrderColumn"));
     /// Gives a column a translation list (yes/no, months, ...) in the language of
     /// Offset; a type outside the list raises RuntimeError 9.
     Q_INVOKABLE void SetDBGridTranslation(QObject *grd, qorGenLib::TranslateEnum translateType,
-        short col, qint32 CrossValue = -1, bool TypeADO = false);
+        short col,
+        qint32 CrossValue = qor::genLibDefault<qint32>("SetDBGridTranslation", "CrossValue"),
+        bool TypeADO = qor::genLibDefault<bool>("SetDBGridTranslation", "TypeADO"));
     /// Selects the first entry whose item data is ItemData or whose text is Text;
     /// without a match NotFoundSetIndex decides. Returns whether one matched.
-    Q_INVOKABLE bool SetListIndex(QObject *ListComboCTL, qint32 ItemData = -9999,
-        const QString &Text = QString(),
-        qorGenLib::NotFoundIndexType NotFoundSetIndex = qorGenLib::SetListIndexMinusOne);
+    Q_INVOKABLE bool SetListIndex(QObject *ListComboCTL,
+        qint32 ItemData = qor::genLibDefault<qint32>("SetListIndex", "ItemData"),
+        const QString &Text = qor::genLibDefault<QLatin1StringView>("SetListIndex", "Text"),
+        qorGenLib::NotFoundIndexType NotFoundSetIndex
+        = qor::genLibDefault<qorGenLib::NotFoundIndexType>("SetListIndex", "NotFoundSetIndex"));
     /// Whether what a form's controls show changed since the last call with
     /// Reset, which keeps a fingerprint in the form's Tag.
-    Q_INVOKABLE bool DataChange(QObject *FRM, bool Reset = false);
+    Q_INVOKABLE bool DataChange(
+        QObject *FRM, bool Reset = qor::genLibDefault<bool>("DataChange", "Reset"));
     /// Sorts an array in place by number, text or length, dropping its empty
     /// elements to the end; a companion array follows its partners. Not an
     /// array: RuntimeError 13; nothing but empty elements: 9. C++ leaves out
@@ -384,28 +390,19 @@ public:
     Q_INVOKABLE void SortArray(
         QVariant &ArrayName, qorGenLib::OstSortOrder SortOrder, QVariant &RefArrayName);
     /// SortArray() without a companion.
-    void SortArray(QVariant &ArrayName, qorGenLib::OstSortOrder SortOrder = qorGenLib::soAlphabetic);
-
-private:
-    // The column widths of the grid being set up, carried from call to call.
-    qor::GridColumnWidths m_gridWidths;
-
-public:
+    void SortArray(QVariant &ArrayName,
+        qorGenLib::OstSortOrder SortOrder
+        = qor::genLibDefault<qorGenLib::OstSortOrder>("SortArray", "SortOrder"));
     // End of grids, lists and sorting.
 
     // Desktop and system services.
     // Processes, files, paths, the settings file, start-up and station flags.
-    Q_CLASSINFO("GetFileList", "{\"lAttribute\": 0}")
-    Q_CLASSINFO("WriteIni", "{\"INIFile\": \"\"}")
-    Q_CLASSINFO("GetIni", "{\"INIFile\": \"\", \"MBox\": true}")
-    Q_CLASSINFO("StartUp", "{\"OtherDLL\": false, \"MultiUse\": false}")
-    Q_CLASSINFO("GetMousePointerPos", "{\"RelativeObject\": null}")
     /// Runs a command line and waits until it ends: 0, or the error number when
     /// it cannot start (reported on the system box).
     Q_INVOKABLE qint32 ShellAndWait(const QString &ProgrammaNaam, qint32 window_style);
     /// The names of the files of a folder that match a wildcard, "" for a missing folder.
-    Q_INVOKABLE QString GetFileList(
-        const QString &sPad, const QString &sWildCard, qint32 lAttribute = 0);
+    Q_INVOKABLE QString GetFileList(const QString &sPad, const QString &sWildCard,
+        qint32 lAttribute = qor::genLibDefault<qint32>("GetFileList", "lAttribute"));
     /// A folder path without one trailing backslash.
     Q_INVOKABLE QString PathRS(const QString &Path);
     /// The shared system folder, or "" when there is none.
@@ -422,13 +419,15 @@ public:
     void WriteIni(const QString &Header, const QString &Section, const QString &Value);
     /// The value of a key of the settings file, at most 254 characters; an empty
     /// result is reported with MBox.
-    Q_INVOKABLE QString GetIni(
-        const QString &Header, const QString &Section, QString &INIFile, bool MBox = true);
+    Q_INVOKABLE QString GetIni(const QString &Header, const QString &Section, QString &INIFile,
+        bool MBox = qor::genLibDefault<bool>("GetIni", "MBox"));
     /// GetIni() from the default settings file, reporting an empty result.
     QString GetIni(const QString &Header, const QString &Section);
     /// Called once at start: keeps the application object and refuses a second
     /// copy of the application. False when the host must end.
-    Q_INVOKABLE bool StartUp(QObject *Application, bool OtherDLL = false, bool MultiUse = false);
+    Q_INVOKABLE bool StartUp(QObject *Application,
+        bool OtherDLL = qor::genLibDefault<bool>("StartUp", "OtherDLL"),
+        bool MultiUse = qor::genLibDefault<bool>("StartUp", "MultiUse"));
     /// On a development station: act as a customer station or not and, when not,
     /// use another language; on a customer station nothing changes.
     Q_INVOKABLE void SetDebug(bool DebugKlantPC, qint32 DebugOffset);
@@ -441,7 +440,9 @@ public:
     Q_INVOKABLE void SetDeskTop(QObject *FormMenu);
     /// The mouse position in twips along "X" or "Y", on the screen or from the
     /// edge of RelativeObject.
-    Q_INVOKABLE qint32 GetMousePointerPos(const QString &XY, QObject *RelativeObject = nullptr);
+    Q_INVOKABLE qint32 GetMousePointerPos(const QString &XY,
+        QObject *RelativeObject
+        = qor::genLibDefault<QObject *>("GetMousePointerPos", "RelativeObject"));
     /// Keeps a form above all other windows; returns Empty.
     Q_INVOKABLE QVariant FormOnTop(QObject *FRM);
     /// Twips to millimetres; RuntimeError 6 when the result overflows a Single.
@@ -451,6 +452,9 @@ public:
     // End of desktop and system services.
 
 private:
+    // What the object carries from call to call besides its properties.
+    std::unique_ptr<clsqorGenLibPrivate> d;
+
     QString m_msg;
     QString m_SQL;
     QVariant m_FlowCTL;

@@ -9,45 +9,29 @@
 #include <QVarLengthArray>
 
 #include <atomic>
-#include <cmath>
 #include <cstring>
-#include <limits>
 
 namespace qor {
 
 namespace {
 
-QJsonObject optionalArguments(const QMetaObject *cls, const QByteArray &method)
+// The optional arguments of a method, parameter name to default (null for
+// one without default): the class info entry named after the method, and the
+// rows of the table of published defaults.
+QJsonObject optionalArguments(
+    const QMetaObject *cls, std::span<const PublishedDefault> defaults, const QByteArray &method)
 {
     const int index = cls->indexOfClassInfo(method.constData());
-    if (index < 0)
-        return {};
-    return QJsonDocument::fromJson(cls->classInfo(index).value()).object();
-}
-
-// A whole number within the Integer subtype's range.
-bool isIntegerValue(double number)
-{
-    return number >= std::numeric_limits<qint16>::min()
-        && number <= std::numeric_limits<qint16>::max() && number == std::trunc(number);
-}
-
-// A published default in the parameter's own type; whole numbers passed as a
-// Variant keep the Integer subtype an automation default has.
-QVariant defaultValueFor(const QJsonValue &json, QMetaType type)
-{
-    if (json.isNull() || json.isUndefined())
-        return {};
-    QVariant value = json.toVariant();
-    if (type.id() == QMetaType::QVariant) {
-        if (json.isDouble() && isIntegerValue(json.toDouble()))
-            return QVariant::fromValue<short>(qint16(json.toDouble()));
-        return value;
+    QJsonObject optional = index < 0
+        ? QJsonObject()
+        : QJsonDocument::fromJson(cls->classInfo(index).value()).object();
+    for (const PublishedDefault &entry : defaults) {
+        if (entry.method == std::string_view(method.constData(), size_t(method.size())))
+            optional.insert(
+                QString::fromLatin1(entry.parameter.data(), qsizetype(entry.parameter.size())),
+                entry.value.toJson());
     }
-    if (type.flags() & QMetaType::IsEnumeration)
-        return QVariant::fromValue<int>(json.toInt());
-    value.convert(type);
-    return value;
+    return optional;
 }
 
 std::atomic<quint64> nextSerial { 1 };
@@ -65,9 +49,14 @@ thread_local LastMember lastMember;
 
 TypeLibrary::TypeLibrary(const QMetaObject *cls, const QList<const QMetaObject *> &enumScopes,
     const QList<const QMetaObject *> &records)
+    : TypeLibrary(cls, {}, enumScopes, records)
+{ }
+
+TypeLibrary::TypeLibrary(const QMetaObject *cls, std::span<const PublishedDefault> defaults,
+    const QList<const QMetaObject *> &enumScopes, const QList<const QMetaObject *> &records)
     : m_serial(nextSerial.fetch_add(1))
 {
-    readMethods(cls);
+    readMethods(cls, defaults);
     readProperties(cls);
     for (const QMetaObject *scope : enumScopes)
         readEnums(scope);
@@ -117,7 +106,7 @@ QString TypeLibrary::publishedMemberName(const QString &enumName, const QString 
     return cppName;
 }
 
-void TypeLibrary::readMethods(const QMetaObject *cls)
+void TypeLibrary::readMethods(const QMetaObject *cls, std::span<const PublishedDefault> defaults)
 {
     for (int i = cls->methodOffset(); i < cls->methodCount(); ++i) {
         const QMetaMethod method = cls->method(i);
@@ -130,7 +119,7 @@ void TypeLibrary::readMethods(const QMetaObject *cls)
         info.returnType = typeName(method.returnMetaType());
         info.returnMetaType = method.returnMetaType();
         info.methodIndex = i;
-        const QJsonObject optional = optionalArguments(cls, method.name());
+        const QJsonObject optional = optionalArguments(cls, defaults, method.name());
         const QList<QByteArray> names = method.parameterNames();
         const QList<QByteArray> types = method.parameterTypes();
         for (int p = 0; p < method.parameterCount(); ++p) {
@@ -148,7 +137,7 @@ void TypeLibrary::readMethods(const QMetaObject *cls)
             param.byRef = types.value(p).endsWith('&');
             param.optional = optional.contains(param.name);
             if (param.optional)
-                param.defaultValue = defaultValueFor(optional.value(param.name), param.metaType);
+                param.defaultValue = publishedArgument(optional.value(param.name), param.metaType);
             info.parameters.append(param);
         }
         m_methods.append(info);

@@ -2,12 +2,15 @@
 
 #include "qorgenlib_export.h"
 
+#include "lib/publisheddefault.h"
+
 #include <QList>
 #include <QMetaObject>
 #include <QString>
 #include <QVariant>
 
 #include <optional>
+#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -63,12 +66,15 @@ struct QORGENLIB_EXPORT RecordInfo
 /// meta-object: invokable methods with their parameters, properties, and the
 /// enumerations and records published beside it. Optional arguments and their
 /// defaults come from the class info entry named after the method, a JSON object
-/// of parameter name to default (null for an optional argument without one).
+/// of parameter name to default (null for an optional argument without one),
+/// and from the rows of a table of published defaults.
 class QORGENLIB_EXPORT TypeLibrary
 {
 public:
     TypeLibrary(const QMetaObject *cls, const QList<const QMetaObject *> &enumScopes,
         const QList<const QMetaObject *> &records);
+    TypeLibrary(const QMetaObject *cls, std::span<const PublishedDefault> defaults,
+        const QList<const QMetaObject *> &enumScopes, const QList<const QMetaObject *> &records);
     TypeLibrary(const TypeLibrary &) = delete;
     TypeLibrary &operator=(const TypeLibrary &) = delete;
 
@@ -100,7 +106,7 @@ public:
     static QString publishedMemberName(const QString &enumName, const QString &cppName);
 
 private:
-    void readMethods(const QMetaObject *cls);
+    void readMethods(const QMetaObject *cls, std::span<const PublishedDefault> defaults);
     void readProperties(const QMetaObject *cls);
     void readEnums(const QMetaObject *scope);
     void readRecord(const QMetaObject *record);

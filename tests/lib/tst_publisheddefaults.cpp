@@ -1,4 +1,5 @@
 #include "lib/clsqorgenlib.h"
+#include "lib/clsqorgenlibdefaults.h"
 #include "lib/typelibrary.h"
 #include "runtime/coercion.h"
 #include "runtime/runtimeerror.h"
@@ -105,7 +106,46 @@ QVariant callDirectly(clsqorGenLib &lib, const QMetaMethod &method, QVariantList
     return result;
 }
 
+// A C++ overload that leaves out written-back arguments, called with the
+// leading arguments its published method takes.
+using Overload = std::function<QVariant(clsqorGenLib &, QVariantList &)>;
+
+// Runs `call` on a fresh object in rounds of sample arguments for the first
+// `given` parameters of `name`, and compares each with the late-bound call
+// that leaves the rest out.
+void compareWithLateBinding(const QString &name, qsizetype given, const Overload &call)
+{
+    const MethodInfo *info = clsqorGenLib::typeLibrary().findMethod(name);
+    QVERIFY(info);
+    for (int round = 0; round < 5; ++round) {
+        QVariantList args;
+        for (qsizetype i = 0; i < given; ++i)
+            args.append(sampleFor(info->parameters.at(i).metaType, round, int(i)));
+        const Outcome direct = capture(
+            [&](QVariantList &a) {
+                clsqorGenLib lib;
+                return call(lib, a);
+            },
+            args);
+        const Outcome late = capture(
+            [&](QVariantList &a) {
+                clsqorGenLib lib;
+                return lib.Invoke(name, a);
+            },
+            args);
+        const QByteArray where = QByteArray("round ") + QByteArray::number(round);
+        QVERIFY2(direct.error == late.error,
+            where + " errors " + QByteArray::number(direct.error) + "/"
+                + QByteArray::number(late.error));
+        QVERIFY2(direct.result == late.result, where);
+        QVERIFY2(direct.arguments == late.arguments, where);
+        QVERIFY2(direct.shown == late.shown, where);
+    }
+}
+
 } // namespace
+
+Q_DECLARE_METATYPE(Overload)
 
 // A method called with its trailing optional arguments left out behaves the
 // same through its C++ signature as through the published defaults, which
@@ -132,31 +172,86 @@ private slots:
     {
         QFETCH(int, methodIndex);
         const QMetaMethod method = clsqorGenLib::staticMetaObject.method(methodIndex);
-        const QString name = QString::fromLatin1(method.name());
-        for (int round = 0; round < 5; ++round) {
-            QVariantList args;
-            for (int i = 0; i < method.parameterCount(); ++i)
-                args.append(sampleFor(parameterType(method, i), round, i));
-            const Outcome direct = capture(
-                [&](QVariantList &a) {
-                    clsqorGenLib lib;
-                    return callDirectly(lib, method, a);
-                },
-                args);
-            const Outcome late = capture(
-                [&](QVariantList &a) {
-                    clsqorGenLib lib;
-                    return lib.Invoke(name, a);
-                },
-                args);
-            const QByteArray where = QByteArray("round ") + QByteArray::number(round);
-            QVERIFY2(direct.error == late.error,
-                where + " errors " + QByteArray::number(direct.error) + "/"
-                    + QByteArray::number(late.error));
-            QVERIFY2(direct.result == late.result, where);
-            QVERIFY2(direct.arguments == late.arguments, where);
-            QVERIFY2(direct.shown == late.shown, where);
+        compareWithLateBinding(QString::fromLatin1(method.name()), method.parameterCount(),
+            [&](clsqorGenLib &lib, QVariantList &args) { return callDirectly(lib, method, args); });
+    }
+
+    // Every row of the table is an optional parameter of a published method, and
+    // the optional parameters of a method are its last ones.
+    void everyDefaultIsATrailingPublishedParameter_data()
+    {
+        QTest::addColumn<QString>("method");
+        QTest::addColumn<QString>("parameter");
+        for (const PublishedDefault &entry : clsqorGenLibDefaults) {
+            const QString method = QString::fromLatin1(entry.method.data(), entry.method.size());
+            const QString parameter
+                = QString::fromLatin1(entry.parameter.data(), entry.parameter.size());
+            QTest::addRow("%s %s", qPrintable(method), qPrintable(parameter))
+                << method << parameter;
         }
+    }
+    void everyDefaultIsATrailingPublishedParameter()
+    {
+        QFETCH(QString, method);
+        QFETCH(QString, parameter);
+        const MethodInfo *info = clsqorGenLib::typeLibrary().findMethod(method);
+        QVERIFY(info);
+        qsizetype place = -1;
+        for (qsizetype i = 0; i < info->parameters.size(); ++i) {
+            if (info->parameters.at(i).name == parameter)
+                place = i;
+        }
+        QVERIFY(place >= 0);
+        for (qsizetype i = place; i < info->parameters.size(); ++i)
+            QVERIFY(info->parameters.at(i).optional);
+    }
+
+    // The C++ overloads that leave out written-back arguments fill in the
+    // published defaults.
+    void overloadsFillInThePublishedDefaults_data()
+    {
+        QTest::addColumn<QString>("method");
+        QTest::addColumn<int>("given");
+        QTest::addColumn<Overload>("call");
+        QTest::newRow("ControleerVAT without LandCode")
+            << "ControleerVAT" << 2 << Overload([](clsqorGenLib &lib, QVariantList &a) {
+                   QString vat = a[0].toString();
+                   const QString result = lib.ControleerVAT(vat, a[1].toBool());
+                   a[0] = vat;
+                   return QVariant(result);
+               });
+        QTest::newRow("PlaySound without SoundDirectory")
+            << "PlaySound" << 2 << Overload([](clsqorGenLib &lib, QVariantList &a) {
+                   QString file = a[0].toString();
+                   lib.PlaySound(file, a[1].toBool());
+                   a[0] = file;
+                   return QVariant();
+               });
+        QTest::newRow("GetExportData without formats")
+            << "GetExportData" << 3 << Overload([](clsqorGenLib &lib, QVariantList &a) {
+                   qint32 line = a[0].toInt();
+                   QStringList data = a[1].toStringList();
+                   const QVariant result = lib.GetExportData(line, data, a[2]);
+                   a[0] = line;
+                   a[1] = data;
+                   return result;
+               });
+        QTest::newRow("SortArray without companion")
+            << "SortArray" << 2 << Overload([](clsqorGenLib &lib, QVariantList &a) {
+                   lib.SortArray(a[0], qorGenLib::OstSortOrder(a[1].toInt()));
+                   return QVariant();
+               });
+        QTest::newRow("GetIni from the default file")
+            << "GetIni" << 2 << Overload([](clsqorGenLib &lib, QVariantList &a) {
+                   return QVariant(lib.GetIni(a[0].toString(), a[1].toString()));
+               });
+    }
+    void overloadsFillInThePublishedDefaults()
+    {
+        QFETCH(QString, method);
+        QFETCH(int, given);
+        QFETCH(Overload, call);
+        compareWithLateBinding(method, given, call);
     }
 };
 
