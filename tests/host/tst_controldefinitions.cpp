@@ -80,6 +80,12 @@ QObject *gridChild(QWidget *host, const char *name)
     return grid->property(name).value<QObject *>();
 }
 
+QObject *columnChild(QWidget *host, const char *name)
+{
+    auto *column = new TableColumnAdapter(tableOn(host), 0, host);
+    return column->property(name).value<QObject *>();
+}
+
 const QList<Pair> &pairs()
 {
     static const QList<Pair> all {
@@ -101,18 +107,8 @@ const QList<Pair> &pairs()
         { &controls::column, [](QWidget *h) { return new TableColumnAdapter(tableOn(h), 0, h); } },
         { &controls::columns, [](QWidget *h) { return gridChild(h, "Columns"); } },
         { &controls::gridStyle, [](QWidget *h) { return gridChild(h, "Style"); } },
-        { &controls::headingStyle,
-            [](QWidget *h) {
-                return (new TableColumnAdapter(tableOn(h), 0, h))
-                    ->property("HeadingStyle")
-                    .value<QObject *>();
-            } },
-        { &controls::valueItems,
-            [](QWidget *h) {
-                return (new TableColumnAdapter(tableOn(h), 0, h))
-                    ->property("ValueItems")
-                    .value<QObject *>();
-            } },
+        { &controls::headingStyle, [](QWidget *h) { return columnChild(h, "HeadingStyle"); } },
+        { &controls::valueItems, [](QWidget *h) { return columnChild(h, "ValueItems"); } },
         { &controls::dateControl,
             [](QWidget *h) { return new DateEditAdapter(new QDateEdit(h), h); } },
         { &controls::calendar,
