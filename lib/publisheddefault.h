@@ -87,8 +87,9 @@ struct PublishedDefault
 };
 
 /// The default of a method's parameter in a table of published defaults; a
-/// method or parameter the table does not hold fails to compile.
-consteval PublishedValue publishedDefault(
+/// method or parameter the table does not hold fails to compile where the
+/// value is needed at compile time (as in genLibDefault()).
+constexpr PublishedValue publishedDefault(
     std::span<const PublishedDefault> table, std::string_view method, std::string_view parameter)
 {
     for (const PublishedDefault &entry : table) {
