@@ -4,15 +4,21 @@
 
 namespace qor::einvoice::Ubl {
 
+/// The XML namespace of a UBL 2.1 schema: an OASIS name (RFC 3121) of the
+/// form urn:oasis:names:<category>:ubl:schema:xsd:<Schema>-2, where the
+/// category is the one OASIS gives to its published standards.
+inline QString schemaNamespace(QStringView schema)
+{
+    static const QString standardsCategory = QStringLiteral("speci") + QStringLiteral("fication");
+    return QStringLiteral("urn:oasis:names:") + standardsCategory
+        + QStringLiteral(":ubl:schema:xsd:") + schema.toString() + QStringLiteral("-2");
+}
+
 /// The XML namespaces of a UBL 2.1 document.
-inline const QString InvoiceNamespace
-    = QStringLiteral("urn:oasis:names:specification:ubl:schema:xsd:Invoice-2");
-inline const QString CreditNoteNamespace
-    = QStringLiteral("urn:oasis:names:specification:ubl:schema:xsd:CreditNote-2");
-inline const QString AggregateNamespace
-    = QStringLiteral("urn:oasis:names:specification:ubl:schema:xsd:CommonAggregateComponents-2");
-inline const QString BasicNamespace
-    = QStringLiteral("urn:oasis:names:specification:ubl:schema:xsd:CommonBasicComponents-2");
+inline const QString InvoiceNamespace = schemaNamespace(u"Invoice");
+inline const QString CreditNoteNamespace = schemaNamespace(u"CreditNote");
+inline const QString AggregateNamespace = schemaNamespace(u"CommonAggregateComponents");
+inline const QString BasicNamespace = schemaNamespace(u"CommonBasicComponents");
 
 /// The tax scheme of every VAT category in the document.
 inline const QString VatScheme = QStringLiteral("VAT");

@@ -131,7 +131,7 @@ void addColumnsUpTo(QObject *grid, qint16 colIndex)
 }
 
 // A new last visible column: the previous one gets its own width back.
-void keepWidths(QObject *grid, const GridColumnSpec &wanted, GridColumnWidths &widths)
+void keepWidths(QObject *grid, const GridColumnRequest &wanted, GridColumnWidths &widths)
 {
     if (!wanted.visible)
         return;
@@ -145,7 +145,7 @@ void keepWidths(QObject *grid, const GridColumnSpec &wanted, GridColumnWidths &w
     widths.lastColWidth = wanted.colWidth;
 }
 
-void defineColumn(QObject *grid, const GridColumnSpec &wanted, const GridColumnWidths &widths)
+void defineColumn(QObject *grid, const GridColumnRequest &wanted, const GridColumnWidths &widths)
 {
     QObject *column = hostcollection::item(columnsOf(grid), wanted.colIndex);
     set(column, "DataField", wanted.dataField);
@@ -200,7 +200,7 @@ void setDBGridSize(QObject *grid, QObject *frame, bool fetchRowStyle, GridColumn
     widths = GridColumnWidths();
 }
 
-void setDBGridCol(QObject *grid, const GridColumnSpec &column, GridColumnWidths &widths)
+void setDBGridCol(QObject *grid, const GridColumnRequest &column, GridColumnWidths &widths)
 {
     addColumnsUpTo(grid, column.colIndex);
     keepWidths(grid, column, widths);

@@ -11,7 +11,7 @@ namespace qor {
 // its frame; the frame then follows the grid. Resets the bookkeeping.
 void setDBGridSize(QObject *grid, QObject *frame, bool fetchRowStyle, GridColumnWidths &widths);
 
-struct GridColumnSpec
+struct GridColumnRequest
 {
     qint16 colIndex = 0;
     QString dataField;
@@ -27,7 +27,7 @@ struct GridColumnSpec
 
 // Defines one column (adding the columns up to it); the last visible column
 // so far takes the width that is left.
-void setDBGridCol(QObject *grid, const GridColumnSpec &column, GridColumnWidths &widths);
+void setDBGridCol(QObject *grid, const GridColumnRequest &column, GridColumnWidths &widths);
 
 // Shows the sort direction of one column in its heading (toggling it, or as
 // forced with "ASC" or "DESC") and clears the others; a forced direction also

@@ -2,7 +2,7 @@
 
 #include "qorgenlib_export.h"
 
-#include "host/controls/propertyspec.h"
+#include "host/controls/propertydefinition.h"
 
 #include "host/hostobject.h"
 

@@ -1,16 +1,16 @@
 #pragma once
 
-#include "host/controls/propertyspec.h"
+#include "host/controls/propertydefinition.h"
 
 namespace qor::controls {
 
 inline constexpr auto checkBoxProperties = join(placedControl,
     std::array {
-        PropertySpec { "Caption", QMetaType::QString },
-        PropertySpec { "Value", QMetaType::Short }, // 0 unchecked, 1 checked, 2 greyed
+        PropertyDefinition { "Caption", QMetaType::QString },
+        PropertyDefinition { "Value", QMetaType::Short }, // 0 unchecked, 1 checked, 2 greyed
     });
 
 /// The check box.
-inline constexpr ControlSpec checkBox { "CheckBox", checkBoxProperties, placedOperations };
+inline constexpr ControlDefinition checkBox { "CheckBox", checkBoxProperties, placedOperations };
 
 } // namespace qor::controls

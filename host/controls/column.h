@@ -1,32 +1,32 @@
 #pragma once
 
-#include "host/controls/propertyspec.h"
+#include "host/controls/propertydefinition.h"
 
 namespace qor::controls {
 
 inline constexpr std::array columnProperties {
     // A real column is where it stands in its view.
-    PropertySpec { "ColIndex", QMetaType::Int, Unit::None, 0, Side::Both, true },
-    PropertySpec { "DataField", QMetaType::QString },
-    PropertySpec { "Caption", QMetaType::QString },
-    PropertySpec { "Alignment", QMetaType::Int }, // 0 left, 1 right, 2 centre
-    PropertySpec { "Width", QMetaType::Float, Unit::Twips, 0, Side::Both, true },
-    PropertySpec { "FetchStyle", QMetaType::Bool },
-    PropertySpec { "Visible", QMetaType::Bool, Unit::None, 1 },
-    PropertySpec { "Merge", QMetaType::Bool },
-    PropertySpec { "AllowFocus", QMetaType::Bool, Unit::None, 1 },
-    PropertySpec { "AllowSizing", QMetaType::Bool, Unit::None, 1 },
-    PropertySpec { "NumberFormat", QMetaType::QString },
-    PropertySpec { "DividerStyle", QMetaType::Int },
-    PropertySpec { "HeadAlignment", QMetaType::Int },
-    PropertySpec { "Tag", QMetaType::QString },
-    PropertySpec { "HeadingStyle", QMetaType::QObjectStar, Unit::Object },
-    PropertySpec { "ValueItems", QMetaType::QObjectStar, Unit::Object },
+    PropertyDefinition { "ColIndex", QMetaType::Int, Unit::None, 0, Side::Both, true },
+    PropertyDefinition { "DataField", QMetaType::QString },
+    PropertyDefinition { "Caption", QMetaType::QString },
+    PropertyDefinition { "Alignment", QMetaType::Int }, // 0 left, 1 right, 2 centre
+    PropertyDefinition { "Width", QMetaType::Float, Unit::Twips, 0, Side::Both, true },
+    PropertyDefinition { "FetchStyle", QMetaType::Bool },
+    PropertyDefinition { "Visible", QMetaType::Bool, Unit::None, 1 },
+    PropertyDefinition { "Merge", QMetaType::Bool },
+    PropertyDefinition { "AllowFocus", QMetaType::Bool, Unit::None, 1 },
+    PropertyDefinition { "AllowSizing", QMetaType::Bool, Unit::None, 1 },
+    PropertyDefinition { "NumberFormat", QMetaType::QString },
+    PropertyDefinition { "DividerStyle", QMetaType::Int },
+    PropertyDefinition { "HeadAlignment", QMetaType::Int },
+    PropertyDefinition { "Tag", QMetaType::QString },
+    PropertyDefinition { "HeadingStyle", QMetaType::QObjectStar, Unit::Object },
+    PropertyDefinition { "ValueItems", QMetaType::QObjectStar, Unit::Object },
     // A real column takes it from its ValueItems.
-    PropertySpec { "Translate", QMetaType::Bool, Unit::None, 0, Side::Model },
+    PropertyDefinition { "Translate", QMetaType::Bool, Unit::None, 0, Side::Model },
 };
 
 /// One column of a grid.
-inline constexpr ControlSpec column { "Column", columnProperties, {} };
+inline constexpr ControlDefinition column { "Column", columnProperties, {} };
 
 } // namespace qor::controls

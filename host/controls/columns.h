@@ -1,20 +1,20 @@
 #pragma once
 
-#include "host/controls/propertyspec.h"
+#include "host/controls/propertydefinition.h"
 
 namespace qor::controls {
 
 inline constexpr std::array columnsProperties {
-    PropertySpec { "Count", QMetaType::Int },
+    PropertyDefinition { "Count", QMetaType::Int },
 };
 
 inline constexpr std::array columnsOperations {
-    OperationSpec { "Add" },
-    OperationSpec { "Remove" },
-    OperationSpec { "Item" },
+    OperationDefinition { "Add" },
+    OperationDefinition { "Remove" },
+    OperationDefinition { "Item" },
 };
 
 /// The columns of a grid.
-inline constexpr ControlSpec columns { "Columns", columnsProperties, columnsOperations };
+inline constexpr ControlDefinition columns { "Columns", columnsProperties, columnsOperations };
 
 } // namespace qor::controls

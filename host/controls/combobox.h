@@ -5,9 +5,9 @@
 namespace qor::controls {
 
 inline constexpr auto comboBoxProperties
-    = join(listProperties, std::array { PropertySpec { "Text", QMetaType::QString } });
+    = join(listProperties, std::array { PropertyDefinition { "Text", QMetaType::QString } });
 
 /// The combo box: a list with the text of its edit part.
-inline constexpr ControlSpec comboBox { "ComboBox", comboBoxProperties, listOperations };
+inline constexpr ControlDefinition comboBox { "ComboBox", comboBoxProperties, listOperations };
 
 } // namespace qor::controls

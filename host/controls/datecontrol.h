@@ -1,30 +1,30 @@
 #pragma once
 
-#include "host/controls/propertyspec.h"
+#include "host/controls/propertydefinition.h"
 
 namespace qor::controls {
 
 inline constexpr auto dateControlProperties = join(
     std::array {
-        PropertySpec { "MinDate", QMetaType::QVariant },
-        PropertySpec { "MaxDate", QMetaType::QVariant },
-        PropertySpec { "Value", QMetaType::QVariant },
-        PropertySpec { "Format", QMetaType::QString },
+        PropertyDefinition { "MinDate", QMetaType::QVariant },
+        PropertyDefinition { "MaxDate", QMetaType::QVariant },
+        PropertyDefinition { "Value", QMetaType::QVariant },
+        PropertyDefinition { "Format", QMetaType::QString },
         // A real field starts with the display format of the machine's locale.
-        PropertySpec { "DisplayFormat", QMetaType::QString, Unit::None, 0, Side::Both, true },
-        PropertySpec { "Calendar", QMetaType::QObjectStar, Unit::Object },
+        PropertyDefinition { "DisplayFormat", QMetaType::QString, Unit::None, 0, Side::Both, true },
+        PropertyDefinition { "Calendar", QMetaType::QObjectStar, Unit::Object },
         // The date as a real field shows it.
-        PropertySpec { "Text", QMetaType::QString, Unit::None, 0, Side::Widget, true },
+        PropertyDefinition { "Text", QMetaType::QString, Unit::None, 0, Side::Widget, true },
     },
     widgetPlacement);
 
 inline constexpr std::array dateControlOperations {
-    OperationSpec { "Move", Side::Widget },
-    OperationSpec { "ZOrder", Side::Widget },
+    OperationDefinition { "Move", Side::Widget },
+    OperationDefinition { "ZOrder", Side::Widget },
 };
 
 /// The date field with its drop-down calendar.
-inline constexpr ControlSpec dateControl { "DateControl", dateControlProperties,
+inline constexpr ControlDefinition dateControl { "DateControl", dateControlProperties,
     dateControlOperations };
 
 } // namespace qor::controls

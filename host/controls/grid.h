@@ -1,6 +1,6 @@
 #pragma once
 
-#include "host/controls/propertyspec.h"
+#include "host/controls/propertydefinition.h"
 
 namespace qor::controls {
 
@@ -8,39 +8,40 @@ namespace qor::controls {
 // editable cells and its own row height.
 inline constexpr auto gridProperties = join(
     std::array {
-        PropertySpec { "AllowAddNew", QMetaType::Bool },
-        PropertySpec { "AllowDelete", QMetaType::Bool },
-        PropertySpec { "AllowUpdate", QMetaType::Bool, Unit::None, 0, Side::Both, true },
-        PropertySpec { "AllowColSelect", QMetaType::Bool },
-        PropertySpec { "DeadAreaBackColor", QMetaType::Int, Unit::Colour },
-        PropertySpec { "BorderStyle", QMetaType::Short, Unit::None, 0, Side::Both, true },
-        PropertySpec { "HeadLines", QMetaType::Double, Unit::None, 1 },
-        PropertySpec { "RecordSelectors", QMetaType::Bool, Unit::None, 0, Side::Both, true },
-        PropertySpec { "PartialRightColumn", QMetaType::Bool, Unit::None, 1 },
-        PropertySpec { "MultipleLines", QMetaType::Short },
-        PropertySpec { "MarqueeStyle", QMetaType::Int },
-        PropertySpec { "MultiSelect", QMetaType::Int },
-        PropertySpec { "ScrollBars", QMetaType::Int, Unit::None, 0, Side::Both, true },
-        PropertySpec { "RowDividerStyle", QMetaType::Int },
-        PropertySpec { "FetchRowStyle", QMetaType::Bool },
+        PropertyDefinition { "AllowAddNew", QMetaType::Bool },
+        PropertyDefinition { "AllowDelete", QMetaType::Bool },
+        PropertyDefinition { "AllowUpdate", QMetaType::Bool, Unit::None, 0, Side::Both, true },
+        PropertyDefinition { "AllowColSelect", QMetaType::Bool },
+        PropertyDefinition { "DeadAreaBackColor", QMetaType::Int, Unit::Colour },
+        PropertyDefinition { "BorderStyle", QMetaType::Short, Unit::None, 0, Side::Both, true },
+        PropertyDefinition { "HeadLines", QMetaType::Double, Unit::None, 1 },
+        PropertyDefinition { "RecordSelectors", QMetaType::Bool, Unit::None, 0, Side::Both, true },
+        PropertyDefinition { "PartialRightColumn", QMetaType::Bool, Unit::None, 1 },
+        PropertyDefinition { "MultipleLines", QMetaType::Short },
+        PropertyDefinition { "MarqueeStyle", QMetaType::Int },
+        PropertyDefinition { "MultiSelect", QMetaType::Int },
+        PropertyDefinition { "ScrollBars", QMetaType::Int, Unit::None, 0, Side::Both, true },
+        PropertyDefinition { "RowDividerStyle", QMetaType::Int },
+        PropertyDefinition { "FetchRowStyle", QMetaType::Bool },
     },
     join(placedControl,
         std::array {
             // One text line and its divider.
-            PropertySpec { "RowHeight", QMetaType::Float, Unit::Twips, 225, Side::Both, true },
-            PropertySpec { "Tag", QMetaType::QString },
-            PropertySpec { "Style", QMetaType::QObjectStar, Unit::Object },
-            PropertySpec { "HighlightRowStyle", QMetaType::QObjectStar, Unit::Object },
-            PropertySpec { "SelectedStyle", QMetaType::QObjectStar, Unit::Object },
-            PropertySpec { "Columns", QMetaType::QObjectStar, Unit::Object },
+            PropertyDefinition {
+                "RowHeight", QMetaType::Float, Unit::Twips, 225, Side::Both, true },
+            PropertyDefinition { "Tag", QMetaType::QString },
+            PropertyDefinition { "Style", QMetaType::QObjectStar, Unit::Object },
+            PropertyDefinition { "HighlightRowStyle", QMetaType::QObjectStar, Unit::Object },
+            PropertyDefinition { "SelectedStyle", QMetaType::QObjectStar, Unit::Object },
+            PropertyDefinition { "Columns", QMetaType::QObjectStar, Unit::Object },
         }));
 
 inline constexpr std::array gridOperations {
-    OperationSpec { "Move", Side::Widget },
-    OperationSpec { "ZOrder", Side::Widget },
+    OperationDefinition { "Move", Side::Widget },
+    OperationDefinition { "ZOrder", Side::Widget },
 };
 
 /// The data grid.
-inline constexpr ControlSpec grid { "Grid", gridProperties, gridOperations };
+inline constexpr ControlDefinition grid { "Grid", gridProperties, gridOperations };
 
 } // namespace qor::controls

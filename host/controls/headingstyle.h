@@ -1,17 +1,17 @@
 #pragma once
 
-#include "host/controls/propertyspec.h"
+#include "host/controls/propertydefinition.h"
 
 namespace qor::controls {
 
 inline constexpr std::array headingStyleProperties {
-    PropertySpec { "EllipsisText", QMetaType::Bool },
-    PropertySpec { "ForegroundPicture", QMetaType::QVariant },
-    PropertySpec { "ForegroundPicturePosition", QMetaType::Int },
-    PropertySpec { "TransparentForegroundPicture", QMetaType::Bool },
+    PropertyDefinition { "EllipsisText", QMetaType::Bool },
+    PropertyDefinition { "ForegroundPicture", QMetaType::QVariant },
+    PropertyDefinition { "ForegroundPicturePosition", QMetaType::Int },
+    PropertyDefinition { "TransparentForegroundPicture", QMetaType::Bool },
 };
 
 /// The heading of a grid column.
-inline constexpr ControlSpec headingStyle { "HeadingStyle", headingStyleProperties, {} };
+inline constexpr ControlDefinition headingStyle { "HeadingStyle", headingStyleProperties, {} };
 
 } // namespace qor::controls

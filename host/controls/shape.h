@@ -1,23 +1,23 @@
 #pragma once
 
-#include "host/controls/propertyspec.h"
+#include "host/controls/propertydefinition.h"
 
 namespace qor::controls {
 
 inline constexpr auto shapeProperties = join(placedControl,
     std::array {
-        PropertySpec { "BorderStyle", QMetaType::Int, Unit::None, 1 },
-        PropertySpec { "FillStyle", QMetaType::Int, Unit::None, 1 }, // transparent
-        PropertySpec { "BorderColor", QMetaType::Int, Unit::Colour },
-        PropertySpec { "FillColor", QMetaType::Int, Unit::Colour },
+        PropertyDefinition { "BorderStyle", QMetaType::Int, Unit::None, 1 },
+        PropertyDefinition { "FillStyle", QMetaType::Int, Unit::None, 1 }, // transparent
+        PropertyDefinition { "BorderColor", QMetaType::Int, Unit::Colour },
+        PropertyDefinition { "FillColor", QMetaType::Int, Unit::Colour },
     });
 
 inline constexpr std::array shapeOperations {
-    OperationSpec { "Move" },
-    OperationSpec { "ZOrder" },
+    OperationDefinition { "Move" },
+    OperationDefinition { "ZOrder" },
 };
 
 /// A rectangle drawn on a form (the menu's buttons).
-inline constexpr ControlSpec shape { "Shape", shapeProperties, shapeOperations };
+inline constexpr ControlDefinition shape { "Shape", shapeProperties, shapeOperations };
 
 } // namespace qor::controls

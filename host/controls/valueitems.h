@@ -1,23 +1,23 @@
 #pragma once
 
-#include "host/controls/propertyspec.h"
+#include "host/controls/propertydefinition.h"
 
 namespace qor::controls {
 
 inline constexpr std::array valueItemsProperties {
-    PropertySpec { "Count", QMetaType::Int },
-    PropertySpec { "Translate", QMetaType::Bool },
+    PropertyDefinition { "Count", QMetaType::Int },
+    PropertyDefinition { "Translate", QMetaType::Bool },
 };
 
 inline constexpr std::array valueItemsOperations {
-    OperationSpec { "Add" },
-    OperationSpec { "Item" },
-    OperationSpec { "Remove" },
-    OperationSpec { "Clear" },
+    OperationDefinition { "Add" },
+    OperationDefinition { "Item" },
+    OperationDefinition { "Remove" },
+    OperationDefinition { "Clear" },
 };
 
 /// The value items of a grid column: stored values and what the cells show.
-inline constexpr ControlSpec valueItems { "ValueItems", valueItemsProperties,
+inline constexpr ControlDefinition valueItems { "ValueItems", valueItemsProperties,
     valueItemsOperations };
 
 } // namespace qor::controls

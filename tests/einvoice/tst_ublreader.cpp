@@ -1,4 +1,5 @@
 #include "einvoice/invoicejson.h"
+#include "einvoice/ublnames.h"
 #include "einvoice/ublreader.h"
 #include "einvoice/ublwriter.h"
 
@@ -13,12 +14,17 @@ namespace {
 // A small valid invoice; "%1" is replaced by the row's text in its body.
 QByteArray invoiceWith(const char *body, const char *payable = "121.00")
 {
+    const QByteArray root
+        = QStringLiteral(R"(<Invoice xmlns="%1" xmlns:cac="%2" xmlns:cbc="%3">)")
+              .arg(Ubl::InvoiceNamespace, Ubl::AggregateNamespace, Ubl::BasicNamespace)
+              .toUtf8();
     return QByteArray(R"(<?xml version="1.0" encoding="UTF-8"?>
-<Invoice xmlns="urn:oasis:names:specification:ubl:schema:xsd:Invoice-2" xmlns:cac="urn:oasis:names:specification:ubl:schema:xsd:CommonAggregateComponents-2" xmlns:cbc="urn:oasis:names:specification:ubl:schema:xsd:CommonBasicComponents-2">
+)") + root
+        + R"(
 <cbc:ID>F1</cbc:ID>
 <cbc:IssueDate>2026-01-15</cbc:IssueDate>
 <cbc:DocumentCurrencyCode>EUR</cbc:DocumentCurrencyCode>
-)") + body
+)" + body
         + R"(
 <cac:TaxTotal><cbc:TaxAmount currencyID="EUR">21.00</cbc:TaxAmount>
 <cac:TaxSubtotal><cbc:TaxableAmount currencyID="EUR">100.00</cbc:TaxableAmount><cbc:TaxAmount currencyID="EUR">21.00</cbc:TaxAmount>

@@ -63,7 +63,7 @@ using AdapterMaker = std::function<QObject *(QWidget *)>;
 
 struct Pair
 {
-    const controls::ControlSpec *control;
+    const controls::ControlDefinition *control;
     AdapterMaker adapter;
 };
 
@@ -126,10 +126,10 @@ bool onSide(Side side, bool model)
 }
 
 // "Name type" for each property; an object may be held in a variant.
-QStringList defined(const controls::ControlSpec &control, bool model)
+QStringList defined(const controls::ControlDefinition &control, bool model)
 {
     QStringList names;
-    for (const controls::PropertySpec &p : control.properties) {
+    for (const controls::PropertyDefinition &p : control.properties) {
         if (onSide(p.side, model))
             names.append(QString::fromLatin1(p.name.data(), p.name.size()) + u' '
                 + (p.unit == controls::Unit::Object ? QStringLiteral("object")
@@ -139,7 +139,7 @@ QStringList defined(const controls::ControlSpec &control, bool model)
     return names;
 }
 
-QStringList declared(const QObject &object, const controls::ControlSpec &control)
+QStringList declared(const QObject &object, const controls::ControlDefinition &control)
 {
     QStringList names;
     const QMetaObject *meta = object.metaObject();
@@ -147,7 +147,7 @@ QStringList declared(const QObject &object, const controls::ControlSpec &control
         const QMetaProperty property = meta->property(i);
         const QString name = QString::fromLatin1(property.name());
         bool isObject = false;
-        for (const controls::PropertySpec &p : control.properties)
+        for (const controls::PropertyDefinition &p : control.properties)
             isObject |= p.name == property.name() && p.unit == controls::Unit::Object;
         names.append(
             name + u' ' + (isObject ? QStringLiteral("object") : property.metaType().name()));
@@ -156,10 +156,10 @@ QStringList declared(const QObject &object, const controls::ControlSpec &control
     return names;
 }
 
-QStringList definedOperations(const controls::ControlSpec &control, bool model)
+QStringList definedOperations(const controls::ControlDefinition &control, bool model)
 {
     QStringList names;
-    for (const controls::OperationSpec &operation : control.operations) {
+    for (const controls::OperationDefinition &operation : control.operations) {
         if (onSide(operation.side, model))
             names.append(QString::fromLatin1(operation.name.data(), operation.name.size()));
     }
@@ -181,10 +181,11 @@ QStringList declaredOperations(const QObject &object)
 }
 
 // "Name=value" for every number, boolean and text the side starts with.
-QStringList startingValues(const QObject *object, const controls::ControlSpec &control, bool model)
+QStringList startingValues(
+    const QObject *object, const controls::ControlDefinition &control, bool model)
 {
     QStringList values;
-    for (const controls::PropertySpec &p : control.properties) {
+    for (const controls::PropertyDefinition &p : control.properties) {
         if (!onSide(p.side, model) || (!model && p.widgetStarts))
             continue;
         const QString name = QString::fromLatin1(p.name.data(), p.name.size());
@@ -218,7 +219,7 @@ private slots:
     void modelAndAdapterFollowTheDefinition()
     {
         QFETCH(int, row);
-        const controls::ControlSpec &control = *pairs().at(row).control;
+        const controls::ControlDefinition &control = *pairs().at(row).control;
         std::unique_ptr<HostObject> model(HostFactory::create(
             QString::fromLatin1(control.hostClass.data(), control.hostClass.size())));
         QVERIFY(model);
@@ -240,7 +241,7 @@ private slots:
     {
         QTest::addColumn<int>("row");
         for (int i = 0; i < pairs().size(); ++i) {
-            const controls::ControlSpec &control = *pairs().at(i).control;
+            const controls::ControlDefinition &control = *pairs().at(i).control;
             if (definedOperations(control, false).contains(QStringLiteral("ZOrder")))
                 QTest::newRow(std::string(control.hostClass).c_str()) << i;
         }

@@ -25,7 +25,7 @@ enum class Side { Both, Model, Widget };
 /// One property of a control: its name, type, unit and the value it starts
 /// with. Numbers and booleans start at `initial`; texts start empty and
 /// variants, lists and objects start as their owner makes them.
-struct PropertySpec
+struct PropertyDefinition
 {
     std::string_view name;
     QMetaType::Type type = QMetaType::UnknownType;
@@ -38,7 +38,7 @@ struct PropertySpec
 };
 
 /// One operation (a method the host calls by name) of a control.
-struct OperationSpec
+struct OperationDefinition
 {
     std::string_view name;
     Side side = Side::Both;
@@ -47,19 +47,19 @@ struct OperationSpec
 /// The one definition of a control: the class name hosts use, its properties
 /// and its operations. The model (host/) and the adapter of a real widget
 /// (host/qt/) both start from it; a test holds their declarations to it.
-struct ControlSpec
+struct ControlDefinition
 {
     std::string_view hostClass;
-    std::span<const PropertySpec> properties;
-    std::span<const OperationSpec> operations;
+    std::span<const PropertyDefinition> properties;
+    std::span<const OperationDefinition> operations;
 };
 
 /// The members a control shares with another, followed by its own.
-template <typename Spec, std::size_t First, std::size_t Second>
-constexpr std::array<Spec, First + Second> join(
-    const std::array<Spec, First> &first, const std::array<Spec, Second> &second)
+template <typename Definition, std::size_t First, std::size_t Second>
+constexpr std::array<Definition, First + Second> join(
+    const std::array<Definition, First> &first, const std::array<Definition, Second> &second)
 {
-    std::array<Spec, First + Second> all {};
+    std::array<Definition, First + Second> all {};
     std::copy(first.begin(), first.end(), all.begin());
     std::copy(second.begin(), second.end(), all.begin() + First);
     return all;
@@ -67,9 +67,9 @@ constexpr std::array<Spec, First + Second> join(
 
 /// The value a property starts with, in the type its holder keeps. A name the
 /// control does not define stops the build.
-template <typename T> consteval T initial(const ControlSpec &control, std::string_view name)
+template <typename T> consteval T initial(const ControlDefinition &control, std::string_view name)
 {
-    for (const PropertySpec &property : control.properties) {
+    for (const PropertyDefinition &property : control.properties) {
         if (property.name == name)
             return T(property.initial);
     }
@@ -78,21 +78,21 @@ template <typename T> consteval T initial(const ControlSpec &control, std::strin
 
 /// What every placed control of a form has: position and size in twips.
 inline constexpr std::array placedGeometry {
-    PropertySpec { "Left", QMetaType::Float, Unit::Twips, 0, Side::Both, true },
-    PropertySpec { "Top", QMetaType::Float, Unit::Twips, 0, Side::Both, true },
-    PropertySpec { "Width", QMetaType::Float, Unit::Twips, 0, Side::Both, true },
-    PropertySpec { "Height", QMetaType::Float, Unit::Twips, 0, Side::Both, true },
+    PropertyDefinition { "Left", QMetaType::Float, Unit::Twips, 0, Side::Both, true },
+    PropertyDefinition { "Top", QMetaType::Float, Unit::Twips, 0, Side::Both, true },
+    PropertyDefinition { "Width", QMetaType::Float, Unit::Twips, 0, Side::Both, true },
+    PropertyDefinition { "Height", QMetaType::Float, Unit::Twips, 0, Side::Both, true },
 };
 
 /// Whether a real widget is shown; model controls do not keep it.
 inline constexpr std::array widgetVisibility {
-    PropertySpec { "Visible", QMetaType::Bool, Unit::None, 1, Side::Widget, true },
+    PropertyDefinition { "Visible", QMetaType::Bool, Unit::None, 1, Side::Widget, true },
 };
 
 /// The operations of a placed control: Move on both, ZOrder on real widgets.
 inline constexpr std::array placedOperations {
-    OperationSpec { "Move" },
-    OperationSpec { "ZOrder", Side::Widget },
+    OperationDefinition { "Move" },
+    OperationDefinition { "ZOrder", Side::Widget },
 };
 
 /// Position, size and visibility of a placed control.
@@ -101,14 +101,14 @@ inline constexpr auto placedControl = join(placedGeometry, widgetVisibility);
 /// Position, size and visibility that only a real widget has: its model is
 /// not placed (a list, a date field).
 inline constexpr std::array widgetPlacement {
-    PropertySpec { "Left", QMetaType::Float, Unit::Twips, 0, Side::Widget, true },
-    PropertySpec { "Top", QMetaType::Float, Unit::Twips, 0, Side::Widget, true },
-    PropertySpec { "Width", QMetaType::Float, Unit::Twips, 0, Side::Widget, true },
-    PropertySpec { "Height", QMetaType::Float, Unit::Twips, 0, Side::Widget, true },
+    PropertyDefinition { "Left", QMetaType::Float, Unit::Twips, 0, Side::Widget, true },
+    PropertyDefinition { "Top", QMetaType::Float, Unit::Twips, 0, Side::Widget, true },
+    PropertyDefinition { "Width", QMetaType::Float, Unit::Twips, 0, Side::Widget, true },
+    PropertyDefinition { "Height", QMetaType::Float, Unit::Twips, 0, Side::Widget, true },
     widgetVisibility[0],
 };
 
 /// Any placed control of a form, known by nothing more.
-inline constexpr ControlSpec control { "Control", placedControl, placedOperations };
+inline constexpr ControlDefinition control { "Control", placedControl, placedOperations };
 
 } // namespace qor::controls
