@@ -26,8 +26,8 @@ void sendAKey(int keyAscii)
     Keyboard &keyboard = Keyboard::current();
     const int virtualKey = keyboard.virtualKeyOf(keyAscii) & 0xFF;
     const int scanCode = keyboard.scanCodeOf(keyAscii) & 0xFF;
-    keyboard.keyEvent(virtualKey, scanCode, 0);
-    keyboard.keyEvent(virtualKey, scanCode, 2);
+    keyboard.keyEvent(virtualKey, scanCode, Keyboard::KeyDown);
+    keyboard.keyEvent(virtualKey, scanCode, Keyboard::KeyUp);
 }
 
 } // namespace qor

@@ -11,6 +11,9 @@ namespace qor {
 class QORGENLIB_EXPORT Keyboard
 {
 public:
+    /// The flags of a key event.
+    enum KeyEventFlag { KeyDown = 0, KeyUp = 2 };
+
     virtual ~Keyboard();
 
     virtual int virtualKeyOf(int ansiCode) const = 0;

@@ -148,7 +148,7 @@ struct QORGENLIB_EXPORT MousePointerSet
 
 struct QORGENLIB_EXPORT KeySent
 {
-    static constexpr const char *kind = "key";
+    static constexpr const char *kind = "keys";
     int virtualKey = 0;
     int scanCode = 0;
     int flags = 0;

@@ -1,5 +1,6 @@
 #include "tools/qorgen/recordwriter.h"
 
+#include "platform/keyboard.h"
 #include "tools/qorgen/jsonsink.h"
 #include "tools/qorgen/valuecodec.h"
 
@@ -121,7 +122,7 @@ QVariantMap fieldsOf(const FormKeptOnTop &onTop)
 
 QVariantMap fieldsOf(const MousePointerSet &pointer)
 {
-    return { { QStringLiteral("pointer"), pointer.pointer } };
+    return { { QStringLiteral("value"), pointer.pointer } };
 }
 
 QVariantMap fieldsOf(const KeySent &key)
@@ -183,6 +184,29 @@ void RecordWriter::writeShown(JsonSink &out, const ShownEvent &shown)
 void RecordWriter::writeAction(JsonSink &out, const MachineAction &action)
 {
     writePlain(out, fields(action));
+}
+
+void RecordWriter::writeActions(JsonSink &out, const QList<MachineAction> &actions)
+{
+    out.beginArray();
+    for (qsizetype i = 0; i < actions.size();) {
+        if (!std::holds_alternative<KeySent>(actions[i])) {
+            writeAction(out, actions[i++]);
+            continue;
+        }
+        QVariantList codes;
+        QVariantList events;
+        for (; i < actions.size() && std::holds_alternative<KeySent>(actions[i]); ++i) {
+            const KeySent &key = std::get<KeySent>(actions[i]);
+            if (key.flags != Keyboard::KeyUp)
+                codes.append(key.virtualKey);
+            events.append(fieldsOf(key));
+        }
+        writePlain(out,
+            QVariantMap { { QStringLiteral("kind"), QString::fromLatin1(KeySent::kind) },
+                { QStringLiteral("codes"), codes }, { QStringLiteral("events"), events } });
+    }
+    out.endArray();
 }
 
 } // namespace qor

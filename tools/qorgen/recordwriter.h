@@ -21,6 +21,10 @@ public:
     static void writeShown(JsonSink &out, const ShownEvent &record);
     // An action record, its fields in the order of their names.
     static void writeAction(JsonSink &out, const MachineAction &record);
+    // The "actions" array. Key events that follow each other make one "keys"
+    // record: "codes" holds the virtual keys pressed, in order, and "events" each
+    // event as it went out (virtual key, scan code, flags 0 down or 2 up).
+    static void writeActions(JsonSink &out, const QList<MachineAction> &records);
 };
 
 } // namespace qor

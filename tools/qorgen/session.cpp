@@ -336,10 +336,7 @@ Session::Outcome Session::run(Call &call, JsonSink &out)
     out.endArray();
     if (!m_platform->actions().isEmpty()) {
         out.key(u"actions");
-        out.beginArray();
-        for (const MachineAction &record : m_platform->actions())
-            RecordWriter::writeAction(out, record);
-        out.endArray();
+        RecordWriter::writeActions(out, m_platform->actions());
     }
     if (error) {
         out.key(u"error");
