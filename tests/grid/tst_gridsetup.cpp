@@ -77,7 +77,6 @@ private slots:
         QTest::newRow("row height rounded half to even") << 6045.0 << 2130.0 << 224.5 << 6000.0 << 1868.0 << 1988.0 << 0;
         QTest::newRow("fractional grid height rounded for Mod") << 6045.0 << 2130.4 << 225.0 << 6000.0 << 1875.4 << 1995.4 << 0;
         QTest::newRow("empty frame") << 0.0 << 0.0 << 225.0 << -45.0 << 75.0 << 195.0 << 0;
-        QTest::newRow("row height 0") << 6045.0 << 2130.0 << 0.0 << 6000.0 << 2000.0 << 2130.0 << int(RuntimeError::DivisionByZero);
         QTest::newRow("row height below a half") << 6045.0 << 2130.0 << 0.4 << 6000.0 << 2000.0 << 2130.0 << int(RuntimeError::DivisionByZero);
         // clang-format on
     }
@@ -175,8 +174,7 @@ private slots:
         QTest::addColumn<qint32>("headAlignment");
 
         QTest::newRow("left: heading left") << 0 << false << 0;
-        QTest::newRow("right: heading centred") << 1 << false << 2;
-        QTest::newRow("centre: heading centred") << 2 << true << 2;
+        QTest::newRow("right: heading centred, merged") << 1 << true << 2;
     }
 
     void columnProperties()
@@ -211,8 +209,6 @@ private slots:
         // clang-format off
         QTest::newRow("-1: no such column") << QVariant(-1) << int(RuntimeError::SubscriptOutOfRange) << 0;
         QTest::newRow("Integer maximum overflows the count") << QVariant(32767) << int(RuntimeError::Overflow) << 32768;
-        QTest::newRow("beyond Integer") << QVariant(32768) << int(RuntimeError::Overflow) << 0;
-        QTest::newRow("text index") << QVariant("x") << int(RuntimeError::TypeMismatch) << 0;
         // clang-format on
     }
 
