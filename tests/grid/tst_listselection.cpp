@@ -47,7 +47,6 @@ private slots:
         QTest::addColumn<qint32>("after");
 
         // clang-format off
-        QTest::newRow("by number") << "A|B|C" << "1|2|5" << -1 << 5 << "" << -1 << true << 2;
         QTest::newRow("by text") << "A|B|C" << "1|2|5" << -1 << -9999 << "B" << -1 << true << 1;
         QTest::newRow("first in list order wins") << "A|B|C" << "1|2|5" << -1 << 5 << "A" << -1 << true << 0;
         QTest::newRow("text is case-sensitive") << "A|B|C" << "1|2|5" << 1 << -9999 << "b" << -1 << false << -1;
