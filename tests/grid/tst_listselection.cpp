@@ -156,10 +156,6 @@ private slots:
         form.assign("Controls", QVariantList { QVariant::fromValue<QObject *>(&box) });
         QCOMPARE(lib.DataChange(&form), true); // no reset: the empty Tag differs
         QCOMPARE(lib.property("DataCH").toBool(), true);
-        Form empty;
-        QCOMPARE(lib.DataChange(&empty, true), false);
-        QCOMPARE(empty.value("Tag").toString(), QString());
-        QCOMPARE(lib.DataChange(&empty), false);
         HostObject noTag; // neither Tag nor Controls
         QCOMPARE(lib.DataChange(&noTag, true), false);
         QCOMPARE(lib.DataChange(&noTag), false);
