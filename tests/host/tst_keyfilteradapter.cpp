@@ -119,17 +119,6 @@ private slots:
         const QKeyEvent event(QEvent::KeyPress, key, Qt::KeyboardModifiers(modifiers), text);
         QTEST(KeyFilterAdapter::characterCode(&event), "code");
     }
-
-    void theAdapterGoesWithTheField()
-    {
-        test::installRecordingPlatform(QStringLiteral("nl_BE"));
-        clsqorGenLib lib;
-        auto *field = new QLineEdit;
-        QPointer<KeyFilterAdapter> adapter = KeyFilterAdapter::attachKeyPress(field, &lib, "C");
-        QCOMPARE(adapter->control()->field(), field);
-        delete field;
-        QVERIFY(adapter.isNull());
-    }
 };
 
 QTEST_MAIN(TestKeyFilterAdapter)
