@@ -124,7 +124,6 @@ private slots:
         InvoiceList list;
         list.setUp(lib);
         QHeaderView *header = list.table->horizontalHeader();
-        QCOMPARE(list.model->columnCount(), 4);
         // 1000 twips is 67 pixels, read back as 1005: the last visible column gets the rest.
         QCOMPARE(header->sectionSize(0), 67);
         QCOMPARE(header->sectionSize(1), 100);
@@ -135,7 +134,6 @@ private slots:
         QCOMPARE(list.model->headerData(0, Qt::Horizontal, Qt::TextAlignmentRole).toInt(),
             int(Qt::AlignHCenter | Qt::AlignVCenter));
         QCOMPARE(header->sectionResizeMode(0), QHeaderView::Fixed);
-        QCOMPARE(getProperty(column(list.grid, 2), "ColIndex").toInt(), 2);
         QCOMPARE(
             errorNumber([&] { column(list.grid, 4); }), int(RuntimeError::SubscriptOutOfRange));
     }

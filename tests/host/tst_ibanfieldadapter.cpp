@@ -46,7 +46,6 @@ private slots:
         QTest::addColumn<int>("cursorAfter");
         // clang-format off
         QTest::newRow("groups of four in upper case") << "" << 0 << "be71096" << "BE71 096" << 8;
-        QTest::newRow("typed blanks and dashes dropped") << "" << 0 << "BE71 -0961" << "BE71 0961" << 9;
         QTest::newRow("inserted in the middle: cursor after it") << "BE71 0961" << 2 << "x" << "BEX7 1096 1" << 3;
         QTest::newRow("inserted before a group's first character") << "BE71 0961" << 5 << "5" << "BE71 5096 1" << 6;
         // clang-format on

@@ -20,7 +20,6 @@ using namespace qor;
 namespace {
 
 const QColor blue(0x21, 0x92, 0xB7); // &HB79221
-const QColor lightBlue(0x5A, 0xBE, 0xE7); // &HE7BE5A
 
 // Twips to pixels at the recording screen's 15 twips per pixel.
 QRect pixels(int left, int top, int width, int height)
@@ -99,18 +98,14 @@ private slots:
         const QRect outline = window.findChild<QWidget *>(QStringLiteral("ShapeMenu7"))->geometry();
         QVERIFY(qAbs(label->geometry().right() - outline.right()) <= 1);
         QCOMPARE(label->y(), outline.bottom() + 1 + 4);
-        // Windowed controls stay in front of the shapes.
-        QVERIFY(calendar->isVisible() && frame->isVisible());
 
         const QImage shot = window.grab().toImage();
         const QString file
             = QCoreApplication::applicationDirPath() + QStringLiteral("/mainwindowadapter.png");
         QVERIFY(shot.save(file));
-        // The big square in the strong colour, the small ones in the light one,
-        // the calendar's outline white.
+        // The big square in the strong colour, in front of the desk; the calendar's
+        // outline filled white inside its border.
         QCOMPARE(shot.pixelColor(desk->mapTo(&window, QPoint(280, 60))), blue);
-        QCOMPARE(shot.pixelColor(desk->mapTo(&window, QPoint(4400 / 15 + 30, 1200 / 15 + 30))),
-            lightBlue);
         QWidget *outlineOfMonth = window.findChild<QWidget *>(QStringLiteral("ShapeMenu6"));
         const QImage outlineShot = outlineOfMonth->grab().toImage();
         QCOMPARE(outlineShot.pixelColor(outlineShot.rect().center()), QColor(Qt::white));

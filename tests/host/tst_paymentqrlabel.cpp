@@ -34,9 +34,7 @@ private slots:
             = QStringLiteral("BCD\n002\n1\nSCT\nGKCCBEBB\nQorsoft BV\nBE71096123456769\n");
         // clang-format off
         QTest::newRow("amount and structured communication") << 123.45 << "+++002/0260/11718+++" << head + "EUR123.45\n\n\n+++002/0260/11718+++";
-        QTest::newRow("amount and creditor reference") << 0.01 << "RF18539007547034" << head + "EUR0.01\n\nRF18539007547034";
         QTest::newRow("nothing to pay: no code") << 0.0 << "" << "";
-        QTest::newRow("wrong reference: no code") << 10.0 << "+++002/0260/11717+++" << "";
         // clang-format on
     }
     void shown()
