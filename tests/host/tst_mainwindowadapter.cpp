@@ -9,6 +9,7 @@
 
 #include <QCalendarWidget>
 #include <QCoreApplication>
+#include <QDir>
 #include <QGroupBox>
 #include <QLabel>
 #include <QPushButton>
@@ -100,9 +101,10 @@ private slots:
         QCOMPARE(label->y(), outline.bottom() + 1 + 4);
 
         const QImage shot = window.grab().toImage();
-        const QString file
-            = QCoreApplication::applicationDirPath() + QStringLiteral("/mainwindowadapter.png");
-        QVERIFY(shot.save(file));
+        const QString folder
+            = QCoreApplication::applicationDirPath() + QStringLiteral("/screenshots");
+        QDir().mkpath(folder);
+        QVERIFY(shot.save(folder + QStringLiteral("/menuform-house-layout.png")));
         // The big square in the strong colour, in front of the desk; the calendar's
         // outline filled white inside its border.
         QCOMPARE(shot.pixelColor(desk->mapTo(&window, QPoint(280, 60))), blue);
