@@ -3,7 +3,7 @@
 #include <QFile>
 #include <QTemporaryDir>
 
-// `qorgen einvoice` and the bridge's second class, driven as a separate process.
+// `qorgen einvoice`, driven as a separate process.
 class TestQorgenEInvoice : public QObject
 {
     Q_OBJECT
@@ -48,30 +48,6 @@ private slots:
         QVERIFY2(run.err.contains(err), run.err.constData());
         if (exitCode != 0 && arguments.first() == u"write")
             QVERIFY(!run.out.contains("<Invoice"));
-    }
-
-    void bridgeReachesInvoiceObject_data()
-    {
-        QTest::addColumn<QByteArray>("request");
-        QTest::addColumn<QString>("field");
-        QTest::addColumn<QString>("expected");
-        // clang-format off
-        QTest::newRow("method of the invoice") << QByteArray(R"({"object": "clsqorEInvoice", "call": "AddLine", "args": ["Koffie", 3, "0.335"]})") << "result" << "1";
-        QTest::newRow("property after the call, class name in any case") << QByteArray(R"({"object": "clsqoreinvoice", "call": "AddLine", "args": ["Koffie", 3, "0.335", 6]})") << "props.TotalInclVAT" << "1.07";
-        QTest::newRow("class that does not exist") << QByteArray(R"({"object": "clsqorNone", "call": "x"})") << "error.number" << "429";
-        // clang-format on
-    }
-    void bridgeReachesInvoiceObject()
-    {
-        QFETCH(QByteArray, request);
-        QFETCH(QString, field);
-        QFETCH(QString, expected);
-        const QorgenRun run = runQorgen({ "batch" }, request + '\n');
-        QVERIFY(run.finished);
-        QJsonValue value = run.responses().value(0);
-        for (const QString &key : field.split(u'.'))
-            value = value.toObject().value(key);
-        QCOMPARE(value.toVariant().toString(), expected);
     }
 };
 
