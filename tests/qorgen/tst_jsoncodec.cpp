@@ -12,12 +12,7 @@
 
 #include <QTest>
 
-#include <cmath>
-#include <limits>
-
 using namespace qor;
-
-Q_DECLARE_METATYPE(qor::JsonValue)
 
 namespace {
 
@@ -116,28 +111,6 @@ private slots:
         }
     }
 
-    // Writing JSON text.
-    void writer_data()
-    {
-        QTest::addColumn<JsonValue>("value");
-        QTest::addColumn<QByteArray>("text");
-        // clang-format off
-        QTest::newRow("shortest double") << JsonValue(0.1) << QByteArray("0.1");
-        QTest::newRow("large double") << JsonValue(1e20) << QByteArray("1e+20");
-        QTest::newRow("shortest single") << JsonValue::single(0.1f) << QByteArray("0.1");
-        QTest::newRow("whole single") << JsonValue::single(3.0f) << QByteArray("3.0");
-        QTest::newRow("not a number") << JsonValue(std::nan("")) << QByteArray("null");
-        QTest::newRow("infinite") << JsonValue(std::numeric_limits<double>::infinity()) << QByteArray("null");
-        QTest::newRow("members in order") << JsonValue::object().insert("z", 1).insert( "a", JsonValue::array().append(true).append(nullptr)) << QByteArray(R"({"z":1,"a":[true,null]})");
-        QTest::newRow("empty containers") << JsonValue::array().append(JsonValue::object()).append(JsonValue::array()) << QByteArray("[{},[]]");
-        // clang-format on
-    }
-    void writer()
-    {
-        QFETCH(JsonValue, value);
-        QTEST(write(value), "text");
-    }
-
     // Library values from JSON and back as they were, with their Variant subtype; whole
     // numbers take the smallest subtype that holds them, host objects belong to their owner.
     void valuesBothWays_data()
@@ -184,14 +157,12 @@ private slots:
         QTest::newRow("plain object") << QByteArray(R"({"a": 1})") << "value";
         QTest::newRow("unknown marker") << QByteArray(R"({"$foo": 1})") << "value";
         QTest::newRow("empty that is false") << QByteArray(R"({"$empty": false})") << "value";
-        QTest::newRow("date in the wrong order") << QByteArray(R"({"$date": "20-05-2004"})") << "value";
         QTest::newRow("date that does not exist") << QByteArray(R"({"$date": "2004-02-30"})") << "value";
         QTest::newRow("date at hour 24") << QByteArray(R"({"$date": "2004-05-20T24:00"})") << "value";
         QTest::newRow("date with a space for the T") << QByteArray(R"({"$date": "2004-05-20 08:30"})") << "value";
         QTest::newRow("date before the year 100") << QByteArray(R"({"$date": "0099-01-01"})") << "value";
         QTest::newRow("date with company") << QByteArray(R"({"$date": "2004-05-20", "x": 1})") << "value";
         QTest::newRow("missing outside an argument") << QByteArray(R"({"$missing": true})") << "value";
-        QTest::newRow("missing inside an array") << QByteArray(R"([{"$missing": true}])") << "value[0]";
         QTest::newRow("unknown class") << QByteArray(R"({"$object": "Nope"})") << "value";
         QTest::newRow("property that does not convert") << QByteArray(R"({"$object": "TextBox", "SelStart": "x"})") << "value.SelStart";
         QTest::newRow("plain object in a property") << QByteArray(R"({"$object": "TextBox", "Tag": {"a": 1}})") << "value.Tag";
