@@ -1,8 +1,14 @@
 #include "qorgenprocess.h"
 
+#include <QFile>
 #include <QJsonArray>
 
 namespace {
+
+int errorNumberOf(const QJsonObject &reply)
+{
+    return reply.value("error").toObject().value("number").toInt();
+}
 
 QJsonObject named(const QJsonArray &list, const QString &name)
 {
@@ -15,7 +21,9 @@ QJsonObject named(const QJsonArray &list, const QString &name)
 
 } // namespace
 
-class TestQorgenCall : public QObject
+// The qorgen program run as a separate process, as its users run it: `call`,
+// `methods`, help, `batch` and `einvoice`.
+class TestQorgen : public QObject
 {
     Q_OBJECT
 
@@ -125,7 +133,121 @@ private slots:
         QCOMPARE(version.exitCode, 0);
         QVERIFY(version.out.startsWith("qorgen "));
     }
+
+    // One response a line, in order: the layout of each is the session's business. Input
+    // that is large, odd or cut off, and a line that cannot be read, never stop the batch.
+    void badInputNeverStopsTheBatch()
+    {
+        const QByteArray hugeString = QByteArray("a1").repeated(2500000);
+        const QByteArray hugeArray = "[" + QByteArray("0,").repeated(1500000) + "0]";
+        const QorgenRun run = runQorgen({ QStringLiteral("batch") },
+            "{\"call\": \"FilterNumeric\", \"args\": [\"" + hugeString + "\"]}\n"
+                + R"({"call": "FilterNumeric", "args": [)" + hugeArray + "]}\n\n   \n"
+                + R"({"call": "SCase", "args": ["crlf"]})"
+                  "\r\n"
+                + R"({"call": "FilterNumeric", "args": ["x9"]})"
+                  "\n"
+                + "{\"call\": \"FilterNu");
+        QVERIFY(run.finished);
+        QCOMPARE(run.exitCode, 0);
+        const QList<QJsonObject> responses = run.responses();
+        QCOMPARE(responses.size(), 5); // blank lines get no response
+        QCOMPARE(responses[0].value("result").toString().size(), 2500000);
+        QCOMPARE(errorNumberOf(responses[1]), 5);
+        QCOMPARE(responses[2].value("result").toString(), QStringLiteral("Crlf"));
+        QCOMPARE(responses[3].value("result").toString(), QStringLiteral("9"));
+        QCOMPARE(errorNumberOf(responses[4]), 5); // the input closed in the middle of a line
+    }
+
+    // Objects of any size are read, checked for repeated names and written back
+    // in time that grows with their size alone (the test's time limit is the check).
+    void largeObjectsAreAnswered_data()
+    {
+        QTest::addColumn<QByteArray>("kind");
+        QTest::addColumn<QString>("fault"); // named in the error; empty: none
+        QTest::newRow("host object with many properties") << QByteArray("$object") << QString();
+        QTest::newRow("many members, the last repeated: no JSON, so no id")
+            << QByteArray("repeated") << QStringLiteral("m7");
+    }
+    void largeObjectsAreAnswered()
+    {
+        QFETCH(QByteArray, kind);
+        QFETCH(QString, fault);
+        const int members = 200000;
+        QByteArray object = kind == "$object" ? QByteArray(R"({"$object": "TextBox", "Text": "ab")")
+                                              : QByteArray("{\"m\": 0");
+        for (int i = 1; i < members; ++i)
+            object += ", \"m" + QByteArray::number(i) + "\": " + QByteArray::number(i);
+        object += kind == "repeated" ? ", \"m7\": 1}" : "}";
+        const QByteArray call = kind == "$object"
+            ? R"({"id": 1, "props": false, "call": "SelEdit", "args": [)" + object + "]}"
+            : R"({"id": 1, "props": false, "call": "SCase", "args": ["x"], "extra": )" + object
+                + "}";
+        const QorgenRun run = runQorgen({ QStringLiteral("batch") },
+            call + "\n"
+                + R"({"call": "SCase", "args": ["y"]})"
+                  "\n");
+        QVERIFY(run.finished);
+        const QList<QJsonObject> responses = run.responses();
+        QCOMPARE(responses.size(), 2);
+        const QJsonObject reply = responses[0];
+        QCOMPARE(reply.value("id"),
+            kind == "repeated" ? QJsonValue(QJsonValue::Undefined) : QJsonValue(1));
+        if (fault.isEmpty()) {
+            const QJsonObject control = reply.value("args").toArray().at(0).toObject();
+            QCOMPARE(control.value("SelLength").toInt(), 2);
+            QCOMPARE(control.value("m1").toInt(), 1);
+            QCOMPARE(control.value("m" + QString::number(members - 1)).toInt(), members - 1);
+        } else {
+            QCOMPARE(errorNumberOf(reply), 5);
+            QVERIFY(
+                reply.value("error").toObject().value("description").toString().contains(fault));
+        }
+        QCOMPARE(responses[1].value("result").toString(), QStringLiteral("Y"));
+    }
+
+    // `qorgen einvoice`.
+    void einvoiceExitStatusAndOutput_data()
+    {
+        const QString valid = QStringLiteral(QOR_EINVOICE_TEST_DATA "/invoices/01-two-rates.json");
+        QFile file(valid);
+        QVERIFY(file.open(QIODevice::ReadOnly));
+        const QByteArray json = file.readAll();
+        QByteArray noBuyer = json;
+        noBuyer.replace("\"Bouwwerken Claes NV\"", "\"\"");
+        QTest::addColumn<QStringList>("arguments");
+        QTest::addColumn<QByteArray>("input");
+        QTest::addColumn<int>("exitCode");
+        QTest::addColumn<QByteArray>("out"); // a part of standard output
+        QTest::addColumn<QByteArray>("err"); // a part of standard error
+        // clang-format off
+        QTest::newRow("valid model written") << QStringList { "write", valid } << QByteArray() << 0 << QByteArray("<cbc:ID>F-2026-0001</cbc:ID>") << QByteArray();
+        QTest::newRow("broken model not written") << QStringList { "write", "-" } << noBuyer << 1 << QByteArray() << QByteArray("BR-07: De naam van de koper ontbreekt.");
+        QTest::newRow("check in French") << QStringList { "check", "-", "--language", "fr" } << noBuyer << 1 << QByteArray("BR-07: Le nom de l'acheteur manque.") << QByteArray();
+        QTest::newRow("official example reads") << QStringList { "read", QOR_EINVOICE_RULES "/examples/peppol-base-example.xml" } << QByteArray() << 0 << QByteArray("\"number\": \"Snippet1\"") << QByteArray();
+        QTest::newRow("official example checks clean") << QStringList { "check", QOR_EINVOICE_RULES "/examples/peppol-vat-category-E.xml" } << QByteArray() << 0 << QByteArray() << QByteArray();
+        QTest::newRow("XML of another kind") << QStringList { "read", "-" } << QByteArray("<Order/>") << 2 << QByteArray() << QByteArray("-: ");
+        QTest::newRow("member of the wrong type") << QStringList { "check", "-" } << QByteArray("{\"number\": 5}") << 2 << QByteArray() << QByteArray("number");
+        QTest::newRow("file that is not there") << QStringList { "check", "/nonexistent/x.json" } << QByteArray() << 2 << QByteArray() << QByteArray("/nonexistent/x.json");
+        QTest::newRow("unknown language") << QStringList { "check", valid, "--language", "de" } << QByteArray() << 2 << QByteArray() << QByteArray("--language");
+        // clang-format on
+    }
+    void einvoiceExitStatusAndOutput()
+    {
+        QFETCH(QStringList, arguments);
+        QFETCH(QByteArray, input);
+        QFETCH(int, exitCode);
+        QFETCH(QByteArray, out);
+        QFETCH(QByteArray, err);
+        const QorgenRun run = runQorgen(QStringList { "einvoice" } + arguments, input);
+        QVERIFY(run.finished);
+        QCOMPARE(run.exitCode, exitCode);
+        QVERIFY2(run.out.contains(out), run.out.left(400).constData());
+        QVERIFY2(run.err.contains(err), run.err.constData());
+        if (exitCode != 0 && arguments.first() == u"write")
+            QVERIFY(!run.out.contains("<Invoice"));
+    }
 };
 
-QTEST_GUILESS_MAIN(TestQorgenCall)
-#include "tst_qorgencall.moc"
+QTEST_GUILESS_MAIN(TestQorgen)
+#include "tst_qorgen.moc"
