@@ -5,7 +5,6 @@ target_link_libraries(tst_jsoncodec PRIVATE qorgenbridge)
 qor_add_test(tst_jsonwriter ${dir}/tst_jsonwriter.cpp)
 target_link_libraries(tst_jsonwriter PRIVATE qorgenbridge)
 
-
 qor_add_test(tst_hostobjects ${dir}/tst_hostobjects.cpp)
 
 qor_add_test(tst_session ${dir}/tst_session.cpp)
@@ -23,6 +22,3 @@ foreach(process_test tst_qorgen tst_qorgenmemory)
 endforeach()
 target_compile_definitions(tst_qorgen PRIVATE
   QOR_EINVOICE_TEST_DATA="${PROJECT_SOURCE_DIR}/tests/einvoice" QOR_EINVOICE_RULES="${QORGENLIB_EINVOICE_RULES}")
-
-qor_add_test(tst_recordwriter ${dir}/tst_recordwriter.cpp)
-target_link_libraries(tst_recordwriter PRIVATE qorgenbridge)

@@ -4,6 +4,7 @@
 #include "tools/qorgen/jsonwriter.h"
 #include "tools/qorgen/session.h"
 
+#include <QFile>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -12,6 +13,8 @@ using namespace qor;
 class TestSession : public QObject
 {
     Q_OBJECT
+
+    QTemporaryDir soundDir; // holds Ding.wav
 
 private slots:
     void unreadableRequestChangesNothing()
@@ -36,6 +39,9 @@ private slots:
     {
         QTest::addColumn<QByteArray>("requests");
         QTest::addColumn<QByteArray>("responseStart");
+        QFile sound(soundDir.filePath(QStringLiteral("Ding.wav")));
+        QVERIFY(sound.open(QIODevice::WriteOnly));
+        const QByteArray folder = soundDir.path().toUtf8() + '/';
         // clang-format off
         QTest::newRow("a Variant property keeps its value") << QByteArray(R"({"set": {"FlowCTL": [1, "a", null, {"$empty": true}, {"$date": "2004-05-20T08:30:00"}]}, "call": "FlowCTL", "props": false})") << QByteArray(R"({"result":[1,"a",null,{"$empty":true},{"$date":"2004-05-20T08:30:00"}],"resultType":"Array","args":[],"shown":[]})");
         QTest::newRow("a number by reference comes back as text") << QByteArray(R"({"call": "FilterNumeric", "args": [1234]})") << QByteArray(R"({"result":"1234","resultType":"String","args":["1234"],"argTypes":["String"])");
@@ -49,6 +55,12 @@ private slots:
         QTest::newRow("properties by default, all, in the order of the type information") << QByteArray(R"({"call": "Offset"})") << QByteArray(R"({"result":0,"args":[],"props":{"msg":"","SQL":"","FlowCTL":{"$empty":true},"UserCancel":false,"FrmAct":false,"AnEd":false,"HoldSysData":{"$empty":true},"HoldErr":0,"HoldErrDes":"","vbCr2":"\r\r","vbSplit":")" "\xc2\xad\xc2\xad" R"(","vbRequery":true,"vbSee":false,"Offset":0,"FieldExt":"NL","DataCH":false,"KlantPC":true,"BtwTar1":0,"BtwTar2":0,"NbrDec":0,"NbrDecFmt":""},"shown":[]})");
         QTest::newRow("a message box answered as asked, then its sound") << QByteArray(R"({"call": "ControleerBankNr", "args": ["123"], "answers": [2, 2], "props": false})") << QByteArray(R"({"result":"","args":["123"],"shown":[{"kind":"MsgBoxE","prompt":"Ongeldig Bankrekeningnummer :\r\rSchrijfwijze  000000000000  of  000-0000000-00","buttons":48,"title":"Fout !","caption":"Fout !","type":"Exclamation","answer":2,"buttonsShown":[{"caption":"OK","name":"cmdOK"}]},{"kind":"MsgBox","prompt":"Cannot Find Sound :\r\r\\MultiMedia\\Exclamation.wav\r\rNeem contact op met Velantis Help-Desk.","buttons":16,"title":"qorSoft General Library","answer":1}]})");
         QTest::newRow("a program started, only by this request") << QByteArray(R"({"call": "ShutDownPC"})" "\n" R"({"call": "ShellAndWait", "args": ["true", 6], "props": false})") << QByteArray(R"({"result":0,"args":["true",6],"shown":[],"actions":[{"command":"true","kind":"start","windowStyle":6}]})");
+        QTest::newRow("an input box cancelled, each record whole") << QByteArray(R"({"call": "InputBoxE", "args": ["Naam ?", "Klant", "Jan", 8], "answers": [{"cancel": true}], "props": false})") << QByteArray(R"({"result":"-9999","args":["Naam ?","Klant","Jan",8],"shown":[{"kind":"InputBoxE","prompt":"Naam ?","title":"Klant","default":"Jan","maxLength":8,"answer":{"cancel":true}},)");
+        QTest::newRow("the calculator cancelled") << QByteArray(R"({"call": "ShowCalculator", "args": [12], "answers": [{"cancel": true}], "props": false})") << QByteArray(R"({"result":12.0,"args":[12],"shown":[{"kind":"Calculator","start":12.0,"answer":{"cancel":true}}]})");
+        QTest::newRow("the help card of the calculator, its lines a list") << QByteArray(R"({"call": "ShowCalculator", "args": [12], "answers": [{"keys": "{Help}{Enter}"}], "props": false})") << QByteArray(R"({"result":12.0,"args":[12],"shown":[{"kind":"CalculatorHelp","title":"  Help bij Velantis Calculator","lines":)" "[\"U kan de Calculator vanuit ");
+        QTest::newRow("the VAT note after a digit and %") << QByteArray(R"({"set": {"BtwTar1": 2100}, "call": "KeyEuro", "args": [{"$object": "TextBox", "Text": "100"}, 49]})" "\n" R"({"call": "KeyEuro", "args": [{"$object": "TextBox", "Text": "100"}, 37], "props": false})") << QByteArray(R"({"result":0,"resultType":"Integer","args":[{"$object":"TextBox","Text":"121","SelStart":3,"SelLength":0,"MaxLength":0,"Enabled":true,"Left":0.0,"Top":0.0,"Width":0.0,"Height":0.0,"$calls":[]},0],"shown":[{"kind":"Note","text":" + 21 % BTW toevoegen "}]})");
+        QTest::newRow("a looping sound") << QByteArray(R"({"call": "PlaySound", "args": ["Ding.wav", true, ")" + folder + R"("], "props": false})") << QByteArray(R"({"args":[")" + folder + R"(\\Ding.wav",true,")" + folder + R"("],"shown":[{"kind":"sound","file":")" + folder + R"(\\Ding.wav","continuous":true}]})");
+        QTest::newRow("a form kept on top") << QByteArray(R"({"call": "FormOnTop", "args": [{"$object": "Form"}], "props": false})") << QByteArray(R"({"result":{"$empty":true},"resultType":"Empty","args":[{"$object":"Form","Tag":"","Caption":"","Left":0.0,"Top":0.0,"Width":0.0,"Height":0.0,"Controls":[],"hWnd":0,"$calls":[]}],"shown":[],"actions":[{"kind":"onTop","object":{"$object":"Form","Tag":"","Caption":"","Left":0.0,"Top":0.0,"Width":0.0,"Height":0.0,"Controls":[],"hWnd":0,"$calls":[]}}]})");
         QTest::newRow("no actions, no field") << QByteArray(R"({"call": "PathRS", "args": ["C:\\x\\"], "props": false})") << QByteArray(R"({"result":"C:\\x","args":["C:\\x\\"],"shown":[]})");
         QTest::newRow("the invoice class, named in any case, keeps its object") << QByteArray(R"({"object": "clsqoreinvoice", "call": "AddLine", "args": ["Koffie", 3, "0.335", 6]})" "\n" R"({"object": "clsqorEInvoice", "call": "TotalInclVAT", "props": false})") << QByteArray(R"({"result":1.07,)");
         QTest::newRow("a class that does not exist") << QByteArray(R"({"object": "clsqorNone", "call": "x"})") << QByteArray(R"({"error":{"number":429,)");
