@@ -111,6 +111,21 @@ private slots:
         }
     }
 
+    // Objects of any size are read, checked for repeated names, taken by a host
+    // control and written back in time that grows with their size alone (the
+    // test's time limit is the check).
+    void largeObjectsTakeTimeInProportion()
+    {
+        const int members = 200000;
+        QByteArray object(R"({"$object": "TextBox", "Text": "ab")");
+        for (int i = 1; i < members; ++i)
+            object += ", \"m" + QByteArray::number(i) + "\": " + QByteArray::number(i);
+        QObject owner;
+        const QByteArray written = encoded(decode(object + '}', &owner));
+        QVERIFY(written.contains(R"("m1":1,)") && written.contains(R"("m199999":199999,)"));
+        QVERIFY(!JsonReader::tryParse(object + ", \"m7\": 1}"));
+    }
+
     // Library values from JSON and back as they were, with their Variant subtype; whole
     // numbers take the smallest subtype that holds them, host objects belong to their owner.
     void valuesBothWays_data()

@@ -159,53 +159,6 @@ private slots:
         QCOMPARE(errorNumberOf(responses[4]), 5); // the input closed in the middle of a line
     }
 
-    // Objects of any size are read, checked for repeated names and written back
-    // in time that grows with their size alone (the test's time limit is the check).
-    void largeObjectsAreAnswered_data()
-    {
-        QTest::addColumn<QByteArray>("kind");
-        QTest::addColumn<QString>("fault"); // named in the error; empty: none
-        QTest::newRow("host object with many properties") << QByteArray("$object") << QString();
-        QTest::newRow("many members, the last repeated: no JSON, so no id")
-            << QByteArray("repeated") << QStringLiteral("m7");
-    }
-    void largeObjectsAreAnswered()
-    {
-        QFETCH(QByteArray, kind);
-        QFETCH(QString, fault);
-        const int members = 200000;
-        QByteArray object = kind == "$object" ? QByteArray(R"({"$object": "TextBox", "Text": "ab")")
-                                              : QByteArray("{\"m\": 0");
-        for (int i = 1; i < members; ++i)
-            object += ", \"m" + QByteArray::number(i) + "\": " + QByteArray::number(i);
-        object += kind == "repeated" ? ", \"m7\": 1}" : "}";
-        const QByteArray call = kind == "$object"
-            ? R"({"id": 1, "props": false, "call": "SelEdit", "args": [)" + object + "]}"
-            : R"({"id": 1, "props": false, "call": "SCase", "args": ["x"], "extra": )" + object
-                + "}";
-        const QorgenRun run = runQorgen({ QStringLiteral("batch") },
-            call + "\n"
-                + R"({"call": "SCase", "args": ["y"]})"
-                  "\n");
-        QVERIFY(run.finished);
-        const QList<QJsonObject> responses = run.responses();
-        QCOMPARE(responses.size(), 2);
-        const QJsonObject reply = responses[0];
-        QCOMPARE(reply.value("id"),
-            kind == "repeated" ? QJsonValue(QJsonValue::Undefined) : QJsonValue(1));
-        if (fault.isEmpty()) {
-            const QJsonObject control = reply.value("args").toArray().at(0).toObject();
-            QCOMPARE(control.value("SelLength").toInt(), 2);
-            QCOMPARE(control.value("m1").toInt(), 1);
-            QCOMPARE(control.value("m" + QString::number(members - 1)).toInt(), members - 1);
-        } else {
-            QCOMPARE(errorNumberOf(reply), 5);
-            QVERIFY(
-                reply.value("error").toObject().value("description").toString().contains(fault));
-        }
-        QCOMPARE(responses[1].value("result").toString(), QStringLiteral("Y"));
-    }
-
     // `qorgen einvoice`.
     void einvoiceExitStatusAndOutput_data()
     {
