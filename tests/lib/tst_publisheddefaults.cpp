@@ -57,20 +57,6 @@ QVariant sampleFor(QMetaType type, int round, int index)
     }
 }
 
-Outcome capture(const std::function<QVariant(QVariantList &)> &call, QVariantList args)
-{
-    auto machine = test::installRecordingPlatform(QStringLiteral("nl_BE"));
-    Outcome outcome;
-    try {
-        outcome.result = call(args);
-    } catch (const RuntimeError &error) {
-        outcome.error = error.number();
-    }
-    outcome.arguments = args;
-    outcome.shown = machine->shown();
-    return outcome;
-}
-
 // Calls a C++ overload that moc made for default arguments: the compiler
 // fills in the C++ defaults.
 QVariant callDirectly(clsqorGenLib &lib, const QMetaMethod &method, QVariantList &args)
@@ -100,9 +86,24 @@ QVariant callDirectly(clsqorGenLib &lib, const QMetaMethod &method, QVariantList
 // leading arguments its published method takes.
 using Overload = std::function<QVariant(clsqorGenLib &, QVariantList &)>;
 
-// Runs `call` on a fresh object in rounds of sample arguments for the first
-// `given` parameters of `name`, and compares each with the late-bound call
-// that leaves the rest out.
+// What `call` leaves behind on a fresh object.
+Outcome capture(const Overload &call, QVariantList args)
+{
+    auto machine = test::installRecordingPlatform(QStringLiteral("nl_BE"));
+    Outcome outcome;
+    try {
+        clsqorGenLib lib;
+        outcome.result = call(lib, args);
+    } catch (const RuntimeError &error) {
+        outcome.error = error.number();
+    }
+    outcome.arguments = args;
+    outcome.shown = machine->shown();
+    return outcome;
+}
+
+// Runs `call` in rounds of sample arguments for the first `given` parameters
+// of `name`, and compares each with the late-bound call that leaves the rest out.
 void compareWithLateBinding(const QString &name, qsizetype given, const Overload &call)
 {
     const MethodInfo *info = clsqorGenLib::typeLibrary().findMethod(name);
@@ -111,18 +112,9 @@ void compareWithLateBinding(const QString &name, qsizetype given, const Overload
         QVariantList args;
         for (qsizetype i = 0; i < given; ++i)
             args.append(sampleFor(info->parameters.at(i).metaType, round, int(i)));
-        const Outcome direct = capture(
-            [&](QVariantList &a) {
-                clsqorGenLib lib;
-                return call(lib, a);
-            },
-            args);
+        const Outcome direct = capture(call, args);
         const Outcome late = capture(
-            [&](QVariantList &a) {
-                clsqorGenLib lib;
-                return lib.Invoke(name, a);
-            },
-            args);
+            [&](clsqorGenLib &lib, QVariantList &a) { return lib.Invoke(name, a); }, args);
         QVERIFY2(direct == late, "round " + QByteArray::number(round));
     }
 }

@@ -53,19 +53,15 @@ private slots:
     void readerReadsValues()
     {
         // Numbers with an exponent or beyond 64 bits are Doubles.
-        QCOMPARE(read("-0.5e2").kind(), JsonValue::Kind::Double);
-        QCOMPARE(read("-0.5e2").toDouble(), -50.0);
-        QCOMPARE(read("100000000000000000000").kind(), JsonValue::Kind::Double);
-        QCOMPARE(read("100000000000000000000").toDouble(), 1e20);
-        const JsonValue value
-            = read(R"({"z": "a\u00e9\ud83d\ude00\r\n", "a": [true, null], "m": {}})");
-        QCOMPARE(value.toObject().at(0).first, QStringLiteral("z"));
-        QCOMPARE(value.toObject().at(1).first, QStringLiteral("a"));
-        QCOMPARE(value.member(u"z")->toString(),
-            QStringLiteral("a\u00e9") + QString::fromUcs4(U"\U0001F600") + "\r\n");
-        QCOMPARE(value.member(u"a")->size(), 2);
-        QVERIFY(value.member(u"m")->isObject());
-        QCOMPARE(read("\"caf\xc3\xa9\"").toString(), QStringLiteral("caf\u00e9"));
+        QCOMPARE(read("-0.5e2"), JsonValue(-50.0));
+        QCOMPARE(read("100000000000000000000"), JsonValue(1e20));
+        // Members in their order; escapes, a surrogate pair and raw UTF-8 read as text.
+        QCOMPARE(read(R"({"z": "a\u00e9\ud83d\ude00\r\n", "a": [true, null], "m": {}})"),
+            JsonValue::object()
+                .insert("z", QStringLiteral("a\u00e9") + QString::fromUcs4(U"\U0001F600") + "\r\n")
+                .insert("a", JsonValue::array().append(true).append(nullptr))
+                .insert("m", JsonValue::object()));
+        QCOMPARE(read("\"caf\xc3\xa9\""), JsonValue(QStringLiteral("caf\u00e9")));
     }
 
     void readerRejects_data()
