@@ -36,7 +36,6 @@ private slots:
         // clang-format off
         QTest::newRow("symbol with the euro sign") << "OstSymbolType" << QStringList { "vbSymbolNone", "vbSymbolEUR", QStringLiteral("vbSymbol\u20AC") };
         QTest::newRow("duplicate value zero") << "OstSpecificIcon" << QStringList { "spiDefault", "spiDis", "spiGrey", "spiMove", "spiDisMini", "spiGreyMini", "spiMoveMini" };
-        QTest::newRow("negative first") << "NotFoundIndexType" << QStringList { "SetListIndexMinusOne", "SetListIndexLineZero", "SetListIndexUnchanged" };
         // clang-format on
     }
     void enumerationsInDeclarationOrder()
