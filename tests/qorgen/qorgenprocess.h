@@ -14,18 +14,14 @@ struct QorgenRun
     QByteArray out;
     QByteArray err;
 
-    QList<QByteArray> lines() const
-    {
-        QList<QByteArray> result = out.split('\n');
-        if (!result.isEmpty() && result.last().isEmpty())
-            result.removeLast();
-        return result;
-    }
     // Each line of the output read as a JSON object (the responses of `qorgen batch`).
     QList<QJsonObject> responses() const
     {
+        QList<QByteArray> lines = out.split('\n');
+        if (!lines.isEmpty() && lines.last().isEmpty())
+            lines.removeLast();
         QList<QJsonObject> result;
-        for (const QByteArray &line : lines())
+        for (const QByteArray &line : lines)
             result.append(QJsonDocument::fromJson(line).object());
         return result;
     }

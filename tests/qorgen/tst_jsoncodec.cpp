@@ -12,12 +12,7 @@
 
 #include <QTest>
 
-#include <cmath>
-#include <limits>
-
 using namespace qor;
-
-Q_DECLARE_METATYPE(qor::JsonValue)
 
 namespace {
 
@@ -58,19 +53,15 @@ private slots:
     void readerReadsValues()
     {
         // Numbers with an exponent or beyond 64 bits are Doubles.
-        QCOMPARE(read("-0.5e2").kind(), JsonValue::Kind::Double);
-        QCOMPARE(read("-0.5e2").toDouble(), -50.0);
-        QCOMPARE(read("100000000000000000000").kind(), JsonValue::Kind::Double);
-        QCOMPARE(read("100000000000000000000").toDouble(), 1e20);
-        const JsonValue value
-            = read(R"({"z": "a\u00e9\ud83d\ude00\r\n", "a": [true, null], "m": {}})");
-        QCOMPARE(value.toObject().at(0).first, QStringLiteral("z"));
-        QCOMPARE(value.toObject().at(1).first, QStringLiteral("a"));
-        QCOMPARE(value.member(u"z")->toString(),
-            QStringLiteral("a\u00e9") + QString::fromUcs4(U"\U0001F600") + "\r\n");
-        QCOMPARE(value.member(u"a")->size(), 2);
-        QVERIFY(value.member(u"m")->isObject());
-        QCOMPARE(read("\"caf\xc3\xa9\"").toString(), QStringLiteral("caf\u00e9"));
+        QCOMPARE(read("-0.5e2"), JsonValue(-50.0));
+        QCOMPARE(read("100000000000000000000"), JsonValue(1e20));
+        // Members in their order; escapes, a surrogate pair and raw UTF-8 read as text.
+        QCOMPARE(read(R"({"z": "a\u00e9\ud83d\ude00\r\n", "a": [true, null], "m": {}})"),
+            JsonValue::object()
+                .insert("z", QStringLiteral("a\u00e9") + QString::fromUcs4(U"\U0001F600") + "\r\n")
+                .insert("a", JsonValue::array().append(true).append(nullptr))
+                .insert("m", JsonValue::object()));
+        QCOMPARE(read("\"caf\xc3\xa9\""), JsonValue(QStringLiteral("caf\u00e9")));
     }
 
     void readerRejects_data()
@@ -108,34 +99,21 @@ private slots:
         const QByteArray many = "[" + QByteArray("0,").repeated(10) + "0]";
         QVERIFY(JsonReader::tryParse(many, { 64, 12 }));
         QVERIFY(!JsonReader::tryParse(many, { 64, 11 }));
-        try {
-            read(nested(5000));
-            QFAIL("deep nesting was read");
-        } catch (const RequestError &error) {
-            QVERIFY(error.description().contains(QLatin1String("64 levels")));
-        }
     }
 
-    // Writing JSON text.
-    void writer_data()
+    // Objects of any size are read, checked for repeated names, taken by a host
+    // control and written back in time that grows with their size alone (the
+    // test's time limit is the check).
+    void largeObjectsTakeTimeInProportion()
     {
-        QTest::addColumn<JsonValue>("value");
-        QTest::addColumn<QByteArray>("text");
-        // clang-format off
-        QTest::newRow("shortest double") << JsonValue(0.1) << QByteArray("0.1");
-        QTest::newRow("large double") << JsonValue(1e20) << QByteArray("1e+20");
-        QTest::newRow("shortest single") << JsonValue::single(0.1f) << QByteArray("0.1");
-        QTest::newRow("whole single") << JsonValue::single(3.0f) << QByteArray("3.0");
-        QTest::newRow("not a number") << JsonValue(std::nan("")) << QByteArray("null");
-        QTest::newRow("infinite") << JsonValue(std::numeric_limits<double>::infinity()) << QByteArray("null");
-        QTest::newRow("members in order") << JsonValue::object().insert("z", 1).insert( "a", JsonValue::array().append(true).append(nullptr)) << QByteArray(R"({"z":1,"a":[true,null]})");
-        QTest::newRow("empty containers") << JsonValue::array().append(JsonValue::object()).append(JsonValue::array()) << QByteArray("[{},[]]");
-        // clang-format on
-    }
-    void writer()
-    {
-        QFETCH(JsonValue, value);
-        QTEST(write(value), "text");
+        const int members = 200000;
+        QByteArray object(R"({"$object": "TextBox", "Text": "ab")");
+        for (int i = 1; i < members; ++i)
+            object += ", \"m" + QByteArray::number(i) + "\": " + QByteArray::number(i);
+        QObject owner;
+        const QByteArray written = encoded(decode(object + '}', &owner));
+        QVERIFY(written.contains(R"("m1":1,)") && written.contains(R"("m199999":199999,)"));
+        QVERIFY(!JsonReader::tryParse(object + ", \"m7\": 1}"));
     }
 
     // Library values from JSON and back as they were, with their Variant subtype; whole
@@ -184,14 +162,12 @@ private slots:
         QTest::newRow("plain object") << QByteArray(R"({"a": 1})") << "value";
         QTest::newRow("unknown marker") << QByteArray(R"({"$foo": 1})") << "value";
         QTest::newRow("empty that is false") << QByteArray(R"({"$empty": false})") << "value";
-        QTest::newRow("date in the wrong order") << QByteArray(R"({"$date": "20-05-2004"})") << "value";
         QTest::newRow("date that does not exist") << QByteArray(R"({"$date": "2004-02-30"})") << "value";
         QTest::newRow("date at hour 24") << QByteArray(R"({"$date": "2004-05-20T24:00"})") << "value";
         QTest::newRow("date with a space for the T") << QByteArray(R"({"$date": "2004-05-20 08:30"})") << "value";
         QTest::newRow("date before the year 100") << QByteArray(R"({"$date": "0099-01-01"})") << "value";
         QTest::newRow("date with company") << QByteArray(R"({"$date": "2004-05-20", "x": 1})") << "value";
         QTest::newRow("missing outside an argument") << QByteArray(R"({"$missing": true})") << "value";
-        QTest::newRow("missing inside an array") << QByteArray(R"([{"$missing": true}])") << "value[0]";
         QTest::newRow("unknown class") << QByteArray(R"({"$object": "Nope"})") << "value";
         QTest::newRow("property that does not convert") << QByteArray(R"({"$object": "TextBox", "SelStart": "x"})") << "value.SelStart";
         QTest::newRow("plain object in a property") << QByteArray(R"({"$object": "TextBox", "Tag": {"a": 1}})") << "value.Tag";
