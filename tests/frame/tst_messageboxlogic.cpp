@@ -41,6 +41,8 @@ private slots:
         QTest::newRow("exclamation") << 48 << "Exclamation" << QStringList { "OK" } << "Opgelet !" << 0;
         QTest::newRow("information") << 64 << "Information" << QStringList { "OK" } << "Ter Info :" << 0;
         QTest::newRow("critical wins over information") << 80 << "Critical" << QStringList { "OK" } << "Fout !" << 0;
+        // Question and critical together warn; only -1 is the identity-number box.
+        QTest::newRow("negative style: question and critical") << -2 << "Exclamation" << QStringList { "Ja", "Nee" } << "Opgelet !" << 0;
         QTest::newRow("yes no cancel shows ok cancel") << 3 << "Message" << QStringList { "OK", "Annuleren" } << "Bericht :" << 0;
         QTest::newRow("retry cancel shows yes no") << 5 << "Message" << QStringList { "Ja", "Nee" } << "Bericht :" << 0;
         QTest::newRow("abort retry ignore shows ok") << 2 << "Message" << QStringList { "OK" } << "Bericht :" << 0;
