@@ -51,7 +51,6 @@ private slots:
         QTest::newRow("insert finishes the operation") << "nl_BE" << 10.0 << 0 << 0 << "x3{Insert}" << "30" << true << 30.0 << 0;
         QTest::newRow("escape gives the start back") << "nl_BE" << 10.0 << 0 << 0 << "x3={Esc}" << "30" << true << 10.0 << 0;
         QTest::newRow("keys after closing are ignored") << "nl_BE" << 10.0 << 0 << 0 << "{Esc}5{Insert}" << "10" << true << 10.0 << 0;
-        QTest::newRow("division by zero shows the error") << "nl_BE" << 0.0 << 0 << 0 << "5/0=" << "-E-" << false << 0.0 << 0;
         QTest::newRow("the error refuses operators and insert") << "nl_BE" << 0.0 << 0 << 0 << "5/0=+{Insert}" << "-E-" << false << 0.0 << 2;
         QTest::newRow("a digit after the error starts afresh") << "nl_BE" << 0.0 << 0 << 0 << "5/0=7+1=" << "8" << false << 0.0 << 0;
         QTest::newRow("escape closes from the error") << "nl_BE" << 4.0 << 0 << 0 << "5/0={Esc}" << "-E-" << true << 4.0 << 0;
@@ -130,13 +129,10 @@ private slots:
         QVERIFY(!engine.view().vatKeys[1].enabled);
     }
 
-    void captionsFromTheCatalogue()
+    void conversionCaptionFollowsTheDisplay()
     {
         test::installRecordingPlatform(QStringLiteral("nl_BE"));
         CalculatorEngine engine({ 1, 0, 0, false, RegionalSettings::fromLocale("nl_BE") });
-        QCOMPARE(engine.view().title, QStringLiteral("Velantis Calculator"));
-        QCOMPARE(engine.view().insertCaption, QStringLiteral("Invoegen"));
-        QCOMPARE(engine.view().helpCaption, QStringLiteral(" Help Info "));
         QCOMPARE(engine.view().conversionCaption, QStringLiteral("EUR  >>  BEF"));
         engine.press(QStringLiteral("Euro"));
         QCOMPARE(engine.view().conversionCaption, QStringLiteral("BEF  >>  EUR"));
