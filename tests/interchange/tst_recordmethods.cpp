@@ -197,26 +197,6 @@ private slots:
         QVERIFY(!error || m_machine->shown().isEmpty());
     }
 
-    // By name, with the optional arguments left out: the published defaults.
-    void lateBound()
-    {
-        clsqorGenLib lib;
-        QVariantList args { 12, QVariantList { "AB", "7" }, QVariantList { 4, 3 } };
-        QCOMPARE(lib.Invoke("GetExportData", args), QVariant("000012 AB   7   9D"));
-        args = { 12, QVariantList { "AB", "7" }, QVariantList { 4, 3 },
-            QVariantList { "", "0.00" } };
-        const QVariant record = lib.Invoke("GetExportData", args);
-        QCOMPARE(record, QVariant("000012 AB   .00 B4"));
-        QVariantList read { record, QVariantList { 4, 3 } };
-        QCOMPARE(lib.Invoke("GetImportData", read), fields({ "AB", ".00" }));
-        QCOMPARE(errorNumber([&] {
-            QVariantList notArray { 12, "AB", QVariantList { 4 } };
-            lib.Invoke("GetExportData", notArray);
-        }),
-            int(RuntimeError::TypeMismatch));
-        QVERIFY(m_machine->shown().isEmpty());
-    }
-
     // The host's paragraph break and language.
     void objectProperties()
     {
