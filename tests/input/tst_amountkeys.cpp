@@ -216,7 +216,6 @@ private slots:
         const QStringList none;
         // clang-format off
         QTest::newRow("rounded to the decimals") << false << two << false << 0 << QVariant(12.3456) << "%" << "12,35" << 5 << none;
-        QTest::newRow("halves rounded away from zero") << false << two << true << 0 << QVariant(-0.125) << "%" << "-0,13" << 5 << none;
         QTest::newRow("no decimals round to whole") << false << QVariant(0) << false << 0 << QVariant(2.5) << "%" << "3" << 1 << none;
         QTest::newRow("negative result refused") << false << two << false << 0 << QVariant(-5.0) << "%" << "1" << 1 << QStringList { negativeRefused };
         QTest::newRow("negative result taken") << false << two << true << 0 << QVariant(-5.0) << "%" << "-5" << 2 << none;

@@ -190,7 +190,6 @@ private slots:
         const QByteArray good1 = "000001 AB   7   9B";
         const QByteArray good2 = "000002 CD   8   A1";
         // clang-format off
-        QTest::newRow("CRLF") << good1 + "\r\n" + good2 + "\r\n" << true << true << QStringList { "1 AB|7", "2 CD|8" } << usual;
         QTest::newRow("LF") << good1 + "\n" + good2 + "\n" << true << true << QStringList { "1 AB|7", "2 CD|8" } << usual;
         QTest::newRow("last line without line end") << good1 + "\r\n" + good2 << true << true << QStringList { "1 AB|7", "2 CD|8" } << usual;
         QTest::newRow("empty file") << QByteArray() << true << true << QStringList() << usual;
