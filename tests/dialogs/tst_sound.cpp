@@ -64,7 +64,6 @@ private slots:
         // clang-format off
         QTest::newRow("application folder") << "" << false << "~\\app\\MultiMedia\\Ding.wav" << "~\\app\\MultiMedia" << true;
         QTest::newRow("given folder") << "~\\given" << false << "~\\given\\Ding.wav" << "~\\given" << true;
-        QTest::newRow("trailing backslash") << "~\\given\\" << false << "~\\given\\Ding.wav" << "~\\given\\" << true;
         QTest::newRow("given folder without the file") << "~\\app" << false << "~\\app\\Ding.wav" << "~\\app" << false;
         QTest::newRow("development station ignores the folder") << "~\\given" << true << "~\\dev\\Ding.wav" << "~\\dev" << true;
         // clang-format on
