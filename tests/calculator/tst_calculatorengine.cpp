@@ -1,4 +1,5 @@
 #include "calculator/calculatorengine.h"
+#include "calculator/calculatorpresenter.h"
 #include "calculator/scriptedcalculator.h"
 #include "lib/clsqorgenlib.h"
 #include "lib/frame/modgenlib.h"
@@ -12,11 +13,29 @@
 
 using namespace qor;
 
+namespace {
+
+// Dialogs that also show calculators: every calculator closes on 42.
+class WindowedDialogs : public CorePlatform, public CalculatorPresenter
+{
+public:
+    CalculatorAnswer presentCalculator(double, const std::shared_ptr<CalculatorSession> &) override
+    {
+        return { false, 42 };
+    }
+};
+
+} // namespace
+
+Q_DECLARE_METATYPE(std::shared_ptr<qor::DialogPresenter>)
+
 class TestCalculatorEngine : public QObject
 {
     Q_OBJECT
 
 private slots:
+    void cleanup() { DialogPresenter::install(nullptr); }
+
     void keys_data()
     {
         QTest::addColumn<QString>("locale");
@@ -29,7 +48,6 @@ private slots:
         QTest::addColumn<double>("result");
         QTest::addColumn<int>("beeps");
         // clang-format off
-        QTest::newRow("starts with the value") << "nl_BE" << 12.5 << 0 << 0 << "" << "12,5" << false << 12.5 << 0;
         QTest::newRow("typing replaces the start") << "nl_BE" << 12.5 << 0 << 0 << "7" << "7" << false << 12.5 << 0;
         QTest::newRow("second equals closes and inserts") << "nl_BE" << 100.0 << 0 << 0 << "+5==" << "105" << true << 105.0 << 0;
         QTest::newRow("enter after equals closes") << "nl_BE" << 0.0 << 0 << 0 << "2+3{Enter}{Enter}" << "5" << true << 5.0 << 0;
@@ -169,6 +187,26 @@ private slots:
             kinds.append(kindOf(shown));
         QTEST(kinds, "kinds");
         QTEST(modGenLib().calculatorMode, "mode");
+    }
+
+    // Who shows the calculator: the presenter the thread's dialogs offer (the
+    // recording platform's script is the one of scriptedSessions).
+    void presenter_data()
+    {
+        QTest::addColumn<std::shared_ptr<DialogPresenter>>("dialogs");
+        QTest::addColumn<double>("result");
+        QTest::newRow("dialogs that show calculators")
+            << std::shared_ptr<DialogPresenter>(std::make_shared<WindowedDialogs>()) << 42.0;
+        QTest::newRow("dialogs without a calculator: closed at once on the start")
+            << std::shared_ptr<DialogPresenter>(std::make_shared<CorePlatform>()) << 3.0;
+    }
+    void presenter()
+    {
+        QFETCH(std::shared_ptr<DialogPresenter>, dialogs);
+        DialogPresenter::install(dialogs);
+        const CalculatorAnswer answer = CalculatorPresenter::present(3, nullptr);
+        QVERIFY(!answer.cancelled);
+        QTEST(answer.result, "result");
     }
 };
 
