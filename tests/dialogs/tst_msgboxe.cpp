@@ -235,11 +235,8 @@ private slots:
             "Wilt u deze factuur definitief afsluiten en afdrukken?\r\rEen afgesloten factuur "
             "kan niet meer gewijzigd worden; een correctie gebeurt met een creditnota.");
         // clang-format off
-        QTest::newRow("ok") << "msgboxe-ok" << "De gegevens zijn bewaard." << 64;
-        QTest::newRow("ok cancel") << "msgboxe-okcancel" << "Het bestand wordt overschreven." << 17;
         QTest::newRow("yes no") << "msgboxe-yesno" << question << 36;
         QTest::newRow("identity number") << "msgboxe-identitynumber" << number << -1;
-        QTest::newRow("input box") << "inputboxe" << "Geef het aantal dozen:" << 0;
         // clang-format on
     }
     void screenshots()
