@@ -4,7 +4,6 @@
 
 #include "tests/common/recordingmachine.h"
 
-#include <QDateTime>
 #include <QTest>
 
 using namespace qor;
@@ -23,12 +22,10 @@ private slots:
         // clang-format off
         QTest::newRow("null") << "nl_BE" << nullVariant() << "Integer" << 0.0;
         QTest::newRow("word") << "nl_BE" << QVariant("abc") << "Integer" << 0.0;
-        QTest::newRow("date") << "nl_BE" << QVariant(QDateTime(QDate(2004, 5, 20), QTime())) << "Integer" << 0.0;
         QTest::newRow("comma decimals with grouping") << "nl_BE" << QVariant("1.234,5") << "Double" << 1234.5;
         QTest::newRow("point decimals") << "en_US" << QVariant("12.5") << "Double" << 12.5;
         QTest::newRow("point decimals read by Val stop at the comma") << "en_US" << QVariant("1,234.5") << "Double" << 1.0;
         QTest::newRow("point system integer") << "en_US" << QVariant::fromValue<short>(7) << "Double" << 7.0;
-        QTest::newRow("boolean on a comma system") << "nl_BE" << QVariant(true) << "Double" << -1.0;
         // clang-format on
     }
     void cGetal()
