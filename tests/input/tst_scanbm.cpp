@@ -86,7 +86,6 @@ private slots:
         QTest::newRow("selected text is replaced") << "%[##]" << false << true << "abc" << 3 << "%[12]" << zeros(5) << "12" << none << "";
         QTest::newRow("field only needs a format") << "" << true << true << "" << 0 << "%" << zeros(1) << "" << QStringList { "MsgBox:OstGenLib" } << "";
         QTest::newRow("empty format") << "" << false << true << "" << 0 << "1" << zeros(1) << "" << QStringList { "MsgBox:Scan Barcode - Magnetic" } << "";
-        QTest::newRow("format without brackets") << "####" << false << true << "" << 0 << "%" << zeros(1) << "" << QStringList { "MsgBox:Scan Barcode - Magnetic" } << "";
         QTest::newRow("format without brackets beeps") << "%[##" << false << false << "" << 0 << "%" << zeros(1) << "" << QStringList { "beep" } << "";
         // clang-format on
     }

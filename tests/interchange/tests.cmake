@@ -1,5 +1,4 @@
 qor_add_test(tst_recordmethods ${dir}/tst_recordmethods.cpp)
-qor_add_test(tst_recordcodec ${dir}/tst_recordcodec.cpp)
 qor_add_test(tst_recordfile ${dir}/tst_recordfile.cpp)
 qor_add_test(tst_qorgenrecords ${dir}/tst_qorgenrecords.cpp)
 target_compile_definitions(tst_qorgenrecords PRIVATE QORGEN_PATH="$<TARGET_FILE:qorgen>")

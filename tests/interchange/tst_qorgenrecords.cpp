@@ -34,7 +34,6 @@ private slots:
         QTest::newRow("no direction") << QStringList { "records" } << none << none << 2 << none << usage << none;
         // A file that can be read, so that only the widths are wrong.
         QTest::newRow("negative width") << QStringList { "records", "read", "--widths", "4,-1", "FILE" } << faulty << none << 2 << none << usage << none;
-        QTest::newRow("huge width") << QStringList { "records", "read", "--widths", "99999999999", "FILE" } << faulty << none << 2 << none << usage << none;
         QTest::newRow("formats no array") << QStringList { "records", "write", "--widths", "4", "--formats", "0.00", "x" } << none << none << 2 << none << usage << none;
         QTest::newRow("no file") << QStringList { "records", "read", "--widths", "4" } << none << none << 2 << none << usage << none;
         QTest::newRow("missing file") << QStringList { "records", "read", "--widths", "4", "/nonexistent/x" } << none << none << 2 << none << usage << none;

@@ -1,8 +1,14 @@
-// Data files of records: the exact bytes written, and a read that reports
-// every faulty line with its number while it reads the rest.
+// Data files of records: the record checksum over text and over windows-1252
+// bytes, the exact bytes written, and a read that reports every faulty line
+// with its number while it reads the rest.
 
+#include "interchange/recordchecksum.h"
 #include "interchange/recordfilereader.h"
 #include "interchange/recordfilewriter.h"
+#include "interchange/recordwriter.h"
+#include "runtime/codepage.h"
+#include "runtime/runtimeerror.h"
+#include "tests/common/errornumber.h"
 #include "tests/common/recordingmachine.h"
 
 #include <QBuffer>
@@ -80,6 +86,57 @@ class tst_RecordFile : public QObject
 private slots:
     void init() { installRecordingPlatform(QStringLiteral("en_US")); }
 
+    void checksum_data()
+    {
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<int>("sum");
+        QTest::newRow("empty") << "" << 0;
+        QTest::newRow("wraps at 256") << QString(3, QChar(0xFF)) << (3 * 255) % 256;
+        QTest::newRow("latin-1 range as is") << QString::fromUtf8("é") << 0xE9;
+        // clang-format off
+        QTest::newRow("code page range 80-9F") << QString::fromUtf8("€‰Ÿ") << (0x80 + 0x89 + 0x9F) % 256;
+        QTest::newRow("outside the code page") << QString::fromUtf8("Ω") << 63;
+        QTest::newRow("outside the basic plane once") << QString::fromUtf8("😀") << 63;
+        QTest::newRow("lone surrogate") << QString(QChar(0xD800)) << 63;
+        // clang-format on
+    }
+
+    void checksum()
+    {
+        QFETCH(QString, text);
+        QFETCH(int, sum);
+        QCOMPARE(int(RecordChecksum::of(text)), sum);
+        QCOMPARE(int(RecordChecksum::of(QByteArrayView(toCp1252(text)))), sum);
+        QCOMPARE(RecordChecksum::digits(quint8(sum)),
+            QStringLiteral("%1").arg(sum, 2, 16, QLatin1Char('0')).toUpper());
+    }
+
+    void checksumDigits_data()
+    {
+        QTest::addColumn<QString>("digits");
+        QTest::addColumn<int>("value"); // -1: no checksum
+        QTest::newRow("upper") << "AF" << 0xAF;
+        QTest::newRow("lower") << "af" << 0xAF;
+        QTest::newRow("letter beyond F") << "0G" << -1;
+        QTest::newRow("blank") << " 1" << -1;
+        QTest::newRow("full-width digit") << QString::fromUtf8("１1") << -1;
+    }
+
+    void checksumDigits()
+    {
+        QFETCH(QString, digits);
+        const auto read = RecordChecksum::read(digits.at(0).unicode(), digits.at(1).unicode());
+        QTEST(read ? int(*read) : -1, "value");
+    }
+
+    void fieldCountMismatch()
+    {
+        const RegionalSettings rs;
+        RecordLayout layout;
+        layout.widths = { 1, 2 };
+        QCOMPARE(errorNumber([&] { RecordWriter(layout, rs).record(1, QStringList { "a" }); }),
+            int(RuntimeError::SubscriptOutOfRange));
+    }
     void writtenBytes_data()
     {
         QTest::addColumn<bool>("lineNumbers");
@@ -133,7 +190,6 @@ private slots:
         const QByteArray good1 = "000001 AB   7   9B";
         const QByteArray good2 = "000002 CD   8   A1";
         // clang-format off
-        QTest::newRow("CRLF") << good1 + "\r\n" + good2 + "\r\n" << true << true << QStringList { "1 AB|7", "2 CD|8" } << usual;
         QTest::newRow("LF") << good1 + "\n" + good2 + "\n" << true << true << QStringList { "1 AB|7", "2 CD|8" } << usual;
         QTest::newRow("last line without line end") << good1 + "\r\n" + good2 << true << true << QStringList { "1 AB|7", "2 CD|8" } << usual;
         QTest::newRow("empty file") << QByteArray() << true << true << QStringList() << usual;

@@ -1,4 +1,3 @@
 qor_add_test(tst_recordingplatform ${dir}/tst_recordingplatform.cpp)
 qor_add_test(tst_qtplatform ${dir}/tst_qtplatform.cpp WIDGETS)
-qor_add_test(tst_screeninfo ${dir}/tst_screeninfo.cpp)
-qor_add_test(tst_platformroles ${dir}/tst_platformroles.cpp)
+qor_add_test(tst_platform ${dir}/tst_platform.cpp)
