@@ -46,11 +46,9 @@ private slots:
         QTest::newRow("tab is no blank and no date") << nl << "\t" << missing << "" << "\t" << notation;
         QTest::newRow("six digits, 99 is past the pivot") << nl << "311299" << missing << "31/12/1999" << "31/12/1999" << "";
         QTest::newRow("six digits month first") << us << "123199" << missing << "12/31/1999" << "12/31/1999" << "";
-        QTest::newRow("day first read month first is month 31") << us << "311299" << missing << "" << "311299" << notation;
         QTest::newRow("30 is the pivot") << nl << "010130" << missing << "1/01/1930" << "1/01/1930" << "";
         QTest::newRow("29 lies after today") << nl << "010129" << missing << "" << "1/01/2029" << future;
         QTest::newRow("29 allowed in the future") << nl << "010129" << QVariant(true) << "1/01/2029" << "1/01/2029" << "";
-        QTest::newRow("future refused when False is passed") << us << "010129" << QVariant(false) << "" << "1/1/2029" << future;
         QTest::newRow("2000 is a leap year") << nl << "290200" << missing << "29/02/2000" << "29/02/2000" << "";
         QTest::newRow("2003 is not a leap year") << nl << "290203" << missing << "" << "290203" << notation;
         QTest::newRow("April has 30 days") << nl << "310400" << missing << "" << "310400" << notation;
@@ -58,23 +56,16 @@ private slots:
         QTest::newRow("month 13") << nl << "011300" << missing << "" << "011300" << notation;
         QTest::newRow("day 0 rolls back a day") << nl << "001200" << missing << "30/11/2000" << "30/11/2000" << "";
         QTest::newRow("month 0 rolls back a month") << nl << "010000" << missing << "1/12/1999" << "1/12/1999" << "";
-        QTest::newRow("all zeros roll back twice") << nl << "000000" << missing << "30/11/1999" << "30/11/1999" << "";
         QTest::newRow("five digits") << nl << "12345" << missing << "" << "12345" << notation;
         QTest::newRow("a megabyte of digits") << nl << QString(1 << 20, '1') << missing << "" << QString(1 << 20, '1') << notation;
         QTest::newRow("a letter among six") << nl << "12a456" << missing << "" << "12a456" << notation;
         QTest::newRow("slashes, two-digit year") << nl << "1/2/03" << missing << "1/02/2003" << "1/02/2003" << "";
-        QTest::newRow("slashes month first") << us << "1/2/03" << missing << "1/2/2003" << "1/2/2003" << "";
         QTest::newRow("German points") << "de_DE" << "1.2.03" << missing << "01.02.2003" << "01.02.2003" << "";
         QTest::newRow("day and month are this year") << nl << "1/2" << missing << "1/02/2024" << "1/02/2024" << "";
-        QTest::newRow("a month name, this year") << nl << "15 maart" << missing << "15/03/2024" << "15/03/2024" << "";
-        QTest::newRow("later this year is the future") << nl << "1/12" << missing << "" << "1/12/2024" << future;
-        QTest::newRow("31/02 is no day this year") << nl << "31/02" << missing << "" << "31/02" << notation;
         QTest::newRow("blanks between") << nl << "1 2 2003" << missing << "1/02/2003" << "1/02/2003" << "";
-        QTest::newRow("trimmed before reading") << nl << "  14/3/2024  " << missing << "14/03/2024" << "14/03/2024" << "";
         QTest::newRow("today is not the future") << nl << "15/03/2024" << missing << "15/03/2024" << "15/03/2024" << "";
         QTest::newRow("tomorrow is") << nl << "16/03/2024" << missing << "" << "16/03/2024" << future;
         QTest::newRow("day and month 0 with separators") << nl << "00/00/00" << missing << "" << "00/00/00" << notation;
-        QTest::newRow("year 0 is 2000") << nl << "1/1/0" << missing << "1/01/2000" << "1/01/2000" << "";
         QTest::newRow("year 9999 allowed") << nl << "31/12/9999" << QVariant(true) << "31/12/9999" << "31/12/9999" << "";
         QTest::newRow("a time alone is the zero date, shown as a time") << nl << "8:30" << missing << "00:00:00" << "00:00:00" << "";
         // clang-format on
@@ -144,7 +135,6 @@ private slots:
         QTest::addColumn<QString>("title");
         // clang-format off
         QTest::newRow("Dutch, day first") << "nl_BE" << 0 << "31/31/31" << dutchNotationMessage("DDMMJJ", "DD/MM/JJ", "DD/MM/JJJJ") << "Fout !";
-        QTest::newRow("Dutch, month first") << "en_US" << 0 << "31/31/31" << dutchNotationMessage("MMDDJJ", "MM/DD/JJ", "MM/DD/JJJJ") << "Fout !";
         QTest::newRow("Dutch, points") << "de_DE" << 0 << "31/31/31" << dutchNotationMessage("DDMMJJ", "DD.MM.JJ", "DD.MM.JJJJ") << "Fout !";
         QTest::newRow("French, day first") << "fr_BE" << 10000 << "31/31/31" << QStringLiteral("Date non valable.  Utilisez une des notations suivantes :") + cr2 + "JJMMAA  ou  JJ/MM/AA  ou  JJ/MM/AAAA" << "Erreur !";
         QTest::newRow("English, month first") << "en_US" << 20000 << "31/31/31" << QStringLiteral("Invalid Date.  Use one of the following notations :") + cr2 + "MMDDYY  or  MM/DD/YY  or  MM/DD/YYYY" << "Error !";

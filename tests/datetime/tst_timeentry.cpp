@@ -45,7 +45,6 @@ private slots:
         QTest::newRow("24 hours refused") << "2400" << false << "" << "" << "24:00";
         QTest::newRow("24 hours allowed") << "2400" << true << "24:00" << "24:00" << "24:00";
         QTest::newRow("five digits allowed") << "12345" << true << "123:45" << "123:45" << "123:45";
-        QTest::newRow("five digits refused") << "12345" << false << "" << "" << "123:45";
         QTest::newRow("minutes 60") << "860" << false << "" << "" << "08:60";
         QTest::newRow("minutes 59") << "859" << false << "08:59" << "8:59" << "08:59";
         QTest::newRow("one digit behind the separator") << "8:5" << false << "" << "" << "8:5";
@@ -56,8 +55,6 @@ private slots:
         QTest::newRow("letters pass the place test, not the count") << "abc" << false << "" << "" << "00:::";
         QTest::newRow("99:99 with more hours") << "99:99" << true << "" << "" << "99:99";
         QTest::newRow("negative is no sign") << "-830" << false << "" << "" << ":830";
-        QTest::newRow("twelve digits allowed") << "123456789012" << true << "1234567890:12" << "1234567890:12" << "1234567890:12";
-        QTest::newRow("empty") << "" << false << "" << "" << "";
         QTest::newRow("blanks") << "    " << false << "" << "" << "";
         // clang-format on
     }
@@ -86,7 +83,6 @@ private slots:
         QTest::addColumn<QString>("input");
         QTest::addColumn<int>("error");
         // clang-format off
-        QTest::newRow("twenty digits with a separator") << "123456789012345678:90" << 6;
         QTest::newRow("just beyond a Long") << "214748364800" << 6;
         QTest::newRow("a Long still fits") << "214748364700" << 0;
         QTest::newRow("a megabyte of digits") << QString(1 << 20, QLatin1Char('7')) << 6;
@@ -107,8 +103,6 @@ private slots:
         QTest::addColumn<QString>("timeText");
         QTest::addColumn<QString>("separator");
         // clang-format off
-        QTest::newRow("two-digit hours") << "08:30:00" << ":";
-        QTest::newRow("one-digit hours") << "8:30:00 AM" << ":";
         QTest::newRow("points") << "08.30.00" << ".";
         QTest::newRow("no separator") << "083000" << "";
         QTest::newRow("too short") << "8" << "";
@@ -164,14 +158,11 @@ private slots:
         QTest::addColumn<QString>("input");
         QTest::addColumn<QString>("result");
         // clang-format off
-        QTest::newRow("hours and minutes") << "nl_BE" << "8:30" << "#08:30#";
         QTest::newRow("seconds dropped") << "nl_BE" << "17:05:59" << "#17:05#";
         QTest::newRow("afternoon") << "en_US" << "2:15 PM" << "#14:15#";
-        QTest::newRow("date and time") << "nl_BE" << "1/02/2003 8:30" << "#08:30#";
         QTest::newRow("a date alone is midnight") << "nl_BE" << "1/02/2003" << "#00:00#";
         QTest::newRow("a literal stays") << "nl_BE" << "#08:30#" << "#08:30#";
         QTest::newRow("a lone hash is its own literal") << "nl_BE" << "#" << "#";
-        QTest::newRow("99:99") << "nl_BE" << "99:99" << "";
         QTest::newRow("empty") << "nl_BE" << "" << "";
         // clang-format on
     }
