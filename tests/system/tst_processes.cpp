@@ -95,7 +95,6 @@ private slots:
         QTest::addColumn<int>("waited"); // milliseconds at least
         const QString refused = QStringLiteral("Invalid procedure call or argument");
         // clang-format off
-        QTest::newRow("exits at once") << "\"" + helper + "\" exit 0" << 1 << true << 0 << "" << 0;
         QTest::newRow("waits for the end") << "\"" + helper + "\" sleep 300" << 1 << true << 0 << "" << 300;
         QTest::newRow("fails at once: 0 all the same") << "\"" + helper + "\" exit 3" << 1 << true << 0 << "" << 0;
         QTest::newRow("from the search path") << "true" << 1 << true << 0 << "" << 0;

@@ -91,10 +91,6 @@ private slots:
         const int error = test::errorNumber([&] { area = areaOf(lib.GetWorkArea()); });
         QTEST(area, "area");
         QCOMPARE(error, area.isEmpty() ? 6 : 0);
-        if (!error)
-            QCOMPARE(
-                areaOf(lib.Invoke(QStringLiteral("GetWorkArea")).value<qorGenLib::WindowSize>()),
-                area);
     }
 
     void mousePointer_data()

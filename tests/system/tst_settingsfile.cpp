@@ -119,16 +119,6 @@ private slots:
         QCOMPARE(contentsOf(file), contents == "<none>" ? QByteArray("<missing>") : contents);
     }
 
-    void theMessageFollowsTheLanguage()
-    {
-        clsqorGenLib lib;
-        lib.setProperty("Offset", 10000);
-        QString iniFile = path(QStringLiteral("none.ini"));
-        lib.GetIni(QStringLiteral("A"), QStringLiteral("B"), iniFile);
-        QVERIFY(test::onlyMessage(*machine).value("prompt").toString().contains(
-            QStringLiteral("Impossible de trouver le param\u00E8tre dans ")));
-    }
-
     // A file that cannot be written, or a folder that does not exist, is left as it was.
     void writesThatCannotHappenChangeNothing_data()
     {

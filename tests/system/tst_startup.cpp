@@ -199,8 +199,6 @@ private slots:
         QTest::addColumn<QString>("code");
         // clang-format off
         QTest::newRow("20 May, 08:30") << QDateTime(QDate(2004, 5, 20), QTime(8, 30)) << "0028";
-        QTest::newRow("same hour, same code") << QDateTime(QDate(2004, 5, 20), QTime(8, 59, 59)) << "0028";
-        QTest::newRow("next hour") << QDateTime(QDate(2004, 5, 20), QTime(9, 0)) << "0029";
         QTest::newRow("1 January, midnight") << QDateTime(QDate(2026, 1, 1), QTime(0, 0)) << "0101";
         QTest::newRow("31 December, 23h") << QDateTime(QDate(2026, 12, 31), QTime(23, 0)) << "7254";
         // clang-format on
