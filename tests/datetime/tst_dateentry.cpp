@@ -90,12 +90,6 @@ private slots:
             QCOMPARE(prompt, QStringLiteral("Datum in toekomst niet toegestaan."));
         else
             QVERIFY2(prompt.startsWith(QStringLiteral("Datum Ongeldig.")), qPrintable(prompt));
-
-        // Without MBox the same answer comes without a word.
-        machine->clearRecords();
-        QVariantList quiet { input, allowFuture.isValid() ? allowFuture : QVariant(false), false };
-        QTEST(lib.Invoke(QStringLiteral("ControleerDatum"), quiet).toString(), "result");
-        QVERIFY(machine->shown().isEmpty());
     }
 
     void centuryPivotFollowsTheWindow_data()
@@ -123,6 +117,8 @@ private slots:
         clsqorGenLib lib;
         QString dt = input;
         QTEST(lib.ControleerDatum(dt, true, false), "result");
+        // Without MBox a refusal comes without a word.
+        QVERIFY(machine->shown().isEmpty());
     }
 
     // The messages of a refused date, in the object's language and the notation of the system.

