@@ -6,7 +6,6 @@
 
 using namespace qor;
 using test::installDateMachine;
-using test::shownPrompt;
 
 namespace {
 
@@ -83,9 +82,10 @@ private slots:
             args.append(allowFuture);
         QTEST(lib.Invoke(QStringLiteral("ControleerDatum"), args).toString(), "result");
         QTEST(args.first().toString(), "after");
-        const QString prompt = shownPrompt(*machine);
+        const QVariantMap shown = test::onlyMessage(*machine);
+        const QString prompt = shown.value(QStringLiteral("prompt")).toString();
         if (report.isEmpty())
-            QCOMPARE(prompt, QString());
+            QCOMPARE(shown, QVariantMap());
         else if (report == future)
             QCOMPARE(prompt, QStringLiteral("Datum in toekomst niet toegestaan."));
         else

@@ -44,14 +44,12 @@ private slots:
         QTest::newRow("empty text keeps the literals") << QVariant("") << bankMask << "--" << "--";
         QTest::newRow("@ shows a blank") << QVariant("ab") << "(@@@@)" << "(  ab)" << "(  ab)";
         QTest::newRow("! fills from the left") << QVariant("abc") << "!&&\\-&&" << "ab-c" << "ab-c";
-        QTest::newRow("mixed places, one character each") << QVariant("abc") << "@-&-@" << "a-b-c" << "a-b-c";
         QTest::newRow("> upper case") << QVariant("abc") << ">&&&" << "ABC" << "ABC";
         QTest::newRow("second section for empty text") << QVariant("") << "&&;\\-" << "-" << "-";
         QTest::newRow("quoted literal") << QVariant("12") << "\"nr \"&&" << "nr 12" << "nr 12";
         // Number patterns.
         QTest::newRow("structured reference") << QVariant(12345) << referenceMask << "000/0012/345" << "000/0012/345";
         QTest::newRow("line number and blank") << QVariant(42) << "000000 " << "000042 " << "000042 ";
-        QTest::newRow("hours #00") << QVariant(8) << "#00" << "08" << "08";
         QTest::newRow("hours #00, three digits") << QVariant(123) << "#00" << "123" << "123";
         QTest::newRow("hours #0 of zero") << QVariant(0) << "#0" << "0" << "0";
         QTest::newRow("amount") << QVariant(1234.5) << amountPattern << "1.234,50" << "1,234.50";
@@ -73,7 +71,6 @@ private slots:
         QTest::newRow("0.125 to 0.13, not to even") << QVariant(0.125) << "0.00" << "0,13" << "0.13";
         QTest::newRow("9.995 carries into the whole part") << QVariant(9.995) << "0.00" << "10,00" << "10.00";
         QTest::newRow("999.999 carries into a group") << QVariant(999.999) << amountPattern << "1.000,00" << "1,000.00";
-        QTest::newRow("sum of 0.1 and 0.2") << QVariant(0.1 + 0.2) << "0.0000000000000000" << "0,3000000000000000" << "0.3000000000000000";
         QTest::newRow("a tiny negative keeps its sign") << QVariant(-0.001) << "0.00" << "-0,00" << "-0.00";
         QTest::newRow("a half below the first digit rounds up") << QVariant(0.5) << "0" << "1" << "1";
         QTest::newRow("just under a half below the first digit") << QVariant(0.49) << "0" << "0" << "0";
@@ -91,7 +88,6 @@ private slots:
         // Date and time patterns.
         const QDateTime afternoon(QDate(2024, 3, 5), QTime(14, 7, 9));
         QTest::newRow("hh:mm is 24-hour too") << QVariant(afternoon) << "hh:mm" << "14:07" << "14:07";
-        QTest::newRow("h:nn") << QVariant(QTime(9, 5)) << "h:nn" << "9:05" << "9:05";
         QTest::newRow("mm before ss is minutes") << QVariant(afternoon) << "mm:ss" << "07:09" << "07:09";
         QTest::newRow("dd/mm/yyyy: mm is the month") << QVariant(afternoon) << "dd/mm/yyyy" << "05/03/2024" << "05/03/2024";
         QTest::newRow("d/m/yy") << QVariant(QDate(2009, 7, 4)) << "d/m/yy" << "4/7/09" << "4/7/09";
@@ -181,7 +177,6 @@ private slots:
         const QString masked = qor::format(text, bankMask, nl);
         QCOMPARE(masked.size(), text.size() + 2);
         QVERIFY(masked.endsWith(QStringLiteral("7-7777777-77")));
-        QCOMPARE(qor::format(text + QLatin1Char('x'), amountPattern, nl), text + QLatin1Char('x'));
         // Beyond the Double range the digits are no number, so no date either.
         QCOMPARE(qor::format(text, QStringLiteral("dd/mm/yyyy"), nl), text);
         const QString longPattern = QStringLiteral("0.") + QString(1 << 20, QLatin1Char('0'));
