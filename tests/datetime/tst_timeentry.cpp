@@ -33,13 +33,9 @@ private slots:
         QTest::addColumn<QString>("after"); // Uur with ReturnHHMM True
         // clang-format off
         QTest::newRow("three digits") << "830" << false << "08:30" << "8:30" << "08:30";
-        QTest::newRow("four digits") << "0830" << false << "08:30" << "8:30" << "08:30";
-        QTest::newRow("point") << "8.30" << false << "08:30" << "8:30" << "08:30";
         QTest::newRow("letter h") << "8h30" << false << "08:30" << "8:30" << "08:30";
-        QTest::newRow("colon") << "08:30" << false << "08:30" << "8:30" << "08:30";
         QTest::newRow("blank inside, trimmed outside") << "  8 30  " << false << "08:30" << "8:30" << "08:30";
         QTest::newRow("one digit is minutes") << "8" << false << "00:08" << "0:08" << "00:08";
-        QTest::newRow("midnight") << "000" << false << "00:00" << "0:00" << "00:00";
         QTest::newRow("last minute of the day") << "2359" << false << "23:59" << "23:59" << "23:59";
         QTest::newRow("24 hours refused") << "2400" << false << "" << "" << "24:00";
         QTest::newRow("24 hours allowed") << "2400" << true << "24:00" << "24:00" << "24:00";
@@ -52,7 +48,6 @@ private slots:
         QTest::newRow("separator at the end") << "8:3:" << false << "" << "" << "08:3:";
         QTest::newRow("separator alone") << ":" << false << "" << "" << ":";
         QTest::newRow("letters pass the place test, not the count") << "abc" << false << "" << "" << "00:::";
-        QTest::newRow("99:99 with more hours") << "99:99" << true << "" << "" << "99:99";
         QTest::newRow("negative is no sign") << "-830" << false << "" << "" << ":830";
         QTest::newRow("blanks") << "    " << false << "" << "" << "";
         // clang-format on
@@ -86,7 +81,6 @@ private slots:
         // clang-format off
         QTest::newRow("just beyond a Long") << "214748364800" << 6;
         QTest::newRow("a Long still fits") << "214748364700" << 0;
-        QTest::newRow("a megabyte of digits") << QString(1 << 20, QLatin1Char('7')) << 6;
         QTest::newRow("a megabyte of letters") << QString(1 << 20, QLatin1Char('x')) << 0;
         // clang-format on
     }

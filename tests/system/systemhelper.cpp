@@ -2,8 +2,6 @@
 //   write FILE SECTION KEY COUNT   sets KEY to "KEY-1" ... "KEY-COUNT" (0: for ever)
 //   hold APPLICATION               registers as a running copy, prints "ready", waits
 //   race APPLICATION AT            the same at AT (ms since the epoch), prints "alone" or "second"
-//   exit CODE                      ends at once with that exit code
-//   sleep MILLISECONDS             ends after that time
 #include "platform/platform.h"
 #include "system/settingsfile.h"
 
@@ -42,12 +40,6 @@ int main(int argc, char *argv[])
         std::fflush(stdout);
         for (;;)
             QThread::sleep(1);
-    }
-    if (mode == QLatin1String("exit") && argc == 3)
-        return std::atoi(argv[2]);
-    if (mode == QLatin1String("sleep") && argc == 3) {
-        QThread::msleep(std::atol(argv[2]));
-        return 0;
     }
     return 2;
 }

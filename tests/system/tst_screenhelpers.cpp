@@ -102,7 +102,6 @@ private slots:
         // Cursor at (100, 50) pixels, 15 twips per pixel; the form at (1500, 600)
         // with a caption; the control at (300, 120) on it.
         // clang-format off
-        QTest::newRow("X on the screen") << "X" << "" << 1500;
         QTest::newRow("lower-case y on the screen") << "y" << "" << 750;
         QTest::newRow("Y on a form") << "Y" << "form" << 150;
         QTest::newRow("X on a control: border off") << "x" << "control" << 1500 - 300 - 1500 - 45;

@@ -62,7 +62,6 @@ private slots:
         QTest::newRow("first copy") << false << "Kassa" << false << false << true << "" << false;
         QTest::newRow("second copy refused") << true << "Kassa" << false << false << false << "Kassa" + cr2 + "Deze toepassing is reeds geopend !" + cr2 + taskManager + "kassa.exe from the list and press the 'End Process' button." << true;
         QTest::newRow("blank product name line dropped") << true << "   " << false << false << false << "Deze toepassing is reeds geopend !" + cr2 + taskManager + "kassa.exe from the list and press the 'End Process' button." << true;
-        QTest::newRow("multi-use allows a second copy") << true << "Kassa" << false << true << true << "" << false;
         QTest::newRow("another library: sound untouched") << true << "Kassa" << true << false << true << "" << true;
         // clang-format on
     }
