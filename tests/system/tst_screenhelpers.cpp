@@ -279,7 +279,6 @@ private slots:
         Form form;
         clsqorGenLib lib;
         QCOMPARE(test::errorNumber([&] { lib.SetDeskTop(&form); }), 438);
-        QCOMPARE(test::errorNumber([&] { lib.SetDeskTop(nullptr); }), 91);
     }
 };
 
