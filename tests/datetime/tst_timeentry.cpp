@@ -135,24 +135,20 @@ private slots:
 
     void getTime_data()
     {
-        QTest::addColumn<QString>("locale");
         QTest::addColumn<QString>("input");
         QTest::addColumn<QString>("result");
         // clang-format off
-        QTest::newRow("seconds dropped") << "nl_BE" << "17:05:59" << "#17:05#";
-        QTest::newRow("afternoon") << "en_US" << "2:15 PM" << "#14:15#";
-        QTest::newRow("a date alone is midnight") << "nl_BE" << "1/02/2003" << "#00:00#";
-        QTest::newRow("a literal stays") << "nl_BE" << "#08:30#" << "#08:30#";
-        QTest::newRow("a lone hash is its own literal") << "nl_BE" << "#" << "#";
-        QTest::newRow("empty") << "nl_BE" << "" << "";
+        QTest::newRow("seconds dropped") << "17:05:59" << "#17:05#";
+        QTest::newRow("a literal stays") << "#08:30#" << "#08:30#";
+        QTest::newRow("a lone hash is its own literal") << "#" << "#";
+        QTest::newRow("empty") << "" << "";
         // clang-format on
     }
     void getTime()
     {
-        QFETCH(QString, locale);
         QFETCH(QString, input);
         QFETCH(QString, result);
-        const auto machine = installDateMachine(locale);
+        const auto machine = installDateMachine(QStringLiteral("nl_BE"));
         clsqorGenLib lib;
         QVariantList args { input };
         QCOMPARE(lib.Invoke(QStringLiteral("GetTime"), args).toString(), result);

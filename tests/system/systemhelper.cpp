@@ -1,7 +1,7 @@
 // A small program the system tests start as a separate process:
 //   write FILE SECTION KEY COUNT   sets KEY to "KEY-1" ... "KEY-COUNT" (0: for ever)
-//   hold APPLICATION               registers as a running copy, prints "ready", waits
-//   race APPLICATION AT            the same at AT (ms since the epoch), prints "alone" or "second"
+//   race APPLICATION AT            registers as a running copy at AT (ms since the epoch),
+//                                  prints "alone" or "second", waits
 #include "platform/platform.h"
 #include "system/settingsfile.h"
 
@@ -23,13 +23,6 @@ int main(int argc, char *argv[])
         for (long i = 1; count == 0 || i <= count; ++i)
             qor::writeIni(section, key, key + QLatin1Char('-') + QString::number(i), file);
         return 0;
-    }
-    if (mode == QLatin1String("hold") && argc == 3) {
-        qor::platform().registerInstance(QString::fromLocal8Bit(argv[2]));
-        std::printf("ready\n");
-        std::fflush(stdout);
-        for (;;)
-            QThread::sleep(1);
     }
     if (mode == QLatin1String("race") && argc == 4) {
         const long long at = std::atoll(argv[3]);

@@ -107,7 +107,8 @@ private slots:
         clsqorGenLib lib;
         {
             QProcess other;
-            other.start(helper, { "hold", name });
+            other.start(
+                helper, { "race", name, QString::number(QDateTime::currentMSecsSinceEpoch()) });
             QVERIFY(other.waitForReadyRead(10000));
             QVERIFY(!lib.StartUp(&application));
             QVERIFY(lib.StartUp(&application, false, true));
