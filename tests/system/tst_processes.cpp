@@ -92,12 +92,16 @@ private slots:
         QTest::addColumn<QString>("description"); // of the start failure, "" when it started
         QTest::addColumn<int>("waited"); // milliseconds at least
         const QString refused = QStringLiteral("Invalid procedure call or argument");
+        const QString odd = folder.filePath(QStringLiteral("map met 'spatie'/hulp prog"));
+        QVERIFY(QDir().mkpath(QFileInfo(odd).path()));
+        QVERIFY(QFile::copy(QStandardPaths::findExecutable(QStringLiteral("false")), odd));
         // clang-format off
         QTest::newRow("waits for the end") << "sleep 0.3" << 1 << true << 0 << "" << 300;
         QTest::newRow("fails at once: 0 all the same") << "false" << 1 << true << 0 << "" << 0;
         QTest::newRow("missing program") << "/no/such/program.exe arg" << 1 << true << 53 << "File not found" << 0;
         QTest::newRow("not executable") << "\"" + QStringLiteral(QOR_SYSTEM_HELPER).section('/', 0, -2) + "/CMakeFiles\"" << 1 << true << 70 << "Permission denied" << 0;
         QTest::newRow("empty command") << "" << 1 << true << 5 << refused << 0;
+        QTest::newRow("a program in a folder with blanks and quotes") << "\"" + odd + "\" /s" << 4 << true << 0 << "" << 0;
         QTest::newRow("style hidden") << "true" << 0 << true << 0 << "" << 0;
         QTest::newRow("style minimised without focus") << "true" << 6 << true << 0 << "" << 0;
         QTest::newRow("5 is no style") << "true" << 5 << false << 5 << refused << 0;
@@ -128,19 +132,6 @@ private slots:
                     { "prompt", "Error starting task " + commandLine + "\r\n" + description },
                     { "buttons", 48 }, { "title", "Error" } }));
         }
-    }
-
-    void aProgramInAFolderWithBlanksAndQuotes()
-    {
-        QTemporaryDir dir;
-        const QString odd = dir.filePath(QStringLiteral("map met 'spatie'"));
-        QVERIFY(QDir().mkpath(odd));
-        const QString copy = odd + QStringLiteral("/hulp prog");
-        QVERIFY(QFile::copy(QStandardPaths::findExecutable(QStringLiteral("false")), copy));
-        QVERIFY(QFile::setPermissions(copy, QFile::ReadOwner | QFile::ExeOwner));
-        clsqorGenLib lib;
-        QCOMPARE(lib.ShellAndWait("\"" + copy + "\" /s", 4), 0);
-        QVERIFY(machine->shown().isEmpty());
     }
 
     void getFileList_data()
