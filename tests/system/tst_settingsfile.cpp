@@ -59,21 +59,6 @@ private slots:
         QFile::remove(path(QStringLiteral("qorSoft.ini")));
     }
 
-    void defaultFileInTheSystemFolder()
-    {
-        clsqorGenLib lib;
-        QString iniFile;
-        lib.WriteIni(
-            QStringLiteral("Kassa"), QStringLiteral("Printer"), QStringLiteral("LPT1"), iniFile);
-        QCOMPARE(iniFile, folder.path() + QStringLiteral("\\qorSoft.ini"));
-        QCOMPARE(contentsOf(path(QStringLiteral("qorSoft.ini"))),
-            QByteArray("[Kassa]\r\nPrinter=LPT1\r\n"));
-        QVariantList args { "kassa", "PRINTER", QString(), true };
-        QCOMPARE(lib.Invoke(QStringLiteral("GetIni"), args).toString(), QStringLiteral("LPT1"));
-        QCOMPARE(args[2].toString(), folder.path() + QStringLiteral("\\qorSoft.ini"));
-        QVERIFY(machine->shown().isEmpty());
-    }
-
     // What GetIni returns and tells for files of every kind.
     void getIni_data()
     {
@@ -82,13 +67,15 @@ private slots:
         QTest::addColumn<bool>("mbox");
         QTest::addColumn<QString>("value");
         QTest::addColumn<bool>("told");
+        QTest::addColumn<bool>("defaultFile"); // no file named: the system folder's
         // clang-format off
-        QTest::newRow("missing key, no box") << QByteArray("[S]\r\nK=v\r\n") << "L" << false << "" << false;
-        QTest::newRow("missing key told") << QByteArray("[S]\r\nK=v\r\n") << "L" << true << "" << true;
-        QTest::newRow("empty value told as missing") << QByteArray("[S]\r\nK=\r\n") << "K" << true << "" << true;
-        QTest::newRow("missing file") << QByteArray("<none>") << "K" << true << "" << true;
-        QTest::newRow("255 characters cut to 254") << "[S]\r\nK=" + QByteArray(255, 'y') + "\r\n" << "K" << true << QString(254, 'y') << false;
-        QTest::newRow("254 characters whole") << "[S]\r\nK=" + QByteArray(254, 'z') + "\r\n" << "K" << true << QString(254, 'z') << false;
+        QTest::newRow("missing key, no box") << QByteArray("[S]\r\nK=v\r\n") << "L" << false << "" << false << false;
+        QTest::newRow("missing key told") << QByteArray("[S]\r\nK=v\r\n") << "L" << true << "" << true << false;
+        QTest::newRow("empty value told as missing") << QByteArray("[S]\r\nK=\r\n") << "K" << true << "" << true << false;
+        QTest::newRow("missing file") << QByteArray("<none>") << "K" << true << "" << true << false;
+        QTest::newRow("255 characters cut to 254") << "[S]\r\nK=" + QByteArray(255, 'y') + "\r\n" << "K" << true << QString(254, 'y') << false << false;
+        QTest::newRow("254 characters whole") << "[S]\r\nK=" + QByteArray(254, 'z') + "\r\n" << "K" << true << QString(254, 'z') << false << false;
+        QTest::newRow("the system folder's file by default") << QByteArray("[s]\r\nk=v\r\n") << "K" << true << "v" << false << true;
         // clang-format on
     }
     void getIni()
@@ -96,13 +83,15 @@ private slots:
         QFETCH(QByteArray, contents);
         QFETCH(QString, key);
         QFETCH(bool, mbox);
-        const QString file = path(QStringLiteral("test.ini"));
+        QFETCH(bool, defaultFile);
+        const QString file = path(defaultFile ? "qorSoft.ini" : "test.ini");
         QFile::remove(file);
         if (contents != "<none>")
             writeBytes(file, contents);
         clsqorGenLib lib;
-        QString iniFile = file;
+        QString iniFile = defaultFile ? QString() : file;
         QTEST(lib.GetIni(QStringLiteral("S"), key, iniFile, mbox), "value");
+        QCOMPARE(iniFile, defaultFile ? folder.path() + QStringLiteral("\\qorSoft.ini") : file);
         QFETCH(bool, told);
         QCOMPARE(machine->shown().size(), told ? 1 : 0);
         if (told) {

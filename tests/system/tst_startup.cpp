@@ -51,18 +51,20 @@ private slots:
 
     void startUp_data()
     {
+        QTest::addColumn<QString>("object"); // "application", "bare" (no properties) or "none"
         QTest::addColumn<bool>("prevInstance");
         QTest::addColumn<QString>("productName");
         QTest::addColumn<bool>("otherDLL");
-        QTest::addColumn<bool>("multiUse");
         QTest::addColumn<bool>("result");
         QTest::addColumn<QString>("prompt"); // "" when nothing is shown
         QTest::addColumn<bool>("soundOff"); // after the call; it starts switched off
         // clang-format off
-        QTest::newRow("first copy") << false << "Kassa" << false << false << true << "" << false;
-        QTest::newRow("second copy refused") << true << "Kassa" << false << false << false << "Kassa" + cr2 + "Deze toepassing is reeds geopend !" + cr2 + taskManager + "kassa.exe from the list and press the 'End Process' button." << true;
-        QTest::newRow("blank product name line dropped") << true << "   " << false << false << false << "Deze toepassing is reeds geopend !" + cr2 + taskManager + "kassa.exe from the list and press the 'End Process' button." << true;
-        QTest::newRow("another library: sound untouched") << true << "Kassa" << true << false << true << "" << true;
+        QTest::newRow("first copy") << "application" << false << "Kassa" << false << true << "" << false;
+        QTest::newRow("second copy refused") << "application" << true << "Kassa" << false << false << "Kassa" + cr2 + "Deze toepassing is reeds geopend !" + cr2 + taskManager + "kassa.exe from the list and press the 'End Process' button." << true;
+        QTest::newRow("blank product name line dropped") << "application" << true << "   " << false << false << "Deze toepassing is reeds geopend !" + cr2 + taskManager + "kassa.exe from the list and press the 'End Process' button." << true;
+        QTest::newRow("another library: sound untouched") << "application" << true << "Kassa" << true << true << "" << true;
+        QTest::newRow("an object without properties starts") << "bare" << false << "" << false << true << "" << false;
+        QTest::newRow("no object starts") << "none" << false << "" << false << true << "" << false;
         // clang-format on
     }
     void startUp()
@@ -70,31 +72,24 @@ private slots:
         QFETCH(bool, prevInstance);
         QFETCH(QString, productName);
         QFETCH(bool, otherDLL);
-        QFETCH(bool, multiUse);
+        QFETCH(QString, object);
         QFETCH(QString, prompt);
         Application application;
         application.setProperty("PrevInstance", prevInstance);
         application.setProperty("ProductName", productName);
         application.setProperty("EXEName", QStringLiteral("kassa"));
         modGenLib().soundOff = true;
+        QObject bare;
+        QObject *started = object == "bare" ? &bare : object == "none" ? nullptr : &application;
         clsqorGenLib lib;
-        QTEST(lib.StartUp(&application, otherDLL, multiUse), "result");
-        QCOMPARE(modGenLib().application.data(), static_cast<QObject *>(&application));
+        QTEST(lib.StartUp(started, otherDLL), "result");
+        QCOMPARE(modGenLib().application.data(), started);
         QTEST(modGenLib().soundOff, "soundOff");
         if (prompt.isEmpty())
             QVERIFY(machine->shown().isEmpty());
         else
             QCOMPARE(test::onlyMessage(*machine),
                 test::messageBox(prompt, 16, QStringLiteral("qorSoft Software")));
-    }
-
-    void anApplicationObjectWithoutPropertiesStarts()
-    {
-        QObject bare;
-        clsqorGenLib lib;
-        QVERIFY(lib.StartUp(&bare));
-        QVERIFY(lib.StartUp(nullptr));
-        QVERIFY(machine->shown().isEmpty());
     }
 
     // Another process running the same application, found through its lock.
