@@ -19,12 +19,6 @@ namespace {
 
 const QString split = QString(2, QChar(0x00AD));
 
-void touch(const QString &path)
-{
-    QFile file(path);
-    QVERIFY(file.open(QIODevice::WriteOnly));
-}
-
 } // namespace
 
 class TestProcesses : public QObject
@@ -157,7 +151,8 @@ private slots:
         QVERIFY(QDir().mkpath(data + QStringLiteral("/sub.txt")));
         for (const char *name :
             { "A.TXT", "b.txt", "met spatie.txt", "geen", ".verborgen", "ro.dat" })
-            touch(data + QLatin1Char('/') + QLatin1String(name));
+            QVERIFY(
+                QFile(data + QLatin1Char('/') + QLatin1String(name)).open(QIODevice::WriteOnly));
         QVERIFY(QFile::setPermissions(data + QStringLiteral("/ro.dat"), QFile::ReadOwner));
         QCOMPARE(::mkfifo(QFile::encodeName(data + QStringLiteral("/pijp")).constData(), 0600), 0);
         clsqorGenLib lib;
