@@ -24,14 +24,7 @@ Area areaOf(const qorGenLib::WindowSize &size)
 ScreenInfo screenOf(int width, int height, int tppX, int tppY, std::optional<QRect> taskbar,
     QPoint cursor = QPoint())
 {
-    ScreenInfo screen;
-    screen.width = width;
-    screen.height = height;
-    screen.twipsPerPixelX = tppX;
-    screen.twipsPerPixelY = tppY;
-    screen.taskbar = taskbar;
-    screen.cursor = cursor;
-    return screen;
+    return ScreenInfo { width, height, tppX, tppY, taskbar, cursor, QPoint() };
 }
 
 QVariant value(QObject *object, const char *name)
