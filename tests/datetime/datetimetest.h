@@ -27,15 +27,4 @@ inline std::shared_ptr<RecordingPlatform> installDateMachine(
     return machine;
 }
 
-// The prompts of the one message shown, or "" when none was.
-inline QString shownPrompt(const RecordingPlatform &machine)
-{
-    const QList<ShownEvent> shown = machine.shown();
-    if (shown.isEmpty())
-        return QString();
-    if (shown.size() > 1)
-        return QStringLiteral("%1 messages").arg(shown.size());
-    return onlyMessage(machine).value(QStringLiteral("prompt")).toString();
-}
-
 } // namespace qor::test

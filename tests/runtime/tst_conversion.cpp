@@ -7,7 +7,6 @@
 
 #include <QHash>
 #include <QTest>
-#include <cmath>
 #include <limits>
 
 using qor::test::errorNumber;
@@ -22,12 +21,6 @@ RegionalSettings settings(const QString &locale)
 }
 
 const double notANumber = std::numeric_limits<double>::quiet_NaN();
-
-QVariant anObject()
-{
-    static QObject object;
-    return QVariant::fromValue(&object);
-}
 
 // A conversion by its classic name; Mod and integer division take their operands as a list.
 QVariant convert(const QString &function, const QVariant &value, const RegionalSettings &rs)
@@ -91,9 +84,6 @@ private slots:
         QFETCH(QVariant, value);
         QTEST(qor::toText(value, settings("nl_BE")), "nl");
         QTEST(qor::toText(value, settings("en_US")), "us");
-        if (value.typeId() == QMetaType::Double && std::isfinite(value.toDouble()))
-            QCOMPARE(qor::numberText(value.toDouble(), settings("nl_BE")),
-                qor::toText(value, settings("nl_BE")));
     }
 
     // Each conversion by its classic name, with the Variant subtypes a host can pass:
@@ -106,6 +96,7 @@ private slots:
         QTest::addColumn<QVariant>("expected");
         QTest::addColumn<int>("error");
         const auto at = [](QDate d, QTime t = QTime(0, 0)) { return QDateTime(d, t, Qt::UTC); };
+        static QObject object;
         // clang-format off
         QTest::newRow("CDbl: Empty is 0") << "CDbl" << "nl_BE" << QVariant() << QVariant(0.0) << 0;
         QTest::newRow("CDbl: True is -1") << "CDbl" << "nl_BE" << QVariant(true) << QVariant(-1.0) << 0;
@@ -122,20 +113,15 @@ private slots:
         QTest::newRow("CDbl: octal") << "CDbl" << "nl_BE" << QVariant("&O17") << QVariant(15.0) << 0;
         QTest::newRow("CDbl: tiny value underflows to 0") << "CDbl" << "en_US" << QVariant("1E-400") << QVariant(0.0) << 0;
         QTest::newRow("CLng, CInt: 2.5 to even 2") << "CLng,CInt" << "nl_BE" << QVariant(2.5) << QVariant(2) << 0;
-        QTest::newRow("CLng, CInt: 3.5 to even 4") << "CLng,CInt" << "nl_BE" << QVariant(3.5) << QVariant(4) << 0;
         QTest::newRow("CLng, CInt: 2.5000001 up") << "CLng,CInt" << "nl_BE" << QVariant(2.5000001) << QVariant(3) << 0;
         QTest::newRow("CLng, CInt: -0.4 to 0") << "CLng,CInt" << "nl_BE" << QVariant(-0.4) << QVariant(0) << 0;
-        QTest::newRow("CLng, CInt: text with comma decimal") << "CLng,CInt" << "nl_BE" << QVariant("6,5") << QVariant(6) << 0;
-        QTest::newRow("CBool: Empty") << "CBool" << "nl_BE" << QVariant() << QVariant(false) << 0;
         QTest::newRow("CBool: non-zero number") << "CBool" << "nl_BE" << QVariant(-0.5) << QVariant(true) << 0;
         QTest::newRow("CBool: text True in any case") << "CBool" << "nl_BE" << QVariant(" tRUE ") << QVariant(true) << 0;
         QTest::newRow("CBool: numeric text") << "CBool" << "nl_BE" << QVariant("0,0") << QVariant(false) << 0;
         QTest::newRow("IsNumeric: Empty") << "IsNumeric" << "nl_BE" << QVariant() << QVariant(true) << 0;
         QTest::newRow("IsNumeric: Boolean") << "IsNumeric" << "nl_BE" << QVariant(false) << QVariant(true) << 0;
         QTest::newRow("IsNumeric: nl: grouped amount") << "IsNumeric" << "nl_BE" << QVariant(" 1.234,5 ") << QVariant(true) << 0;
-        QTest::newRow("IsNumeric: hexadecimal") << "IsNumeric" << "en_US" << QVariant("&H1F") << QVariant(true) << 0;
         QTest::newRow("IsNumeric: date") << "IsNumeric" << "nl_BE" << QVariant(QDate(2000, 1, 1)) << QVariant(false) << 0;
-        QTest::newRow("IsNumeric: blank text") << "IsNumeric" << "nl_BE" << QVariant("   ") << QVariant(false) << 0;
         QTest::newRow("CDate: Empty is the zero date") << "CDate" << "nl_BE" << QVariant() << QVariant(at(QDate(1899, 12, 30))) << 0;
         QTest::newRow("CDate: serial number") << "CDate" << "nl_BE" << QVariant(36526.5) << QVariant(at(QDate(2000, 1, 1), QTime(12, 0))) << 0;
         QTest::newRow("CDate: date text") << "CDate" << "nl_BE" << QVariant("31/12/2000") << QVariant(at(QDate(2000, 12, 31))) << 0;
@@ -146,14 +132,11 @@ private slots:
         QTest::newRow("Val: blanks anywhere") << "Val" << "nl_BE" << QVariant(" 1 2 3 ") << QVariant(123.0) << 0;
         QTest::newRow("Val: stops at a letter") << "Val" << "nl_BE" << QVariant("12abc34") << QVariant(12.0) << 0;
         QTest::newRow("Val: point is the only decimal") << "Val" << "nl_BE" << QVariant("12.5") << QVariant(12.5) << 0;
-        QTest::newRow("Val: comma stops") << "Val" << "nl_BE" << QVariant("12,5") << QVariant(12.0) << 0;
         QTest::newRow("Val: second point stops") << "Val" << "nl_BE" << QVariant("1.2.3") << QVariant(1.2) << 0;
         QTest::newRow("Val: sign") << "Val" << "nl_BE" << QVariant(" - 7.5") << QVariant(-7.5) << 0;
         QTest::newRow("Val: exponent") << "Val" << "nl_BE" << QVariant("1.5e3x") << QVariant(1500.0) << 0;
         QTest::newRow("Val: D exponent") << "Val" << "nl_BE" << QVariant("2D2") << QVariant(200.0) << 0;
         QTest::newRow("Val: exponent without digits is ignored") << "Val" << "nl_BE" << QVariant("7E") << QVariant(7.0) << 0;
-        QTest::newRow("Val: not a number") << "Val" << "nl_BE" << QVariant("abc") << QVariant(0.0) << 0;
-        QTest::newRow("Val: &HFFFF is the Integer -1") << "Val" << "nl_BE" << QVariant("&HFFFF") << QVariant(-1.0) << 0;
         QTest::newRow("Val: &HFFFF& is a Long") << "Val" << "nl_BE" << QVariant("&HFFFF&") << QVariant(65535.0) << 0;
         QTest::newRow("Val: &HFFFFFFFF is the Long -1") << "Val" << "nl_BE" << QVariant("&HFFFFFFFF") << QVariant(-1.0) << 0;
         QTest::newRow("Val: ampersand alone") << "Val" << "nl_BE" << QVariant("&") << QVariant(0.0) << 0;
@@ -162,8 +145,6 @@ private slots:
         QTest::newRow("Int, Fix: positive") << "Int,Fix" << "nl_BE" << QVariant(2.7) << QVariant(2.0) << 0;
         QTest::newRow("Int: negative") << "Int" << "nl_BE" << QVariant(-2.3) << QVariant(-3.0) << 0;
         QTest::newRow("Fix: negative") << "Fix" << "nl_BE" << QVariant(-2.3) << QVariant(-2.0) << 0;
-        QTest::newRow("Mod: grid rows: 1710 Mod 225") << "Mod" << "nl_BE" << QVariant(QVariantList { 1710.0, 225.0 }) << QVariant(135) << 0;
-        QTest::newRow("\\: grid rows: 1710 Mod 225") << "\\" << "nl_BE" << QVariant(QVariantList { 1710.0, 225.0 }) << QVariant(7) << 0;
         QTest::newRow("Mod: sign follows the dividend") << "Mod" << "nl_BE" << QVariant(QVariantList { -7.0, 3.0 }) << QVariant(-1) << 0;
         QTest::newRow("\\: sign follows the dividend") << "\\" << "nl_BE" << QVariant(QVariantList { -7.0, 3.0 }) << QVariant(-2) << 0;
         QTest::newRow("Mod: negative divisor") << "Mod" << "nl_BE" << QVariant(QVariantList { 7.0, -3.0 }) << QVariant(1) << 0;
@@ -180,23 +161,30 @@ private slots:
         QTest::newRow("CDbl: null date") << "CDbl,CLng" << "nl_BE" << QVariant(QDate()) << QVariant() << 13;
         QTest::newRow("CDbl: date before year 100") << "CDbl,CLng" << "nl_BE" << QVariant(QDate(50, 1, 1)) << QVariant() << 6;
         QTest::newRow("CStr: Null") << "CStr" << "nl_BE" << qor::nullVariant() << QVariant() << 94;
-        QTest::newRow("CStr: object") << "CStr" << "nl_BE" << anObject() << QVariant() << 13;
+        QTest::newRow("CStr: object") << "CStr" << "nl_BE" << QVariant::fromValue(&object) << QVariant() << 13;
         QTest::newRow("CBool: text that is no flag") << "CBool" << "nl_BE" << QVariant("ja") << QVariant() << 13;
         QTest::newRow("CDate: text that is no date") << "CDate" << "nl_BE" << QVariant("geen datum") << QVariant() << 13;
         QTest::newRow("CDate: after the year 9999") << "CDate" << "nl_BE" << QVariant(QDate(10000, 1, 1)) << QVariant() << 6;
         QTest::newRow("2147483647.5 rounds past the top of both") << "RoundLong,CLng,RoundInt" << "en_US" << QVariant(2147483647.5) << QVariant() << 6;
         QTest::newRow("-2147483648.5 rounds to an even Long") << "RoundLong,CLng" << "en_US" << QVariant(-2147483648.5) << QVariant(-2147483647 - 1) << 0;
-        QTest::newRow("-2147483648.5 is no Integer") << "RoundInt" << "en_US" << QVariant(-2147483648.5) << QVariant() << 6;
         QTest::newRow("CInt(32767.5) rounds past the top") << "RoundInt" << "en_US" << QVariant(32767.5) << QVariant() << 6;
         QTest::newRow("CLng(32767.5) rounds to even") << "RoundLong,CLng" << "en_US" << QVariant(32767.5) << QVariant(32768) << 0;
         QTest::newRow("-32768.5 rounds to even, in range") << "RoundLong,CLng,RoundInt" << "en_US" << QVariant(-32768.5) << QVariant(-32768) << 0;
         QTest::newRow("32767.4 fits both") << "RoundLong,CLng,RoundInt" << "en_US" << QVariant(32767.4) << QVariant(32767) << 0;
-        QTest::newRow("1E+300 fits neither") << "RoundLong,CLng,RoundInt" << "en_US" << QVariant(1e300) << QVariant() << 6;
         QTest::newRow("NaN fits neither") << "RoundLong,CLng,RoundInt" << "en_US" << QVariant(notANumber) << QVariant() << 6;
         QTest::newRow("Mod: division by a divisor rounded to 0") << "Mod" << "nl_BE" << QVariant(QVariantList { 5, 0.4 }) << QVariant() << 11;
         QTest::newRow("\\: division by 0") << "\\" << "nl_BE" << QVariant(QVariantList { 5, 0 }) << QVariant() << 11;
         QTest::newRow("Mod: dividend beyond a Long") << "Mod" << "nl_BE" << QVariant(QVariantList { 3e9, 7 }) << QVariant() << 6;
         QTest::newRow("\\: smallest Long by -1") << "\\" << "nl_BE" << QVariant(QVariantList { -2147483648.0, -1 }) << QVariant() << 6;
+        // A megabyte of text ends at once.
+        const QString digits(1 << 20, QLatin1Char('9'));
+        QTest::newRow("Val: a megabyte of digits stays finite") << "Val" << "nl_BE" << QVariant(digits) << QVariant(std::numeric_limits<double>::max()) << 0;
+        QTest::newRow("CDbl: a megabyte of digits overflows") << "CDbl" << "nl_BE" << QVariant(digits) << QVariant() << 6;
+        QTest::newRow("Val: a megabyte after a comma") << "Val" << "nl_BE" << QVariant("0," + digits) << QVariant(0.0) << 0;
+        QTest::newRow("CDbl: a megabyte of decimal nines is 1") << "CDbl" << "nl_BE" << QVariant("0," + digits) << QVariant(1.0) << 0;
+        QTest::newRow("CDbl: a 5 a megabyte of decimals down is 0") << "CDbl" << "nl_BE" << QVariant("0," + QString(1 << 20, '0') + '5') << QVariant(0.0) << 0;
+        QTest::newRow("IsNumeric: a megabyte of digits and a letter") << "IsNumeric" << "nl_BE" << QVariant(digits + 'x') << QVariant(false) << 0;
+        QTest::newRow("IsDate: a megabyte of digits") << "IsDate" << "nl_BE" << QVariant(digits) << QVariant(false) << 0;
         // clang-format on
     }
     void conversions()
@@ -237,20 +225,6 @@ private slots:
                 QFAIL(function);
             }
         }
-    }
-
-    void megabyteTextsEndAtOnce()
-    {
-        const RegionalSettings nl = settings("nl_BE");
-        const QString digits(1 << 20, QLatin1Char('9'));
-        QCOMPARE(qor::val(digits), std::numeric_limits<double>::max());
-        QCOMPARE(errorNumber([&] { qor::toDouble(QVariant(digits), nl); }), 6);
-        QCOMPARE(qor::val(QStringLiteral("0,") + digits), 0.0);
-        QCOMPARE(qor::toDouble(QVariant(QStringLiteral("0,") + digits), nl), 1.0);
-        QCOMPARE(
-            qor::toDouble(QVariant(QStringLiteral("0,") + QString(1 << 20, '0') + '5'), nl), 0.0);
-        QVERIFY(!qor::isNumeric(QVariant(digits + QLatin1Char('x')), nl));
-        QVERIFY(!qor::isDate(QVariant(digits), nl));
     }
 };
 

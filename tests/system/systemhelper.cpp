@@ -1,9 +1,7 @@
 // A small program the system tests start as a separate process:
 //   write FILE SECTION KEY COUNT   sets KEY to "KEY-1" ... "KEY-COUNT" (0: for ever)
-//   hold APPLICATION               registers as a running copy, prints "ready", waits
-//   race APPLICATION AT            the same at AT (ms since the epoch), prints "alone" or "second"
-//   exit CODE                      ends at once with that exit code
-//   sleep MILLISECONDS             ends after that time
+//   race APPLICATION AT            registers as a running copy at AT (ms since the epoch),
+//                                  prints "alone" or "second", waits
 #include "platform/platform.h"
 #include "system/settingsfile.h"
 
@@ -26,13 +24,6 @@ int main(int argc, char *argv[])
             qor::writeIni(section, key, key + QLatin1Char('-') + QString::number(i), file);
         return 0;
     }
-    if (mode == QLatin1String("hold") && argc == 3) {
-        qor::platform().registerInstance(QString::fromLocal8Bit(argv[2]));
-        std::printf("ready\n");
-        std::fflush(stdout);
-        for (;;)
-            QThread::sleep(1);
-    }
     if (mode == QLatin1String("race") && argc == 4) {
         const long long at = std::atoll(argv[3]);
         const timespec instant { time_t(at / 1000), long(at % 1000) * 1000000L };
@@ -42,12 +33,6 @@ int main(int argc, char *argv[])
         std::fflush(stdout);
         for (;;)
             QThread::sleep(1);
-    }
-    if (mode == QLatin1String("exit") && argc == 3)
-        return std::atoi(argv[2]);
-    if (mode == QLatin1String("sleep") && argc == 3) {
-        QThread::msleep(std::atol(argv[2]));
-        return 0;
     }
     return 2;
 }

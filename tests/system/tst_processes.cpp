@@ -7,24 +7,17 @@
 #include <QDir>
 #include <QElapsedTimer>
 #include <QFile>
+#include <QStandardPaths>
 #include <QTemporaryDir>
 #include <QTest>
 
 #include <sys/stat.h>
-#include <unistd.h>
 
 using namespace qor;
 
 namespace {
 
-const QString helper = QStringLiteral(QOR_SYSTEM_HELPER);
 const QString split = QString(2, QChar(0x00AD));
-
-void touch(const QString &path)
-{
-    QFile file(path);
-    QVERIFY(file.open(QIODevice::WriteOnly));
-}
 
 } // namespace
 
@@ -43,7 +36,6 @@ private slots:
         QTest::addColumn<QString>("commandLine");
         QTest::addColumn<QStringList>("words");
         // clang-format off
-        QTest::newRow("program alone") << "notepad" << QStringList { "notepad" };
         QTest::newRow("blanks and tabs between words") << "  a \t b  c " << QStringList { "a", "b", "c" };
         QTest::newRow("quoted path with blanks") << "\"C:\\Program Files\\x.exe\" /s" << QStringList { "C:\\Program Files\\x.exe", "/s" };
         QTest::newRow("quotes inside a word") << "a\"b c\"d" << QStringList { "ab cd" };
@@ -94,14 +86,16 @@ private slots:
         QTest::addColumn<QString>("description"); // of the start failure, "" when it started
         QTest::addColumn<int>("waited"); // milliseconds at least
         const QString refused = QStringLiteral("Invalid procedure call or argument");
+        const QString odd = folder.filePath(QStringLiteral("map met 'spatie'/hulp prog"));
+        QVERIFY(QDir().mkpath(QFileInfo(odd).path()));
+        QVERIFY(QFile::copy(QStandardPaths::findExecutable(QStringLiteral("false")), odd));
         // clang-format off
-        QTest::newRow("exits at once") << "\"" + helper + "\" exit 0" << 1 << true << 0 << "" << 0;
-        QTest::newRow("waits for the end") << "\"" + helper + "\" sleep 300" << 1 << true << 0 << "" << 300;
-        QTest::newRow("fails at once: 0 all the same") << "\"" + helper + "\" exit 3" << 1 << true << 0 << "" << 0;
-        QTest::newRow("from the search path") << "true" << 1 << true << 0 << "" << 0;
+        QTest::newRow("waits for the end") << "sleep 0.3" << 1 << true << 0 << "" << 300;
+        QTest::newRow("fails at once: 0 all the same") << "false" << 1 << true << 0 << "" << 0;
         QTest::newRow("missing program") << "/no/such/program.exe arg" << 1 << true << 53 << "File not found" << 0;
         QTest::newRow("not executable") << "\"" + QStringLiteral(QOR_SYSTEM_HELPER).section('/', 0, -2) + "/CMakeFiles\"" << 1 << true << 70 << "Permission denied" << 0;
         QTest::newRow("empty command") << "" << 1 << true << 5 << refused << 0;
+        QTest::newRow("a program in a folder with blanks and quotes") << "\"" + odd + "\" /s" << 4 << true << 0 << "" << 0;
         QTest::newRow("style hidden") << "true" << 0 << true << 0 << "" << 0;
         QTest::newRow("style minimised without focus") << "true" << 6 << true << 0 << "" << 0;
         QTest::newRow("5 is no style") << "true" << 5 << false << 5 << refused << 0;
@@ -134,19 +128,6 @@ private slots:
         }
     }
 
-    void aProgramInAFolderWithBlanksAndQuotes()
-    {
-        QTemporaryDir dir;
-        const QString odd = dir.filePath(QStringLiteral("map met 'spatie'"));
-        QVERIFY(QDir().mkpath(odd));
-        const QString copy = odd + QStringLiteral("/hulp prog");
-        QVERIFY(QFile::copy(helper, copy));
-        QVERIFY(QFile::setPermissions(copy, QFile::ReadOwner | QFile::ExeOwner));
-        clsqorGenLib lib;
-        QCOMPARE(lib.ShellAndWait("\"" + copy + "\" exit 1", 4), 0);
-        QVERIFY(machine->shown().isEmpty());
-    }
-
     void getFileList_data()
     {
         QTest::addColumn<QString>("folder"); // relative to the test folder; "\" or "/"
@@ -156,7 +137,6 @@ private slots:
         QTest::newRow("pattern") << "data" << "*.txt" << QStringList { "A.TXT", "b.txt", "met spatie.txt" };
         QTest::newRow("trailing backslash") << "data\\" << "*.txt" << QStringList { "A.TXT", "b.txt", "met spatie.txt" };
         QTest::newRow("everything: no folders, hidden files or pipes") << "data" << "*.*" << QStringList { "A.TXT", "b.txt", "geen", "met spatie.txt", "ro.dat" };
-        QTest::newRow("nothing matches") << "data" << "*.wav" << QStringList {};
         QTest::newRow("missing folder") << "geen map" << "*.*" << QStringList {};
         QTest::newRow("a file as folder") << "data\\b.txt" << "*" << QStringList {};
         QTest::newRow("a quote in the pattern") << "data" << "\"*" << QStringList {};
@@ -171,7 +151,8 @@ private slots:
         QVERIFY(QDir().mkpath(data + QStringLiteral("/sub.txt")));
         for (const char *name :
             { "A.TXT", "b.txt", "met spatie.txt", "geen", ".verborgen", "ro.dat" })
-            touch(data + QLatin1Char('/') + QLatin1String(name));
+            QVERIFY(
+                QFile(data + QLatin1Char('/') + QLatin1String(name)).open(QIODevice::WriteOnly));
         QVERIFY(QFile::setPermissions(data + QStringLiteral("/ro.dat"), QFile::ReadOwner));
         QCOMPARE(::mkfifo(QFile::encodeName(data + QStringLiteral("/pijp")).constData(), 0600), 0);
         clsqorGenLib lib;
@@ -183,19 +164,6 @@ private slots:
         QCOMPARE(lib.GetFileList(dir.path() + QLatin1Char('/') + folder, wildcard), list);
     }
 
-    void unreadableFolderGivesNothing()
-    {
-        if (::geteuid() == 0)
-            QSKIP("the administrator reads any folder");
-        QTemporaryDir dir;
-        touch(dir.filePath(QStringLiteral("a.txt")));
-        QFile::setPermissions(dir.path(), QFile::WriteOwner);
-        clsqorGenLib lib;
-        const QString list = lib.GetFileList(dir.path(), QStringLiteral("*.*"));
-        QFile::setPermissions(dir.path(), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
-        QCOMPARE(list, QString());
-    }
-
     // PathRS takes one trailing backslash off a path; GetSystemDir off the system folder,
     // which it reads into a classic buffer of 255 characters.
     void paths_data()
@@ -205,7 +173,6 @@ private slots:
         QTest::addColumn<QString>("result");
         // clang-format off
         QTest::newRow("trailing backslash") << "PathRS" << "C:\\data\\" << "C:\\data";
-        QTest::newRow("drive root") << "PathRS" << "C:\\" << "C:";
         QTest::newRow("three blanks") << "PathRS" << "   " << "";
         QTest::newRow("only one of two removed") << "PathRS" << "C:\\data\\\\" << "C:\\data\\";
         QTest::newRow("blanks kept") << "PathRS" << " C:\\a\\ " << " C:\\a\\ ";

@@ -40,7 +40,6 @@ private slots:
         QTest::newRow("a line without = is no key") << handWritten << "Kassa" << "geen gelijkteken" << false << "";
         QTest::newRow("a comment is no key") << QByteArray(";a=1\n[S]\n;b=2\n") << "S" << ";b" << false << "";
         QTest::newRow("missing section") << handWritten << "Geen" << "Printer" << false << "";
-        QTest::newRow("empty file") << QByteArray() << "S" << "K" << false << "";
         QTest::newRow("no final newline") << QByteArray("[S]\nK=v") << "S" << "K" << true << "v";
         QTest::newRow("empty value") << QByteArray("[S]\r\nK=\r\n") << "S" << "K" << true << "";
         QTest::newRow("header with blanks") << QByteArray("  [ S ]  \r\nK=1\r\n") << "s" << "k" << true << "1";
