@@ -77,13 +77,11 @@ private slots:
         // clang-format off
         QTest::newRow("smallest") << 0.01 << "EUR0.01";
         QTest::newRow("largest") << 999999999.99 << "EUR999999999.99";
-        QTest::newRow("whole euros") << 5.0 << "EUR5.00";
         QTest::newRow("rounded to the cent") << 12.345678 << "EUR12.35";
         QTest::newRow("below a cent") << 0.004 << "";
         QTest::newRow("zero") << 0.0 << "";
         QTest::newRow("negative") << -12.3 << "";
         QTest::newRow("above the largest") << 1000000000.0 << "";
-        QTest::newRow("1e300") << 1e300 << "";
         QTest::newRow("not a number") << std::numeric_limits<double>::quiet_NaN() << "";
         QTest::newRow("infinite") << std::numeric_limits<double>::infinity() << "";
         // clang-format on
