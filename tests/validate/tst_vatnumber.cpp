@@ -32,11 +32,9 @@ private slots:
         QTest::newRow("wrong check digits") << "0123.456.748" << "BE" << "0123456748" << "" << "BE";
         QTest::newRow("00 is not the 0 shortcut") << "00" << "BE" << "00" << "" << "BE";
         QTest::newRow("blank before 0 is not the shortcut") << " 0" << "BE" << "0" << "" << "BE";
-        QTest::newRow("letters only") << "BTW" << "BE" << "" << "" << "BE";
         QTest::newRow("zero shortcut skips the check") << "0" << "BE" << "0" << "0000.000.000" << "BE";
         QTest::newRow("foreign number unchecked") << "NL 8043.64.789.B01" << "NL" << "NL 8043.64.789.B01" << "NL 8043.64.789.B01" << "NL";
         QTest::newRow("land code is case-sensitive") << "0123.456.748" << "be" << "0123.456.748" << "0123.456.748" << "be";
-        QTest::newRow("empty leaves even the land code alone") << "" << "" << "" << "" << "";
         QTest::newRow("blanks leave even the land code alone") << "   " << "" << "   " << "" << "";
         // clang-format on
     }
@@ -63,7 +61,6 @@ private slots:
         // clang-format off
         QTest::newRow("land code written back") << QVariantMap() << QVariantList { "0123 456 749", false, "" } << "0123.456.749" << QVariantList { "0123456749", false, "BE" } << QVariantMap();
         QTest::newRow("wrong: silent by default") << QVariantMap() << QVariantList { "0123.456.748" } << "" << QVariantList { "0123456748" } << QVariantMap();
-        QTest::newRow("wrong, MBox True: the message") << QVariantMap() << QVariantList { "0123.456.748", true } << "" << QVariantList { "0123456748", true } << messageBox("Ongeldig Ondernemingsnummer :" + cr2 + "Schrijfwijze  0000000000  of  0000.000.000", 48, "Fout !");
         QTest::newRow("wrong: markers of the missing German texts") << german << QVariantList { "123456749", true } << "" << QVariantList { "123456749", true } << messageBox(" [LL 31010 ?] " + cr2 + " [LL 31011 ?] ", 48, " [LL 31031 ?] ");
         // clang-format on
     }
