@@ -41,16 +41,13 @@ private slots:
     {
         QFETCH(QString, input);
         QFETCH(QString, landCode);
-        QString natNr = input;
-        const CheckResult check = checkNationalNumber(natNr, landCode);
-        QTEST(natNr, "cleaned");
-        test::compareCheck(check, input);
-        test::compareStorageCheck(input, check, natNr,
+        QFETCH(QString, cleaned);
+        test::compareCheck(input, cleaned,
             [&](QString &n, QString &d) { return checkNationalNumber(n, landCode, d); });
         // Belgium is the land when none is given.
         QString withoutLand = input;
         if (landCode == QLatin1String("BE"))
-            QCOMPARE(checkNationalNumber(withoutLand).display, check.display);
+            QTEST(checkNationalNumber(withoutLand).display, "display");
     }
 
     void throughTheLibrary_data()
