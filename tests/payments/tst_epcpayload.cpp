@@ -53,12 +53,10 @@ private slots:
         QFETCH(QString, field);
         QFETCH(QString, value);
         CreditTransfer given = transfer();
-        QString *fields[] = { &given.name, &given.iban, &given.bic, &given.reference, &given.text };
-        const char *names[] = { "name", "iban", "bic", "reference", "text" };
-        for (int i = 0; i < 5; ++i) {
-            if (field == QLatin1String(names[i]))
-                *fields[i] = value;
-        }
+        const QHash<QString, QString *> fields { { "name", &given.name }, { "iban", &given.iban },
+            { "bic", &given.bic }, { "reference", &given.reference }, { "text", &given.text } };
+        if (QString *changed = fields.value(field))
+            *changed = value;
         QTEST(epcPayload(given), "expected");
     }
 
