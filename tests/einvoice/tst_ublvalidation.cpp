@@ -1,9 +1,9 @@
-#include "einvoice/invoicejson.h"
 #include "einvoice/ublwriter.h"
 
 #include "officialrules.h"
+#include "testinvoices.h"
 
-#include <QJsonDocument>
+#include <QFileInfo>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -19,19 +19,14 @@ private slots:
     void initTestCase()
     {
         QVERIFY(m_dir.isValid());
-        const QDir invoices(QStringLiteral(QOR_EINVOICE_TEST_DATA "/invoices"));
-        const QStringList names = invoices.entryList({ QStringLiteral("*.json") }, QDir::Files);
-        QVERIFY2(names.size() >= 20, qPrintable(invoices.path()));
+        const QStringList files = test::testInvoiceFiles();
+        QVERIFY2(files.size() >= 20, QOR_EINVOICE_TEST_DATA);
         QStringList written;
-        for (const QString &name : names) {
-            QFile file(invoices.filePath(name));
-            QVERIFY(file.open(QIODevice::ReadOnly));
-            const InvoiceFromJson read
-                = invoiceFromJson(QJsonDocument::fromJson(file.readAll()).object());
-            QVERIFY2(read.errors.isEmpty(),
-                qPrintable(name + QStringLiteral(": ") + read.errors.join(u'\n')));
-            QFile out(m_dir.filePath(
-                QString(name).replace(QStringLiteral(".json"), QStringLiteral(".xml"))));
+        for (const QString &file : files) {
+            const InvoiceFromJson read = test::readInvoiceFile(file);
+            QVERIFY2(read.errors.isEmpty(), qPrintable(file + u'\n' + read.errors.join(u'\n')));
+            const QString name = QFileInfo(file).completeBaseName();
+            QFile out(m_dir.filePath(name + QStringLiteral(".xml")));
             QVERIFY(out.open(QIODevice::WriteOnly));
             out.write(writeUbl(read.invoice, UblLayout::Indented));
             written.append(out.fileName());
@@ -44,8 +39,7 @@ private slots:
     {
         QTest::addColumn<QString>("file");
         for (const QString &name : m_names)
-            QTest::newRow(qPrintable(name)) << m_dir.filePath(
-                QString(name).replace(QStringLiteral(".json"), QStringLiteral(".xml")));
+            QTest::newRow(qPrintable(name)) << m_dir.filePath(name + QStringLiteral(".xml"));
     }
     void passes()
     {
