@@ -5,7 +5,6 @@
 #include <QTest>
 
 using namespace qor;
-using test::messageBox;
 
 class TestIdentityCard : public QObject
 {
@@ -53,28 +52,6 @@ private slots:
         identNr = input.left(12);
         const RegionalSettings american = RegionalSettings::fromLocale(QStringLiteral("en_US"));
         QCOMPARE(checkIdentityCard(identNr, american).display, input.left(12));
-    }
-
-    void throughTheLibrary_data()
-    {
-        test::addMethodCallColumns();
-        const QVariantMap german { { "Offset", 30000 } };
-        // clang-format off
-        QTest::newRow("valid after the rewrite") << QVariantMap() << QVariantList { "000000009797" } << "000000009700" << QVariantList { "000000009700" } << QVariantMap();
-        QTest::newRow("refused: the rewritten number is the prompt") << QVariantMap() << QVariantList { "123456789097" } << "" << QVariantList { "123456789000" } << messageBox("123456789000", -1, "Controle Nummer Identiteitskaart");
-        QTest::newRow("refused: marker of the missing German title") << german << QVariantList { "591-2345678-29" } << "" << QVariantList { "591-2345678-29" } << messageBox("591-2345678-29", -1, " [LL 31040 ?] ");
-        QTest::newRow("refused, MBox False: silent") << QVariantMap() << QVariantList { "591234567828", false } << "" << QVariantList { "591234567828", false } << QVariantMap();
-        // clang-format on
-    }
-    void throughTheLibrary() { test::compareMethodCall(QStringLiteral("ControleerIdentNr")); }
-
-    void userAcceptsARefusedNumberAsForeign()
-    {
-        const auto machine = test::installRecordingPlatform(QStringLiteral("nl_BE"));
-        machine->setAnswers({ 1 });
-        QString identNr = QStringLiteral("591-2345678-29");
-        QCOMPARE(clsqorGenLib().ControleerIdentNr(identNr), QStringLiteral("591-2345678-29"));
-        QCOMPARE(machine->shown().size(), 1);
     }
 };
 

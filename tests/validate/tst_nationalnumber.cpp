@@ -5,8 +5,6 @@
 #include <QTest>
 
 using namespace qor;
-using test::cr2;
-using test::messageBox;
 
 class TestNationalNumber : public QObject
 {
@@ -49,18 +47,6 @@ private slots:
         if (landCode == QLatin1String("BE"))
             QTEST(checkNationalNumber(withoutLand).display, "display");
     }
-
-    void throughTheLibrary_data()
-    {
-        test::addMethodCallColumns();
-        const QVariantMap german { { "Offset", 30000 } };
-        // clang-format off
-        QTest::newRow("another land: untouched") << QVariantMap() << QVariantList { "85.07.30-033.29", true, "NL" } << "85.07.30-033.29" << QVariantList { "85.07.30-033.29", true, "NL" } << QVariantMap();
-        QTest::newRow("wrong: markers of the missing German texts") << german << QVariantList { "x" } << "" << QVariantList { "" } << messageBox(" [LL 31026 ?] " + cr2 + " [LL 31027 ?] ", 48, " [LL 31031 ?] ");
-        QTest::newRow("wrong, MBox False: silent") << QVariantMap() << QVariantList { "85073003329", false } << "" << QVariantList { "85073003329", false } << QVariantMap();
-        // clang-format on
-    }
-    void throughTheLibrary() { test::compareMethodCall(QStringLiteral("ControleerNatNr")); }
 };
 
 QTEST_APPLESS_MAIN(TestNationalNumber)

@@ -6,8 +6,6 @@
 #include <QTest>
 
 using namespace qor;
-using test::cr2;
-using test::messageBox;
 
 class TestPaymentReference : public QObject
 {
@@ -85,34 +83,6 @@ private slots:
         QVariantList args { typed, false };
         QCOMPARE(test::errorNumber([&] { clsqorGenLib().Invoke("ControleerOGM", args); }),
             RuntimeError::Overflow);
-    }
-
-    // GetOGM reports too long a reference, and makes the reference all the same.
-    void throughTheLibrary_data()
-    {
-        QTest::addColumn<QString>("method");
-        test::addMethodCallColumns();
-        const QVariantMap german { { "Offset", 30000 } };
-        const QString title = QStringLiteral("OstGenLib / Get OGM");
-        const QString dutch = QStringLiteral(
-            "ReferentieNummer 12345678901 bij bepalen van OGM overschrijdt 9 tekens !");
-        const QString helpDesk = QStringLiteral("Neem contact op met Velantis Help-Desk.");
-        const QVariantList tooLong { "1234567890-1" };
-        const QVariantList lastTen { "2345678901" };
-        // clang-format off
-        QTest::newRow("check valid") << "ControleerOGM" << QVariantMap() << QVariantList { "***000/0000/01919***" } << "000/0000/01919" << QVariantList { "000000001919" } << QVariantMap();
-        QTest::newRow("check wrong: the typed text in the message") << "ControleerOGM" << QVariantMap() << QVariantList { "+++000/0000/09797+++" } << "" << QVariantList { "" } << messageBox("+++000/0000/09797+++ is een ongeldige OGM...", 48, "Fout !");
-        QTest::newRow("check wrong: marker of the missing German text") << "ControleerOGM" << german << QVariantList { "12" } << "" << QVariantList { "" } << messageBox("12 [LL 31012 ?] ", 48, " [LL 31031 ?] ");
-        QTest::newRow("check wrong, MBox False: silent") << "ControleerOGM" << QVariantMap() << QVariantList { "000/0000/09797", false } << "" << QVariantList { "", false } << QVariantMap();
-        QTest::newRow("make: cleaned reference written back") << "GetOGM" << QVariantMap() << QVariantList { "F19" } << "000/0000/01919" << QVariantList { "19" } << QVariantMap();
-        QTest::newRow("make too long: the host's paragraph break") << "GetOGM" << QVariantMap { { "vbCr2", "\r\n" } } << tooLong << "234/5678/90169" << lastTen << messageBox(dutch + "\r\n" + helpDesk, 16, title);
-        QTest::newRow("make too long: markers of the missing German texts") << "GetOGM" << german << tooLong << "234/5678/90169" << lastTen << messageBox(" [LL 31221 ?] 12345678901 [LL 31222 ?] " + cr2 + " [LL 39700 ?] ", 16, title);
-        // clang-format on
-    }
-    void throughTheLibrary()
-    {
-        QFETCH(QString, method);
-        test::compareMethodCall(method);
     }
 };
 

@@ -5,8 +5,6 @@
 #include <QTest>
 
 using namespace qor;
-using test::cr2;
-using test::messageBox;
 
 class TestVatNumber : public QObject
 {
@@ -47,18 +45,6 @@ private slots:
             input, cleaned, [&](QString &n, QString &d) { return checkVatNumber(n, landCode, d); });
         QTEST(landCode, "landAfter");
     }
-
-    void throughTheLibrary_data()
-    {
-        test::addMethodCallColumns();
-        const QVariantMap german { { "Offset", 30000 } };
-        // clang-format off
-        QTest::newRow("land code written back") << QVariantMap() << QVariantList { "0123 456 749", false, "" } << "0123.456.749" << QVariantList { "0123456749", false, "BE" } << QVariantMap();
-        QTest::newRow("wrong: silent by default") << QVariantMap() << QVariantList { "0123.456.748" } << "" << QVariantList { "0123456748" } << QVariantMap();
-        QTest::newRow("wrong: markers of the missing German texts") << german << QVariantList { "123456749", true } << "" << QVariantList { "123456749", true } << messageBox(" [LL 31010 ?] " + cr2 + " [LL 31011 ?] ", 48, " [LL 31031 ?] ");
-        // clang-format on
-    }
-    void throughTheLibrary() { test::compareMethodCall(QStringLiteral("ControleerVAT")); }
 };
 
 QTEST_APPLESS_MAIN(TestVatNumber)
