@@ -45,8 +45,6 @@ QString breakdownText(const QList<VatBreakdown> &breakdown)
         if (entry.rate)
             text += entry.rate->normalized().toString();
         text += u':' + entry.taxableAmount.toString() + u'/' + entry.taxAmount.toString();
-        if (!entry.exemptionReasonCode.isEmpty())
-            text += u' ' + entry.exemptionReasonCode;
         entries.append(text);
     }
     return entries.join(QStringLiteral("; "));
@@ -82,13 +80,6 @@ private slots:
             << QStringList{"1 100 S 21"} << QStringList{"+7.50 S 6"}
             << "100.00" << "S21:100.00/21.00; S6:7.50/0.45"
             << "100.00|0.00|7.50|107.50|21.45|128.95|0.00|0.00|128.95";
-        QTest::newRow("reverse charge, intra-community, export: no VAT, usual reasons")
-            << QStringList{"1 100 AE 0", "1 50 K 0", "1 20 G 0"} << QStringList{}
-            << "100.00 50.00 20.00" << "AE0:100.00/0.00 VATEX-EU-AE; K0:50.00/0.00 VATEX-EU-IC; G0:20.00/0.00 VATEX-EU-G"
-            << "170.00|0.00|0.00|170.00|0.00|170.00|0.00|0.00|170.00";
-        QTest::newRow("out of scope has no rate")
-            << QStringList{"2 15 O"} << QStringList{}
-            << "30.00" << "O:30.00/0.00 VATEX-EU-O" << "30.00|0.00|0.00|30.00|0.00|30.00|0.00|0.00|30.00";
         // clang-format on
     }
     void amounts()
