@@ -23,11 +23,9 @@ private slots:
         // clang-format off
         QTest::newRow("prefix and points") << "BE 0123.456.749" << "BE" << "0123456749" << "0123.456.749" << "BE";
         QTest::newRow("empty land code means BE") << "0123456749" << "" << "0123456749" << "0123.456.749" << "BE";
-        QTest::newRow("multiple of 97 needs 97") << "0000.009.797" << "BE" << "0000009797" << "0000.009.797" << "BE";
         QTest::newRow("no length test") << "040317070101" << "BE" << "040317070101" << "040317.070.101" << "BE";
         QTest::newRow("nine digits read wrongly") << "123456749" << "BE" << "123456749" << "" << "BE";
         QTest::newRow("a megabyte: the first eight digits count") << mega << "" << mega << mega.left(mega.size() - 6) + "." + mega.mid(mega.size() - 6, 3) + "." + mega.right(3) << "BE";
-        QTest::newRow("wrong check digits") << "0123.456.748" << "BE" << "0123456748" << "" << "BE";
         QTest::newRow("00 is not the 0 shortcut") << "00" << "BE" << "00" << "" << "BE";
         QTest::newRow("blank before 0 is not the shortcut") << " 0" << "BE" << "0" << "" << "BE";
         QTest::newRow("zero shortcut skips the check") << "0" << "BE" << "0" << "0000.000.000" << "BE";
