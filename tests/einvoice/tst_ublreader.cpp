@@ -55,7 +55,6 @@ private slots:
         // clang-format off
         QTest::newRow("not XML") << QByteArray("Factuur F1: 121 EUR") << "line 1, column 1: Start tag expected.";
         QTest::newRow("empty") << QByteArray() << "line 1, column 0: Premature end of document.";
-        QTest::newRow("XML of another kind") << QByteArray("<html><body/></html>") << "line 1: the document is a {}html, not a UBL Invoice or CreditNote";
         QTest::newRow("invoice root in a wrong namespace") << QByteArray("<Invoice xmlns=\"urn:example\"/>") << "line 1: the document is a {urn:example}Invoice, not a UBL Invoice or CreditNote";
         QTest::newRow("100 MB of text") << QByteArray(100 * 1024 * 1024, 'x') << "the document has 104857600 bytes, more than the 67108864 accepted";
         QTest::newRow("external entity") << QByteArray("<?xml version=\"1.0\"?><!DOCTYPE Invoice [<!ENTITY x SYSTEM \"file:///etc/passwd\">]><Invoice>&x;</Invoice>") << "line 1, column 81: a DOCTYPE is not accepted in an e-invoice";

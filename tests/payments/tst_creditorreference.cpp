@@ -44,7 +44,6 @@ private slots:
         QTest::newRow("one letter") << "a" << "RF25A";
         QTest::newRow("twenty-one characters") << "123456789012345678901" << "RF40123456789012345678901";
         QTest::newRow("twenty-two characters") << "1234567890123456789012" << "";
-        QTest::newRow("dash ignored") << "2024-0017" << "RF8520240017";
         QTest::newRow("a slash") << "2024/0017" << "";
         QTest::newRow("blanks only") << "   " << "";
         // clang-format on
