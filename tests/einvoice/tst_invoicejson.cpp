@@ -43,9 +43,7 @@ private slots:
         QTest::newRow("nested misspelt member") << QByteArray(R"({"seller":{"address":{"city":"Gent"}}})") << "seller.address.city: unknown member";
         QTest::newRow("number for a text") << QByteArray(R"({"number":5})") << "number: a string is wanted, not a number";
         QTest::newRow("date that does not exist") << QByteArray(R"({"issueDate":"2026-02-30"})") << "issueDate: a date that exists is wanted as YYYY-MM-DD, not \"2026-02-30\"";
-        QTest::newRow("date in Belgian notation") << QByteArray(R"({"dueDate":"30/01/2026"})") << "dueDate: a date that exists is wanted as YYYY-MM-DD, not \"30/01/2026\"";
         QTest::newRow("amount in exponent form") << QByteArray(R"({"lines":[{"quantity":"1E3"}]})") << "lines[0].quantity: \"1E3\" is not a plain decimal number (character 'E')";
-        QTest::newRow("amount of thirty digits") << QByteArray(R"({"paidAmount":"123456789012345678901234567890"})") << "paidAmount: \"123456789012345678901234567890\" has more than 18 digits";
         QTest::newRow("JSON number too large") << QByteArray(R"({"paidAmount":1e20})") << "paidAmount: \"100000000000000000000.000000000000\" has more than 18 digits";
         QTest::newRow("unknown kind") << QByteArray(R"({"kind":"order"})") << "kind: \"invoice\" or \"creditNote\" is wanted, not \"order\"";
         QTest::newRow("type code out of range") << QByteArray(R"({"typeCode":3800})") << "typeCode: a whole number from 0 to 999 is wanted";

@@ -13,28 +13,15 @@ std::optional<Decimal> rateOf(const QStringList &parts, qsizetype index)
     return Decimal::parse(parts[index]);
 }
 
-// "3 0.335 S 21", with an optional base quantity: "10 2.50/100 S 21", and
-// line allowances and charges after a bar: "2 50 S 21 | -5 +1.50".
+// "3 0.335 S 21": quantity, net price, VAT category and rate.
 InvoiceLine lineOf(const QString &row)
 {
-    const QStringList halves = row.split(u'|');
-    const QStringList parts = halves[0].split(u' ', Qt::SkipEmptyParts);
+    const QStringList parts = row.split(u' ', Qt::SkipEmptyParts);
     InvoiceLine line;
     line.quantity = Decimal::parse(parts[0]);
-    const QStringList price = parts[1].split(u'/');
-    line.netPrice = Decimal::parse(price[0]);
-    if (price.size() > 1)
-        line.baseQuantity = Decimal::parse(price[1]);
+    line.netPrice = Decimal::parse(parts[1]);
     line.vatCategory = parts[2];
     line.vatRate = rateOf(parts, 3);
-    if (halves.size() > 1) {
-        for (const QString &amount : halves[1].split(u' ', Qt::SkipEmptyParts)) {
-            AllowanceCharge item;
-            item.isCharge = amount.startsWith(u'+');
-            item.amount = Decimal::parse(amount.mid(1));
-            line.allowanceCharges.append(item);
-        }
-    }
     return line;
 }
 
@@ -58,8 +45,6 @@ QString breakdownText(const QList<VatBreakdown> &breakdown)
         if (entry.rate)
             text += entry.rate->normalized().toString();
         text += u':' + entry.taxableAmount.toString() + u'/' + entry.taxAmount.toString();
-        if (!entry.exemptionReasonCode.isEmpty())
-            text += u' ' + entry.exemptionReasonCode;
         entries.append(text);
     }
     return entries.join(QStringLiteral("; "));
@@ -76,72 +61,36 @@ private slots:
     {
         QTest::addColumn<QStringList>("lines");
         QTest::addColumn<QStringList>("documentLevel");
-        QTest::addColumn<QString>("paidAndRounding");
         QTest::addColumn<QString>("lineNet");
         QTest::addColumn<QString>("breakdown");
         // BT-106 | 107 | 108 | 109 | 110 | 112 | 113 | 114 | 115
         QTest::addColumn<QString>("totals");
         // clang-format off
         QTest::newRow("3 x 0.335 rounds the line, not the price")
-            << QStringList{"3 0.335 S 21"} << QStringList{} << ""
+            << QStringList{"3 0.335 S 21"} << QStringList{}
             << "1.01" << "S21:1.01/0.21" << "1.01|0.00|0.00|1.01|0.21|1.22|0.00|0.00|1.22";
-        QTest::newRow("negative half rounds away from zero")
-            << QStringList{"-3 0.335 S 21"} << QStringList{} << ""
-            << "-1.01" << "S21:-1.01/-0.21" << "-1.01|0.00|0.00|-1.01|-0.21|-1.22|0.00|0.00|-1.22";
-        QTest::newRow("quantity 0.001")
-            << QStringList{"0.001 12.50 S 21"} << QStringList{} << ""
-            << "0.01" << "S21:0.01/0.00" << "0.01|0.00|0.00|0.01|0.00|0.01|0.00|0.00|0.01";
-        QTest::newRow("base quantity divides the price")
-            << QStringList{"10 2.50/100 S 6"} << QStringList{} << ""
-            << "0.25" << "S6:0.25/0.02" << "0.25|0.00|0.00|0.25|0.02|0.27|0.00|0.00|0.27";
         QTest::newRow("VAT rounded per breakdown, not per line")
-            << QStringList{"1 0.07 S 21", "1 0.07 S 21"} << QStringList{} << ""
+            << QStringList{"1 0.07 S 21", "1 0.07 S 21"} << QStringList{}
             << "0.07 0.07" << "S21:0.14/0.03" << "0.14|0.00|0.00|0.14|0.03|0.17|0.00|0.00|0.17";
         QTest::newRow("rates 21 and 21.00 share a breakdown")
-            << QStringList{"1 10 S 21", "1 10 S 21.00", "1 10 S 6"} << QStringList{} << ""
+            << QStringList{"1 10 S 21", "1 10 S 21.00", "1 10 S 6"} << QStringList{}
             << "10.00 10.00 10.00" << "S21:20.00/4.20; S6:10.00/0.60"
             << "30.00|0.00|0.00|30.00|4.80|34.80|0.00|0.00|34.80";
-        QTest::newRow("line allowance and charge in the line net")
-            << QStringList{"2 50 S 21 | -5 +1.50"} << QStringList{} << ""
-            << "96.50" << "S21:96.50/20.27" << "96.50|0.00|0.00|96.50|20.27|116.77|0.00|0.00|116.77";
-        QTest::newRow("document allowance and charge go to their own category")
-            << QStringList{"1 100 S 21", "1 100 S 6"} << QStringList{"-10 S 21", "+5 S 6"} << ""
-            << "100.00 100.00" << "S21:90.00/18.90; S6:105.00/6.30"
-            << "200.00|10.00|5.00|195.00|25.20|220.20|0.00|0.00|220.20";
         QTest::newRow("charge of a category without lines adds a breakdown")
-            << QStringList{"1 100 S 21"} << QStringList{"+7.50 S 6"} << ""
+            << QStringList{"1 100 S 21"} << QStringList{"+7.50 S 6"}
             << "100.00" << "S21:100.00/21.00; S6:7.50/0.45"
             << "100.00|0.00|7.50|107.50|21.45|128.95|0.00|0.00|128.95";
-        QTest::newRow("reverse charge, intra-community, export: no VAT, usual reasons")
-            << QStringList{"1 100 AE 0", "1 50 K 0", "1 20 G 0"} << QStringList{} << ""
-            << "100.00 50.00 20.00" << "AE0:100.00/0.00 VATEX-EU-AE; K0:50.00/0.00 VATEX-EU-IC; G0:20.00/0.00 VATEX-EU-G"
-            << "170.00|0.00|0.00|170.00|0.00|170.00|0.00|0.00|170.00";
-        QTest::newRow("out of scope has no rate")
-            << QStringList{"2 15 O"} << QStringList{} << ""
-            << "30.00" << "O:30.00/0.00 VATEX-EU-O" << "30.00|0.00|0.00|30.00|0.00|30.00|0.00|0.00|30.00";
-        QTest::newRow("zero rated and exempt carry no VAT")
-            << QStringList{"1 10 Z 0", "1 10 E 0"} << QStringList{} << ""
-            << "10.00 10.00" << "Z0:10.00/0.00; E0:10.00/0.00" << "20.00|0.00|0.00|20.00|0.00|20.00|0.00|0.00|20.00";
-        QTest::newRow("prepaid and rounding amounts")
-            << QStringList{"1 99.99 S 21"} << QStringList{} << "50 0.01"
-            << "99.99" << "S21:99.99/21.00" << "99.99|0.00|0.00|99.99|21.00|120.99|50.00|0.01|71.00";
         // clang-format on
     }
     void amounts()
     {
         QFETCH(QStringList, lines);
         QFETCH(QStringList, documentLevel);
-        QFETCH(QString, paidAndRounding);
         Invoice invoice;
         for (const QString &row : lines)
             invoice.lines.append(lineOf(row));
         for (const QString &row : documentLevel)
             invoice.allowanceCharges.append(allowanceChargeOf(row));
-        const QStringList paid = paidAndRounding.split(u' ', Qt::SkipEmptyParts);
-        if (paid.size() == 2) {
-            invoice.paidAmount = Decimal::parse(paid[0]);
-            invoice.roundingAmount = Decimal::parse(paid[1]);
-        }
         const InvoiceAmounts amounts = computeAmounts(invoice);
         QStringList lineNet;
         for (const Decimal &amount : amounts.lineNetAmounts)
@@ -178,7 +127,6 @@ private slots:
         QTest::newRow("stated line missing") << "dropLine" << "BT-131 of line 2";
         QTest::newRow("tax of a breakdown") << "tax" << "BT-117 of VAT S 6";
         QTest::newRow("breakdown not computed") << "extraBreakdown" << "BT-116 of VAT Z 0";
-        QTest::newRow("payable amount") << "payable" << "BT-115";
         // clang-format on
     }
     void differences()
@@ -199,8 +147,6 @@ private slots:
         else if (change == u"extraBreakdown")
             stated.vatBreakdown.append(
                 { QStringLiteral("Z"), Decimal::parse(u"0"), {}, {}, {}, {} });
-        else if (change == u"payable")
-            stated.totals.payableAmount = Decimal::parse(u"22.71");
         QStringList places;
         for (const AmountDifference &difference : compareAmounts(stated, computed))
             places.append(difference.place);

@@ -1,10 +1,10 @@
-#include "einvoice/invoicejson.h"
 #include "einvoice/ublnames.h"
 #include "einvoice/ublreader.h"
 #include "einvoice/ublwriter.h"
 
-#include <QDir>
-#include <QJsonDocument>
+#include "testinvoices.h"
+
+#include <QFileInfo>
 #include <QTest>
 
 using namespace qor::einvoice;
@@ -41,18 +41,6 @@ QByteArray invoiceWith(const char *body, const char *payable = "121.00")
 )";
 }
 
-QByteArray billionLaughs()
-{
-    QByteArray dtd = "<?xml version=\"1.0\"?>\n<!DOCTYPE Invoice [\n<!ENTITY l0 \"ha\">\n";
-    for (int i = 1; i < 10; ++i)
-        dtd += QStringLiteral(
-            "<!ENTITY l%1 \"&l%2;&l%2;&l%2;&l%2;&l%2;&l%2;&l%2;&l%2;&l%2;&l%2;\">\n")
-                   .arg(i)
-                   .arg(i - 1)
-                   .toLatin1();
-    return dtd + "]>\n<Invoice>&l9;</Invoice>";
-}
-
 } // namespace
 
 class TestUblReader : public QObject
@@ -67,14 +55,9 @@ private slots:
         // clang-format off
         QTest::newRow("not XML") << QByteArray("Factuur F1: 121 EUR") << "line 1, column 1: Start tag expected.";
         QTest::newRow("empty") << QByteArray() << "line 1, column 0: Premature end of document.";
-        QTest::newRow("XML of another kind") << QByteArray("<html><body/></html>") << "line 1: the document is a {}html, not a UBL Invoice or CreditNote";
         QTest::newRow("invoice root in a wrong namespace") << QByteArray("<Invoice xmlns=\"urn:example\"/>") << "line 1: the document is a {urn:example}Invoice, not a UBL Invoice or CreditNote";
         QTest::newRow("100 MB of text") << QByteArray(100 * 1024 * 1024, 'x') << "the document has 104857600 bytes, more than the 67108864 accepted";
-        QTest::newRow("entity expansion attack") << billionLaughs() << "line 13, column 2: a DOCTYPE is not accepted in an e-invoice";
         QTest::newRow("external entity") << QByteArray("<?xml version=\"1.0\"?><!DOCTYPE Invoice [<!ENTITY x SYSTEM \"file:///etc/passwd\">]><Invoice>&x;</Invoice>") << "line 1, column 81: a DOCTYPE is not accepted in an e-invoice";
-        QTest::newRow("undeclared entity") << invoiceWith("<cbc:Note>&x;</cbc:Note>") << "line 6, column 13: Entity 'x' not declared.";
-        QTest::newRow("truncated") << invoiceWith("").left(400) << "line 7, column 2: Premature end of document.";
-        QTest::newRow("amount of thirty digits") << invoiceWith("", "123456789012345678901234567890") << "Invoice/LegalMonetaryTotal/PayableAmount (line 12, column 36): \"123456789012345678901234567890\" has more than 18 digits";
         QTest::newRow("amount in exponent form") << invoiceWith("", "1.21E2") << "Invoice/LegalMonetaryTotal/PayableAmount (line 12, column 36): \"1.21E2\" is not a plain decimal number (character 'E')";
         QTest::newRow("date that does not exist") << invoiceWith("<cbc:DueDate>2026-02-30</cbc:DueDate>") << "Invoice/DueDate (line 6, column 13): \"2026-02-30\" is not a date that exists (YYYY-MM-DD)";
         QTest::newRow("amount in another currency") << invoiceWith("<cac:AllowanceCharge><cbc:ChargeIndicator>true</cbc:ChargeIndicator><cbc:Amount currencyID=\"USD\">1.00</cbc:Amount></cac:AllowanceCharge>") << "Invoice/AllowanceCharge/Amount (line 6, column 97): amount in USD in a document in EUR";
@@ -121,19 +104,14 @@ private slots:
     void readsBackWhatItWrites_data()
     {
         QTest::addColumn<QString>("file");
-        const QDir invoices(QStringLiteral(QOR_EINVOICE_TEST_DATA "/invoices"));
-        for (const QString &name : invoices.entryList({ QStringLiteral("*.json") }))
-            QTest::newRow(qPrintable(name)) << invoices.filePath(name);
-        QTest::newRow("every member")
-            << QStringLiteral(QOR_EINVOICE_TEST_DATA "/data/complete.json");
+        for (const QString &file : test::testInvoiceFiles())
+            QTest::newRow(qPrintable(QFileInfo(file).fileName())) << file;
+        QTest::newRow("every member") << test::completeInvoiceFile;
     }
     void readsBackWhatItWrites()
     {
         QFETCH(QString, file);
-        QFile json(file);
-        QVERIFY(json.open(QIODevice::ReadOnly));
-        const Invoice invoice
-            = invoiceFromJson(QJsonDocument::fromJson(json.readAll()).object()).invoice;
+        const Invoice invoice = test::readInvoiceFile(file).invoice;
         const QByteArray written = writeUbl(invoice);
         const UblReadResult read = readUbl(written);
         QCOMPARE(read.errors, QStringList());

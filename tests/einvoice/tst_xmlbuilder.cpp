@@ -1,9 +1,9 @@
-#include "einvoice/invoicejson.h"
 #include "einvoice/ublreference.h"
 #include "einvoice/xmlbuilder.h"
 
-#include <QDir>
-#include <QJsonDocument>
+#include "testinvoices.h"
+
+#include <QFileInfo>
 #include <QTest>
 #include <QXmlStreamWriter>
 
@@ -68,23 +68,20 @@ private slots:
     {
         QTest::addColumn<QString>("file");
         QTest::addColumn<int>("layout");
-        QDir folder(QStringLiteral(QOR_EINVOICE_TEST_DATA "/invoices"));
-        for (const QString &name : folder.entryList({ QStringLiteral("*.json") })) {
-            QTest::newRow(qPrintable(name)) << folder.filePath(name) << int(UblLayout::Compact);
+        for (const QString &file : test::testInvoiceFiles()) {
+            const QString name = QFileInfo(file).fileName();
+            QTest::newRow(qPrintable(name)) << file << int(UblLayout::Compact);
             QTest::newRow(qPrintable(name + QStringLiteral(" indented")))
-                << folder.filePath(name) << int(UblLayout::Indented);
+                << file << int(UblLayout::Indented);
         }
         QTest::newRow("every member indented")
-            << QStringLiteral(QOR_EINVOICE_TEST_DATA "/data/complete.json")
-            << int(UblLayout::Indented);
+            << test::completeInvoiceFile << int(UblLayout::Indented);
     }
     void writeUblAsQtWriter()
     {
         QFETCH(QString, file);
         QFETCH(int, layout);
-        QFile json(file);
-        QVERIFY(json.open(QIODevice::ReadOnly));
-        Invoice invoice = invoiceFromJson(QJsonDocument::fromJson(json.readAll()).object()).invoice;
+        Invoice invoice = test::readInvoiceFile(file).invoice;
         invoice.notes.append(awkward);
         invoice.seller.name = awkward;
         QCOMPARE(

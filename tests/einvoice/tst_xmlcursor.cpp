@@ -1,10 +1,10 @@
-#include "einvoice/invoicejson.h"
 #include "einvoice/ublreference.h"
 #include "einvoice/ublwriter.h"
 #include "einvoice/xmlcursor.h"
 
-#include <QDir>
-#include <QJsonDocument>
+#include "testinvoices.h"
+
+#include <QFileInfo>
 #include <QTest>
 
 using namespace qor::einvoice;
@@ -64,20 +64,15 @@ QString asText(const UblReadResult &read)
         + read.errors.join(u'\n') + read.dropped.join(u'\n') + differences.join(u'\n');
 }
 
-void addDocumentRows(const QString &folder, const QString &filter)
+// Each JSON invoice written compact and indented.
+void addWrittenInvoiceRows(const QStringList &files)
 {
-    for (const QFileInfo &file : QDir(folder).entryInfoList({ filter }, QDir::Files)) {
-        QFile json(file.filePath());
-        QVERIFY(json.open(QIODevice::ReadOnly));
-        QByteArray document = json.readAll();
-        if (file.suffix() == u"json") {
-            const Invoice invoice
-                = invoiceFromJson(QJsonDocument::fromJson(document).object()).invoice;
-            QTest::newRow(qPrintable(file.fileName() + QStringLiteral(" indented")))
-                << writeUbl(invoice, UblLayout::Indented);
-            document = writeUbl(invoice);
-        }
-        QTest::newRow(qPrintable(file.fileName())) << document;
+    for (const QString &file : files) {
+        const Invoice invoice = test::readInvoiceFile(file).invoice;
+        const QString name = QFileInfo(file).fileName();
+        QTest::newRow(qPrintable(name + QStringLiteral(" indented")))
+            << writeUbl(invoice, UblLayout::Indented);
+        QTest::newRow(qPrintable(name)) << writeUbl(invoice);
     }
 }
 
@@ -93,11 +88,6 @@ private slots:
     void readsAsQtReader_data()
     {
         QTest::addColumn<QByteArray>("document");
-        QTest::newRow("compact, no declaration")
-            << QByteArray("<a><b id=\"1\"/><c><dText>x</dText></c></a>");
-        QTest::newRow("indented with LF")
-            << QByteArray("<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<a>\n  <b id='1'>\n    "
-                          "<cText>t</cText>\n  </b>\n</a>\n");
         QTest::newRow("CR LF line ends, CR LF in text") << QByteArray(
             "<?xml version=\"1.0\"?>\r\n<a>\r\n <bText>one\r\ntwo</bText>\r\n <c/>\r\n</a>\r\n");
         QTest::newRow("lone CR line ends") << QByteArray("<a>\r<bText>one\rtwo</bText>\r<c/></a>");
@@ -121,7 +111,6 @@ private slots:
     void readsAsQtReader()
     {
         QFETCH(QByteArray, document);
-        XmlCursor cursor(document);
         QCOMPARE(walkDocument<XmlCursor>(document), walkDocument<QXmlStreamReader>(document));
         QVERIFY(!walkDocument<XmlCursor>(document).endsWith(QStringLiteral("error")));
     }
@@ -132,7 +121,6 @@ private slots:
     {
         QTest::addColumn<QByteArray>("document");
         QTest::newRow("DOCTYPE") << QByteArray("<!DOCTYPE a><a/>");
-        QTest::newRow("CDATA") << QByteArray("<a><![CDATA[x]]></a>");
         QTest::newRow("processing instruction") << QByteArray("<a><?pi x?></a>");
         QTest::newRow("other encoding")
             << QByteArray("<?xml version=\"1.0\" encoding=\"ISO-8859-1\"?><a/>");
@@ -160,11 +148,9 @@ private slots:
         QTest::newRow("reference to a surrogate") << QByteArray("<a>&#xD800;</a>");
         QTest::newRow("reference beyond Unicode") << QByteArray("<a>&#x110000;</a>");
         QTest::newRow("reference with a sign") << QByteArray("<a>&#+65;</a>");
-        QTest::newRow("reference with 0x") << QByteArray("<a>&#x0x41;</a>");
         QTest::newRow("control character") << QByteArray("<a>\x01</a>");
         QTest::newRow("]]> in text") << QByteArray("<a>]]></a>");
         QTest::newRow("-- inside a comment") << QByteArray("<a><!-- a -- b --></a>");
-        QTest::newRow("comment ending in --->") << QByteArray("<a><!-- a ---></a>");
         QTest::newRow("trailing colon in a name") << QByteArray("<a:/>");
     }
     void givesUp()
@@ -181,10 +167,13 @@ private slots:
     void readUblAsQtReader_data()
     {
         QTest::addColumn<QByteArray>("document");
-        addDocumentRows(
-            QStringLiteral(QOR_EINVOICE_TEST_DATA "/invoices"), QStringLiteral("*.json"));
-        addDocumentRows(QStringLiteral(QOR_EINVOICE_TEST_DATA "/data"), QStringLiteral("*.json"));
-        addDocumentRows(QStringLiteral(QOR_EINVOICE_RULES "/examples"), QStringLiteral("*.xml"));
+        addWrittenInvoiceRows(test::testInvoiceFiles() << test::completeInvoiceFile);
+        const QDir examples(QStringLiteral(QOR_EINVOICE_RULES "/examples"));
+        for (const QString &name : examples.entryList({ QStringLiteral("*.xml") }, QDir::Files)) {
+            QFile example(examples.filePath(name));
+            QVERIFY(example.open(QIODevice::ReadOnly));
+            QTest::newRow(qPrintable(name)) << example.readAll();
+        }
     }
     void readUblAsQtReader()
     {

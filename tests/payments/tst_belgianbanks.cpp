@@ -26,7 +26,6 @@ private slots:
         QTest::newRow("code not in the list") << "112-0000000-73" << false << "" << "";
         QTest::newRow("wrong check digits") << "096-1234567-68" << false << "" << "";
         QTest::newRow("another country") << "DE89370400440532013000" << false << "" << "";
-        QTest::newRow("empty") << "" << false << "" << "";
         // clang-format on
     }
     void bankOf()

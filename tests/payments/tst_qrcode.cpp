@@ -42,7 +42,6 @@ private slots:
         QTest::newRow("payment code as PNG") << transfer << "transfer.png" << 4;
         QTest::newRow("payment code as SVG") << transfer << "transfer.svg" << 4;
         QTest::newRow("upper-case extension") << transfer << "TRANSFER.PNG" << 4;
-        QTest::newRow("two pixels per module") << "Q" << "two.png" << 2;
         QTest::newRow("largest module") << "Q" << "large.png" << 20;
         QTest::newRow("largest EPC payload, 331 bytes") << QString(331, u'x') << "long.png" << 2;
         // clang-format on

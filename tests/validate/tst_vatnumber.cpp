@@ -5,8 +5,6 @@
 #include <QTest>
 
 using namespace qor;
-using test::cr2;
-using test::messageBox;
 
 class TestVatNumber : public QObject
 {
@@ -25,18 +23,14 @@ private slots:
         // clang-format off
         QTest::newRow("prefix and points") << "BE 0123.456.749" << "BE" << "0123456749" << "0123.456.749" << "BE";
         QTest::newRow("empty land code means BE") << "0123456749" << "" << "0123456749" << "0123.456.749" << "BE";
-        QTest::newRow("multiple of 97 needs 97") << "0000.009.797" << "BE" << "0000009797" << "0000.009.797" << "BE";
         QTest::newRow("no length test") << "040317070101" << "BE" << "040317070101" << "040317.070.101" << "BE";
         QTest::newRow("nine digits read wrongly") << "123456749" << "BE" << "123456749" << "" << "BE";
         QTest::newRow("a megabyte: the first eight digits count") << mega << "" << mega << mega.left(mega.size() - 6) + "." + mega.mid(mega.size() - 6, 3) + "." + mega.right(3) << "BE";
-        QTest::newRow("wrong check digits") << "0123.456.748" << "BE" << "0123456748" << "" << "BE";
         QTest::newRow("00 is not the 0 shortcut") << "00" << "BE" << "00" << "" << "BE";
         QTest::newRow("blank before 0 is not the shortcut") << " 0" << "BE" << "0" << "" << "BE";
-        QTest::newRow("letters only") << "BTW" << "BE" << "" << "" << "BE";
         QTest::newRow("zero shortcut skips the check") << "0" << "BE" << "0" << "0000.000.000" << "BE";
         QTest::newRow("foreign number unchecked") << "NL 8043.64.789.B01" << "NL" << "NL 8043.64.789.B01" << "NL 8043.64.789.B01" << "NL";
         QTest::newRow("land code is case-sensitive") << "0123.456.748" << "be" << "0123.456.748" << "0123.456.748" << "be";
-        QTest::newRow("empty leaves even the land code alone") << "" << "" << "" << "" << "";
         QTest::newRow("blanks leave even the land code alone") << "   " << "" << "   " << "" << "";
         // clang-format on
     }
@@ -44,30 +38,11 @@ private slots:
     {
         QFETCH(QString, input);
         QFETCH(QString, landCode);
-        const QString givenLand = landCode;
-        QString vatNr = input;
-        const CheckResult check = checkVatNumber(vatNr, landCode);
-        QTEST(vatNr, "cleaned");
+        QFETCH(QString, cleaned);
+        test::compareCheck(
+            input, cleaned, [&](QString &n, QString &d) { return checkVatNumber(n, landCode, d); });
         QTEST(landCode, "landAfter");
-        test::compareCheck(check, input);
-        QString land = givenLand;
-        test::compareStorageCheck(input, check, vatNr,
-            [&](QString &n, QString &d) { return checkVatNumber(n, land, d); });
-        QTEST(land, "landAfter");
     }
-
-    void throughTheLibrary_data()
-    {
-        test::addMethodCallColumns();
-        const QVariantMap german { { "Offset", 30000 } };
-        // clang-format off
-        QTest::newRow("land code written back") << QVariantMap() << QVariantList { "0123 456 749", false, "" } << "0123.456.749" << QVariantList { "0123456749", false, "BE" } << QVariantMap();
-        QTest::newRow("wrong: silent by default") << QVariantMap() << QVariantList { "0123.456.748" } << "" << QVariantList { "0123456748" } << QVariantMap();
-        QTest::newRow("wrong, MBox True: the message") << QVariantMap() << QVariantList { "0123.456.748", true } << "" << QVariantList { "0123456748", true } << messageBox("Ongeldig Ondernemingsnummer :" + cr2 + "Schrijfwijze  0000000000  of  0000.000.000", 48, "Fout !");
-        QTest::newRow("wrong: markers of the missing German texts") << german << QVariantList { "123456749", true } << "" << QVariantList { "123456749", true } << messageBox(" [LL 31010 ?] " + cr2 + " [LL 31011 ?] ", 48, " [LL 31031 ?] ");
-        // clang-format on
-    }
-    void throughTheLibrary() { test::compareMethodCall(QStringLiteral("ControleerVAT")); }
 };
 
 QTEST_APPLESS_MAIN(TestVatNumber)
