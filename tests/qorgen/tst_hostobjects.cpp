@@ -149,15 +149,15 @@ private slots:
         const QStringList ab { "a", "b" };
         const QStringList abc { "a", "b", "c" };
         // clang-format off
-        QTest::newRow("insert at the selection moves it") << ab << "select 1; add x at 1" << 0 << QStringList({ "a", "x", "b" }) << QVariantList({ 1, 0, 2 }) << 2 << 1;
-        QTest::newRow("insert at the end") << QStringList({ "a" }) << "add z at 1" << 0 << QStringList({ "a", "z" }) << QVariantList({ 1, 0 }) << -1 << 1;
-        QTest::newRow("insert beyond the end") << QStringList({ "a" }) << "add x at 2" << 5 << QStringList({ "a" }) << QVariantList({ 1 }) << -1 << -1;
-        QTest::newRow("remove beyond the end") << QStringList({ "a" }) << "remove 1" << 5 << QStringList({ "a" }) << QVariantList({ 1 }) << -1 << -1;
-        QTest::newRow("select below -1") << QStringList({ "a" }) << "select -2" << 380 << QStringList({ "a" }) << QVariantList({ 1 }) << -1 << -1;
-        QTest::newRow("remove before the selection moves it") << abc << "select 2; add y; remove 0" << 0 << QStringList({ "b", "c", "y" }) << QVariantList({ 2, 3, 0 }) << 1 << -1;
-        QTest::newRow("remove the selection") << abc << "select 2; remove 0; remove 1" << 0 << QStringList({ "b" }) << QVariantList({ 2 }) << -1 << -1;
-        QTest::newRow("fewer item data than entries") << abc << "data 7" << 0 << abc << QVariantList({ 7, 0, 0 }) << -1 << -1;
-        QTest::newRow("more item data than entries") << abc << "data 1 2 3 4" << 0 << abc << QVariantList({ 1, 2, 3 }) << -1 << -1;
+        QTest::newRow("insert at the selection moves it") << ab << "select 1; add x at 1" << 0 << QStringList({ "a", "x", "b" }) << QVariantList { 1, 0, 2 } << 2 << 1;
+        QTest::newRow("insert at the end") << QStringList({ "a" }) << "add z at 1" << 0 << QStringList({ "a", "z" }) << QVariantList { 1, 0 } << -1 << 1;
+        QTest::newRow("insert beyond the end") << QStringList({ "a" }) << "add x at 2" << 5 << QStringList({ "a" }) << QVariantList { 1 } << -1 << -1;
+        QTest::newRow("remove beyond the end") << QStringList({ "a" }) << "remove 1" << 5 << QStringList({ "a" }) << QVariantList { 1 } << -1 << -1;
+        QTest::newRow("select below -1") << QStringList({ "a" }) << "select -2" << 380 << QStringList({ "a" }) << QVariantList { 1 } << -1 << -1;
+        QTest::newRow("remove before the selection moves it") << abc << "select 2; add y; remove 0" << 0 << QStringList({ "b", "c", "y" }) << QVariantList { 2, 3, 0 } << 1 << -1;
+        QTest::newRow("remove the selection") << abc << "select 2; remove 0; remove 1" << 0 << QStringList({ "b" }) << QVariantList { 2 } << -1 << -1;
+        QTest::newRow("fewer item data than entries") << abc << "data 7" << 0 << abc << QVariantList { 7, 0, 0 } << -1 << -1;
+        QTest::newRow("more item data than entries") << abc << "data 1 2 3 4" << 0 << abc << QVariantList { 1, 2, 3 } << -1 << -1;
         // clang-format on
     }
     void listOperations()
