@@ -123,7 +123,7 @@ private slots:
         // clang-format on
     }
 
-    // With a companion array the order is checked against the literal model below.
+    // One array sorted in place, in each order: where empties, Nulls and other subtypes end up.
     void sorts()
     {
         QFETCH(QString, input);
