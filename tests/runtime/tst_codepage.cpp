@@ -65,6 +65,12 @@ private slots:
         for (int code = 0; code < 256; ++code)
             all.append(char(code));
         QCOMPARE(qor::toCp1252(qor::fromCp1252(all)), all);
+        // Each code's character: ASCII and Latin-1 outside 0x80-0x9F; inside it the
+        // windows-1252 block, whose five undefined codes keep their control characters.
+        QCOMPARE(qor::fromCp1252(all.first(0x80)), QString::fromLatin1(all.first(0x80)));
+        QCOMPARE(qor::fromCp1252(all.sliced(0xA0)), QString::fromLatin1(all.sliced(0xA0)));
+        QCOMPARE(qor::fromCp1252(all.sliced(0x80, 32)),
+            QStringLiteral(u"€\u0081‚ƒ„…†‡ˆ‰Š‹Œ\u008DŽ\u008F\u0090‘’“”•–—˜™š›œ\u009DžŸ"));
     }
 
     // Characters outside the code page become question marks, a surrogate pair one.
