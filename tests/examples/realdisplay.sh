@@ -18,6 +18,8 @@ finish() {
   rm -rf "$work"
 }
 trap finish EXIT
+# The names of the windows now shown, one a line.
+windows() { xdotool search --onlyvisible --name '.' getwindowname %@ 2> /dev/null | sort; }
 fail() { echo "FAIL: $*"; echo "windows: $(windows | tr '\n' '|')"; exit 1; }
 
 # A display number of its own: the server picks a free one and says which.
@@ -32,11 +34,13 @@ export XDG_RUNTIME_DIR="$work/runtime"
 mkdir -m 700 "$XDG_RUNTIME_DIR"
 openbox > "$work/openbox.log" 2>&1 &
 pids+=($!)
+# The demo starts once the window manager runs: a window mapped while openbox
+# takes over the screen can stay unviewable.
+for _ in $(seq 100); do xdotool get_desktop > /dev/null 2>&1 && break; sleep 0.1; done
+xdotool get_desktop > /dev/null 2>&1 || fail "openbox did not start: $(cat "$work/openbox.log")"
 "$demo" --system-dir "$work" > "$work/demo.log" 2>&1 &
 pids+=($!)
 
-# The names of the windows now shown, one a line.
-windows() { xdotool search --onlyvisible --name '.' getwindowname %@ 2> /dev/null | sort; }
 # Waits up to thirty seconds for a shown window whose name matches (or for
 # it to go): a loaded machine starts the demo slowly.
 wait_for() {
