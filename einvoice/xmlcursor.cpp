@@ -171,13 +171,7 @@ bool XmlCursor::readDeclaration()
             return false;
         ++m_pos;
         skipSpace();
-        const QChar quote = m_pos < m_document.size() ? m_document[m_pos] : QChar();
-        const qsizetype end = m_document.indexOf(quote, m_pos + 1);
-        if ((quote != u'"' && quote != u'\'') || end < 0)
-            return false;
-        value = m_document.mid(m_pos + 1, end - m_pos - 1);
-        m_pos = end + 1;
-        return true;
+        return readQuoted(value);
     };
     QStringView value;
     if (!pseudoAttribute(u"version", value) || value != u"1.0")
@@ -248,18 +242,17 @@ bool XmlCursor::readAttributes()
             return false;
         ++m_pos;
         skipSpace();
-        const QChar quote = m_pos < m_document.size() ? m_document[m_pos] : QChar();
-        const qsizetype end = m_document.indexOf(quote, m_pos + 1);
-        if ((quote != u'"' && quote != u'\'') || end < 0)
+        const qsizetype valueStart = m_pos + 1;
+        QStringView value;
+        if (!readQuoted(value))
             return false;
-        const QStringView value = m_document.mid(m_pos + 1, end - m_pos - 1);
         for (qsizetype i = 0; i < value.size(); ++i) {
             const char16_t c = value[i].unicode();
             qsizetype after = 0;
             // White space in a value is normalized: left to the full reader.
             if (c == u'<' || c == u'\t' || c == u'\n' || c == u'\r' || !isLiteralCharacter(c))
                 return false;
-            if (c == u'&' && !reference(m_pos + 1 + i, nullptr, after))
+            if (c == u'&' && !reference(valueStart + i, nullptr, after))
                 return false;
         }
         for (const Attribute &other : m_attributes) {
@@ -267,8 +260,19 @@ bool XmlCursor::readAttributes()
                 return false;
         }
         m_attributes.push_back({ name, value });
-        m_pos = end + 1;
     }
+}
+
+// A value in single or double quotes at m_pos, raw; moves past its closing quote.
+bool XmlCursor::readQuoted(QStringView &value)
+{
+    const QChar quote = charAt(m_pos);
+    const qsizetype end = m_document.indexOf(quote, m_pos + 1);
+    if ((quote != u'"' && quote != u'\'') || end < 0)
+        return false;
+    value = m_document.mid(m_pos + 1, end - m_pos - 1);
+    m_pos = end + 1;
+    return true;
 }
 
 bool XmlCursor::declareNamespace(const Attribute &attribute)

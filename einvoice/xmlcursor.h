@@ -90,6 +90,7 @@ private:
     TokenType readComment();
     TokenType readCharacters();
     bool readAttributes();
+    bool readQuoted(QStringView &value);
     bool declareNamespace(const Attribute &attribute);
     bool resolveNames();
     bool lookUp(QStringView prefix, QStringView &uri) const;
